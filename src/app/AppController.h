@@ -1,0 +1,128 @@
+#pragma once
+
+#include "domain/Calculator.h"
+#include "domain/DocumentList.h"
+#include "domain/Error.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace tabo {
+
+class Interaction;
+class Preferences;
+class Record;
+class Store;
+
+// The application controller: owns the store, the document list, the current
+// document and the summary figures, and runs every command. It never touches
+// a widget; whatever it needs from the person goes through Interaction.
+class AppController : public QObject
+{
+    Q_OBJECT
+
+public:
+    AppController(Preferences &prefs, Interaction &ui, QObject *parent = nullptr);
+    ~AppController() override;
+
+    Preferences &prefs() const { return m_prefs; }
+    Interaction &ui() const { return m_ui; }
+
+    // ---- Store location and lifecycle ----
+    // $XDG_DATA_HOME/Tabo, created when missing (failures are left to the
+    // store opening, which reports them).
+    static QString applicationFilesDirectory();
+    // The store file that is (or would be) opened: the custom folder while
+    // `useCustomPath` is on, else the default folder; "Tabo.mbdb" in it.
+    QString storeFilePath() const;
+    QString storeURL() const { return m_storeURL; }
+
+    // The store, opened on first use. nullptr when there is none; the reason
+    // has been presented once.
+    Store *managedObjectContext();
+    bool hasStore() const { return m_store != nullptr; }
+    bool isTerminating() const { return m_terminating; }
+
+    // Saves what changed; a failure is presented and returned.
+    Error saveContext();
+    void saveAction();
+
+    // Start-up, in this order.
+    void awakeFromNib();
+    void applicationDidFinishLaunching();
+
+    enum class TerminateReply { Now, Cancel };
+    TerminateReply applicationShouldTerminate();
+    void applicationWillTerminate();
+
+    // Moves the store to the folder now named by the preferences. The caller
+    // relaunches when this returns true.
+    bool customPathChanged();
+    // Runs before a store move; returns false to stop the move. The default
+    // does nothing and lets the move go on.
+    void setBackupBeforeMove(std::function<bool()> backup) { m_backupBeforeMove = std::move(backup); }
+
+    void restartApp();
+    // Files handed to us from outside are refused: always false.
+    bool applicationOpenFile(const QString &path);
+
+    // ---- Document list, filter and summary ----
+    DocumentList &documentList() { return m_list; }
+    const Summary &summary() const { return m_list.summary(); }
+    unsigned filterTag() const { return m_list.filterTag(); }
+    void setFilterTag(unsigned tag);
+    void setFilterPredicate();
+    // The filter button: with a filter on it clears it and returns false;
+    // otherwise returns true (the caller opens the popover).
+    bool openFilterPopover();
+    void selectFilterAction(unsigned tag);
+    // True when the filter button shows "torchGlow".
+    bool filterGlows() const { return m_list.filterTag() != 0; }
+
+    void calculateDatabase();
+    void calculateInvoice(Record *invoice);
+
+    // ---- Documents ----
+    Record *currentInvoice() const { return m_current; }
+    void setCurrentInvoice(Record *invoice);
+    Record *addInvoice();
+    Record *addQuote();
+    Date futureDateFromTodayWithDays(qint64 days) const;
+
+    QString invoiceNumberString() const;
+    QString quoteNumberString() const;
+    QString convertedInvoiceNumberString() const;
+    QString clientNumberString();
+    QString getPatternDateStringFromDate(Date date) const;
+
+    // Finds a document by uniqueID or number (first match, newest first).
+    Record *findDocument(const QString &idOrNumber);
+
+Q_SIGNALS:
+    void storeOpened();
+    void listChanged();
+    void summaryChanged();
+    void filterImageChanged(bool glowing);
+    void currentInvoiceChanged(tabo::Record *invoice);
+    // The application should quit (the upgrade was declined).
+    void terminateRequested();
+
+private:
+    Record *newDocument(bool invoice);
+    void openStore();
+
+    Preferences &m_prefs;
+    Interaction &m_ui;
+    std::unique_ptr<Store> m_store;
+    bool m_storeTried = false;
+    bool m_terminating = false;
+    QString m_storeURL;
+    DocumentList m_list;
+    Record *m_current = nullptr;
+    std::function<bool()> m_backupBeforeMove;
+};
+
+} // namespace tabo

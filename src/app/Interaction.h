@@ -1,0 +1,39 @@
+#pragma once
+
+#include "domain/Error.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace tabo {
+
+// Everything a command needs from the person goes through here. The GUI
+// answers with real dialogs, the command line with its options and flags, the
+// tests with a scripted fake; so every command runs the same way everywhere.
+class Interaction
+{
+public:
+    virtual ~Interaction() = default;
+
+    // A modal alert. Returns the index of the chosen button (0 is the first,
+    // the default); with no buttons an "OK" button is shown and 0 returned.
+    virtual int alert(const QString &title, const QString &text, const QStringList &buttons) = 0;
+
+    // The application's error presentation.
+    virtual void presentError(const Error &error) = 0;
+
+    struct FileRequest
+    {
+        QString title;
+        QStringList extensions; // without the dot; empty means any file
+        QString suggestedName;  // save panels only
+        QString directory;
+        bool canCreateFolders = false;
+        bool chooseFolders = false; // open panels only
+    };
+    // Open and save panels; an empty result means the person cancelled.
+    virtual QString openFile(const FileRequest &request) = 0;
+    virtual QString saveFile(const FileRequest &request) = 0;
+};
+
+} // namespace tabo

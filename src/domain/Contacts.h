@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace tabo {
+
+class Preferences;
+class Record;
+class Store;
+
+// One person or company read from a vCard (3.0 or 4.0): the preferred postal
+// address and e-mail address.
+struct Contact
+{
+    QString firstName;
+    QString lastName;
+    QString organization;
+    QString street;
+    QString city;
+    QString zip;
+    QString state;
+    QString country;
+    QString email;
+    QString displayName() const;
+};
+
+// The address popover's fields.
+struct AddressFields
+{
+    QString address;
+    QString clientNumber;
+    QString emailAddress;
+    QString customerVATID;
+    QString customerTitle;
+    QString firstName;
+    QString lastName;
+};
+
+namespace Contacts {
+
+// Every usable contact of a vCard file; an empty list with a reason when the
+// data is not a vCard or holds none.
+QList<Contact> parseVCards(const QByteArray &data, QString *error);
+QList<Contact> readVCardFile(const QString &path, QString *error);
+
+// `prefsAddressPattern` filled from a contact.
+QString formatAddress(const QString &pattern, const Contact &contact);
+// selectAddressRecord: the popover fields from a contact, or false (and the
+// message) when the address pattern is empty.
+bool fieldsFromContact(const Preferences &prefs, const Contact &contact, AddressFields *fields,
+                       QString *message);
+
+// The client name by `clientNamePatternTag`.
+QString customerName(qint64 clientNamePatternTag, const QString &title, const QString &first,
+                     const QString &last);
+
+// selectAddress: copies the fields into the document and remembers the
+// address unless one with the same text exists. Returns the new Address
+// record, or nullptr when it was already known.
+Record *selectAddress(Store &store, Record &document, const AddressFields &fields,
+                      qint64 clientNamePatternTag);
+
+} // namespace Contacts
+
+} // namespace tabo

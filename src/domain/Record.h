@@ -1,0 +1,96 @@
+#pragma once
+
+#include "domain/Date.h"
+#include "domain/EntityModel.h"
+
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+#include <bitset>
+#include <cstdint>
+#include <memory>
+
+namespace tabo {
+
+class Store;
+
+// One stored record of any entity. Attributes are addressed by index (the
+// entity's Attr enum) or by key name; an empty attribute reads as 0, false,
+// "" or an invalid Date. Numbers, booleans and dates live in one array of
+// doubles, texts in another. Records are owned by their Store.
+class Record
+{
+public:
+    Record(Store *store, EntityId entity, qint64 id);
+    ~Record();
+    Record(const Record &) = delete;
+    Record &operator=(const Record &) = delete;
+
+    EntityId entityId() const { return m_entity; }
+    const EntityDesc &desc() const { return *m_desc; }
+    qint64 id() const { return m_id; }
+    Store *store() const { return m_store; }
+
+    // Typed reads.
+    bool isNull(int attr) const;
+    double num(int attr) const;
+    int integer(int attr) const { return int(num(attr)); }
+    bool boolean(int attr) const { return num(attr) != 0.0; }
+    float single(int attr) const { return float(num(attr)); }
+    Date date(int attr) const;
+    QString text(int attr) const;
+
+    // Typed writes; writing the value already held changes nothing.
+    void setNum(int attr, double value);
+    void setInt(int attr, int value) { setNum(attr, double(value)); }
+    void setBool(int attr, bool value) { setNum(attr, value ? 1.0 : 0.0); }
+    void setSingle(int attr, float value) { setNum(attr, double(value)); }
+    void setDate(int attr, const Date &value);
+    void setText(int attr, const QString &value);
+    void setNull(int attr);
+
+    // Key-name access. value() gives an invalid QVariant for an empty attribute,
+    // otherwise QString, int, bool, double, float or tabo::Date by the type.
+    QVariant value(int attr) const;
+    bool setValue(int attr, const QVariant &value); // false when it cannot convert
+    QVariant value(QStringView key) const;
+    bool setValue(QStringView key, const QVariant &value); // false for unknown keys
+
+    // Relationships (index into desc().relations).
+    Record *toOne(int rel) const;
+    void setToOne(int rel, Record *target); // keeps the inverse to-many in step
+    const QList<Record *> &toMany(int rel) const;
+
+    bool isInserted() const { return m_inserted; }
+    bool isDeleted() const { return m_deleted; }
+    bool hasChanges() const { return m_inserted || m_deleted || m_changed.any(); }
+
+private:
+    friend class Store;
+    using ChangeSet = std::bitset<128>;
+
+    void ensureText(int slot) const;
+    void markChanged(int attr);
+    int toOneSlot(int rel) const;
+
+    Store *m_store;
+    const EntityDesc *m_desc;
+    EntityId m_entity;
+    bool m_inserted = false;
+    bool m_deleted = false;
+    bool m_inDirty = false;
+    mutable bool m_textLoaded = true;
+    qint64 m_id;
+    std::uint64_t m_nullMask; // bit per numeric slot
+    std::unique_ptr<double[]> m_num;
+    std::unique_ptr<QString[]> m_text;
+    ChangeSet m_changed;
+    // To-one: foreign key and resolved record per to-one relation.
+    std::unique_ptr<qint64[]> m_fk;
+    mutable std::unique_ptr<Record *[]> m_toOne;
+    // To-many: loaded on first use.
+    mutable std::unique_ptr<std::unique_ptr<QList<Record *>>[]> m_toMany;
+};
+
+} // namespace tabo

@@ -1,0 +1,429 @@
+#include "prefs/Preferences.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <plist/plist.h>
+
+#include <array>
+#include <cmath>
+#include <cstdlib>
+
+namespace tabo {
+
+namespace {
+
+using Type = Preferences::Type;
+
+const std::array<Preferences::KeyInfo, Preferences::KeyCount> &table()
+{
+    static const std::array<Preferences::KeyInfo, Preferences::KeyCount> keys = {{
+#define TABO_PREF_ROW(id, name, type) {Preferences::id, QStringLiteral(name), Type::type, QVariant()},
+#define TABO_PREF_ROW_D(id, name, type, fallback)                                                   \
+    {Preferences::id, QStringLiteral(name), Type::type, QVariant(QStringLiteral(fallback))},
+        TABO_PREF_KEYS(TABO_PREF_ROW, TABO_PREF_ROW_D)
+#undef TABO_PREF_ROW
+#undef TABO_PREF_ROW_D
+    }};
+    return keys;
+}
+
+const QHash<QString, int> &byName()
+{
+    static const QHash<QString, int> map = [] {
+        QHash<QString, int> m;
+        for (const auto &k : table())
+            m.insert(k.name, k.key);
+        return m;
+    }();
+    return map;
+}
+
+// Values come back from an INI file as text; these parse them strictly so that
+// a value of the wrong type reads as empty.
+bool parseInteger(const QVariant &v, qint64 *out)
+{
+    if (v.metaType().id() == QMetaType::Bool) {
+        *out = v.toBool() ? 1 : 0;
+        return true;
+    }
+    if (v.metaType().id() == QMetaType::Double || v.metaType().id() == QMetaType::Float) {
+        *out = qint64(v.toDouble());
+        return true;
+    }
+    if (v.metaType().id() != QMetaType::QString && v.metaType().id() != QMetaType::LongLong
+        && v.metaType().id() != QMetaType::Int)
+        return false;
+    const QString s = v.toString().trimmed();
+    bool ok = false;
+    *out = s.toLongLong(&ok);
+    if (!ok) {
+        const double d = QLocale::c().toDouble(s, &ok);
+        if (ok && std::isfinite(d))
+            *out = qint64(d);
+    }
+    return ok;
+}
+
+bool parseReal(const QVariant &v, double *out)
+{
+    if (v.metaType().id() == QMetaType::QByteArray || v.metaType().id() == QMetaType::QStringList)
+        return false;
+    bool ok = false;
+    *out = QLocale::c().toDouble(v.toString().trimmed(), &ok);
+    return ok;
+}
+
+bool parseBool(const QVariant &v, bool *out)
+{
+    const QString s = v.toString().trimmed().toLower();
+    if (s == QLatin1String("true") || s == QLatin1String("1") || s == QLatin1String("yes")) {
+        *out = true;
+        return true;
+    }
+    if (s == QLatin1String("false") || s == QLatin1String("0") || s == QLatin1String("no")) {
+        *out = false;
+        return true;
+    }
+    return false;
+}
+
+QVariant fromPlistNode(plist_t node)
+{
+    switch (plist_get_node_type(node)) {
+    case PLIST_STRING: {
+        char *s = nullptr;
+        plist_get_string_val(node, &s);
+        const QString r = QString::fromUtf8(s ? s : "");
+        free(s);
+        return r;
+    }
+    case PLIST_BOOLEAN: {
+        uint8_t b = 0;
+        plist_get_bool_val(node, &b);
+        return bool(b);
+    }
+    case PLIST_UINT: {
+        uint64_t u = 0;
+        plist_get_uint_val(node, &u);
+        return qint64(u);
+    }
+    case PLIST_REAL: {
+        double d = 0;
+        plist_get_real_val(node, &d);
+        return d;
+    }
+    case PLIST_DATE: {
+        int32_t sec = 0, usec = 0;
+        plist_get_date_val(node, &sec, &usec);
+        return QVariant::fromValue(Date::fromReferenceSeconds(sec + usec / 1e6));
+    }
+    case PLIST_DATA: {
+        char *buf = nullptr;
+        uint64_t len = 0;
+        plist_get_data_val(node, &buf, &len);
+        const QByteArray r(buf, qsizetype(len));
+        free(buf);
+        return r;
+    }
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+QString Preferences::defaultFilePath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+           + QStringLiteral("/Tabo/Tabo.conf");
+}
+
+Preferences::Preferences(const QString &filePath)
+    : m_settings(std::make_unique<QSettings>(filePath, QSettings::IniFormat))
+{
+}
+
+Preferences::~Preferences() = default;
+
+const Preferences::KeyInfo &Preferences::info(Key key)
+{
+    return table()[key];
+}
+
+int Preferences::keyIndex(QStringView name)
+{
+    return byName().value(name.toString(), -1);
+}
+
+QString Preferences::typeName(Type type)
+{
+    switch (type) {
+    case Type::String: return QStringLiteral("string");
+    case Type::Int: return QStringLiteral("integer");
+    case Type::Bool: return QStringLiteral("boolean");
+    case Type::Real: return QStringLiteral("real");
+    case Type::Date: return QStringLiteral("date");
+    case Type::Data: return QStringLiteral("data");
+    }
+    return {};
+}
+
+bool Preferences::contains(Key key) const
+{
+    return m_settings->contains(info(key).name);
+}
+
+QString Preferences::string(Key key) const
+{
+    const QVariant v = value(key);
+    return v.metaType().id() == QMetaType::QString ? v.toString() : QString();
+}
+
+qint64 Preferences::integer(Key key) const
+{
+    const QVariant v = value(key);
+    return v.isValid() ? v.toLongLong() : 0;
+}
+
+bool Preferences::boolean(Key key) const
+{
+    const QVariant v = value(key);
+    return v.isValid() && v.toBool();
+}
+
+double Preferences::real(Key key) const
+{
+    const QVariant v = value(key);
+    return v.isValid() ? v.toDouble() : 0.0;
+}
+
+Date Preferences::date(Key key) const
+{
+    const QVariant v = value(key);
+    return v.metaType() == QMetaType::fromType<Date>() ? v.value<Date>() : Date();
+}
+
+QByteArray Preferences::data(Key key) const
+{
+    const QVariant v = value(key);
+    return v.metaType().id() == QMetaType::QByteArray ? v.toByteArray() : QByteArray();
+}
+
+QVariant Preferences::value(Key key) const
+{
+    const KeyInfo &k = info(key);
+    const QVariant v = m_settings->value(k.name);
+    if (!v.isValid())
+        return k.fallback;
+    switch (k.type) {
+    case Type::String:
+        if (v.metaType().id() == QMetaType::QByteArray || v.metaType().id() == QMetaType::QStringList)
+            return QString();
+        return v.toString();
+    case Type::Int: {
+        qint64 i = 0;
+        return parseInteger(v, &i) ? QVariant(i) : QVariant(qint64(0));
+    }
+    case Type::Bool: {
+        bool b = false;
+        return parseBool(v, &b) ? QVariant(b) : QVariant(false);
+    }
+    case Type::Real: {
+        double d = 0;
+        return parseReal(v, &d) ? QVariant(d) : QVariant(0.0);
+    }
+    case Type::Date:
+        return QVariant::fromValue(Date::fromIso8601(v.toString()));
+    case Type::Data:
+        return v.metaType().id() == QMetaType::QByteArray ? v : QVariant(QByteArray());
+    }
+    return {};
+}
+
+void Preferences::setString(Key key, const QString &value)
+{
+    m_settings->setValue(info(key).name, value);
+}
+
+void Preferences::setInteger(Key key, qint64 value)
+{
+    m_settings->setValue(info(key).name, value);
+}
+
+void Preferences::setBool(Key key, bool value)
+{
+    m_settings->setValue(info(key).name, value);
+}
+
+void Preferences::setReal(Key key, double value)
+{
+    m_settings->setValue(info(key).name, QString::number(value, 'g', 17));
+}
+
+void Preferences::setDate(Key key, const Date &value)
+{
+    if (value.isValid())
+        m_settings->setValue(info(key).name, value.toIso8601());
+    else
+        remove(key);
+}
+
+void Preferences::setData(Key key, const QByteArray &value)
+{
+    m_settings->setValue(info(key).name, value);
+}
+
+void Preferences::remove(Key key)
+{
+    m_settings->remove(info(key).name);
+}
+
+bool Preferences::setFromText(const QString &name, const QString &text, QString *error)
+{
+    const int idx = keyIndex(name);
+    if (idx < 0) {
+        *error = QStringLiteral("unknown preference key “%1”").arg(name);
+        return false;
+    }
+    const Key key = Key(idx);
+    const QString t = text.trimmed();
+    bool ok = true;
+    switch (info(key).type) {
+    case Type::String: setString(key, text); break;
+    case Type::Int: {
+        const qint64 v = t.toLongLong(&ok);
+        if (ok)
+            setInteger(key, v);
+        break;
+    }
+    case Type::Bool: {
+        bool b = false;
+        ok = parseBool(t, &b);
+        if (ok)
+            setBool(key, b);
+        break;
+    }
+    case Type::Real: {
+        const double v = QLocale::c().toDouble(t, &ok);
+        if (ok)
+            setReal(key, v);
+        break;
+    }
+    case Type::Date: {
+        const Date d = Date::fromIso8601(t);
+        ok = d.isValid();
+        if (ok)
+            setDate(key, d);
+        break;
+    }
+    case Type::Data: {
+        QFile f(t);
+        ok = f.open(QIODevice::ReadOnly);
+        if (ok)
+            setData(key, f.readAll());
+        break;
+    }
+    }
+    if (!ok)
+        *error = QStringLiteral("“%1” is not a valid %2 for %3")
+                     .arg(text, info(key).type == Type::Data ? QStringLiteral("readable file")
+                                                               : typeName(info(key).type),
+                          name);
+    return ok;
+}
+
+QString Preferences::toText(Key key) const
+{
+    const QVariant v = value(key);
+    if (!v.isValid())
+        return {};
+    switch (info(key).type) {
+    case Type::Bool: return v.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+    case Type::Real: return QString::number(v.toDouble(), 'g', 17);
+    case Type::Date: return v.value<Date>().toIso8601();
+    case Type::Data: return QString::fromLatin1(v.toByteArray().toBase64());
+    default: return v.toString();
+    }
+}
+
+QString Preferences::languageDefaultsResource(qint64 languageDefaults)
+{
+    static const char *const names[] = {"defaultPrefsEnglish", "defaultPrefsGerman",
+                                        "defaultPrefsFrench", "defaultPrefsSpanish"};
+    if (languageDefaults < 0 || languageDefaults > 3)
+        return {};
+    return QStringLiteral(":/prefs/%1.plist").arg(QLatin1String(names[languageDefaults]));
+}
+
+bool Preferences::installLanguageDefaults()
+{
+    const QString path = languageDefaultsResource(integer(languageDefaults));
+    if (path.isEmpty())
+        return false;
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray xml = f.readAll();
+    plist_t root = nullptr;
+    plist_from_xml(xml.constData(), uint32_t(xml.size()), &root);
+    if (!root || plist_get_node_type(root) != PLIST_DICT) {
+        plist_free(root);
+        return false;
+    }
+    plist_dict_iter it = nullptr;
+    plist_dict_new_iter(root, &it);
+    for (;;) {
+        char *k = nullptr;
+        plist_t node = nullptr;
+        plist_dict_next_item(root, it, &k, &node);
+        if (!k)
+            break;
+        setRaw(QString::fromUtf8(k), fromPlistNode(node));
+        free(k);
+    }
+    free(it);
+    plist_free(root);
+    sync();
+    return true;
+}
+
+void Preferences::setRaw(const QString &name, const QVariant &value)
+{
+    const int idx = keyIndex(name);
+    if (idx < 0) {
+        m_settings->setValue(name, value);
+        return;
+    }
+    const Key key = Key(idx);
+    switch (info(key).type) {
+    case Type::Real: setReal(key, value.toDouble()); break;
+    case Type::Date:
+        if (value.metaType() == QMetaType::fromType<Date>())
+            setDate(key, value.value<Date>());
+        else
+            setDate(key, Date::fromIso8601(value.toString()));
+        break;
+    default: m_settings->setValue(name, value); break;
+    }
+}
+
+QVariant Preferences::raw(const QString &name) const
+{
+    return m_settings->value(name);
+}
+
+void Preferences::sync()
+{
+    m_settings->sync();
+}
+
+QString Preferences::filePath() const
+{
+    return m_settings->fileName();
+}
+
+} // namespace tabo

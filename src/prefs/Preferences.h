@@ -1,0 +1,93 @@
+#pragma once
+
+#include "domain/Date.h"
+#include "prefs/PrefKeys.def"
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+class QSettings;
+
+namespace tabo {
+
+// The one preference store: a QSettings file, every key declared once in
+// PrefKeys.def with its type. A missing value, or one of the wrong type, reads
+// as the empty value of the key's type (or its registered fallback).
+class Preferences
+{
+public:
+    enum Key : int {
+#define TABO_PREF_ENUM(id, name, type) id,
+#define TABO_PREF_ENUM_D(id, name, type, fallback) id,
+        TABO_PREF_KEYS(TABO_PREF_ENUM, TABO_PREF_ENUM_D)
+#undef TABO_PREF_ENUM
+#undef TABO_PREF_ENUM_D
+        KeyCount
+    };
+    enum class Type { String, Int, Bool, Real, Date, Data };
+
+    struct KeyInfo
+    {
+        Key key;
+        QString name;
+        Type type;
+        QVariant fallback; // registered default; never written
+    };
+
+    // $XDG_CONFIG_HOME/Tabo/Tabo.conf
+    static QString defaultFilePath();
+    explicit Preferences(const QString &filePath = defaultFilePath());
+    ~Preferences();
+    Preferences(const Preferences &) = delete;
+    Preferences &operator=(const Preferences &) = delete;
+
+    static const KeyInfo &info(Key key);
+    static int keyIndex(QStringView name); // -1 when unknown
+    static QString typeName(Type type);
+
+    bool contains(Key key) const; // a value is stored (fallbacks do not count)
+    QString string(Key key) const;
+    qint64 integer(Key key) const;
+    bool boolean(Key key) const;
+    double real(Key key) const;
+    float single(Key key) const { return float(real(key)); }
+    Date date(Key key) const;
+    QByteArray data(Key key) const;
+    // The typed value, the fallback, or an invalid QVariant.
+    QVariant value(Key key) const;
+
+    void setString(Key key, const QString &value);
+    void setInteger(Key key, qint64 value);
+    void setBool(Key key, bool value);
+    void setReal(Key key, double value);
+    void setDate(Key key, const Date &value);
+    void setData(Key key, const QByteArray &value);
+    void remove(Key key);
+
+    // Command-line access by stored name; the text is parsed by the key's type
+    // (dates in ISO 8601). False with a reason when it cannot be.
+    bool setFromText(const QString &name, const QString &text, QString *error);
+    QString toText(Key key) const;
+
+    // Writes every pair of the language-default file chosen by
+    // `languageDefaults` (0 English, 1 German, 2 French, 3 Spanish) over the
+    // stored values and flushes. Any other value installs nothing: false.
+    bool installLanguageDefaults();
+    static QString languageDefaultsResource(qint64 languageDefaults);
+
+    // Raw access for values that are not declared keys (language files may
+    // carry more than the table).
+    void setRaw(const QString &name, const QVariant &value);
+    QVariant raw(const QString &name) const;
+
+    void sync();
+    QString filePath() const;
+
+private:
+    std::unique_ptr<QSettings> m_settings;
+};
+
+} // namespace tabo

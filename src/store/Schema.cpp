@@ -1,0 +1,144 @@
+#include "store/Schema.h"
+
+#include <QSet>
+
+#include <sqlite3.h>
+
+#include <functional>
+
+namespace tabo::schema {
+
+namespace {
+
+Error exec(sqlite3 *db, const QString &sql)
+{
+    char *msg = nullptr;
+    if (sqlite3_exec(db, sql.toUtf8().constData(), nullptr, nullptr, &msg) != SQLITE_OK) {
+        Error e{QStringLiteral("SQLite"), sqlite3_errcode(db),
+                QString::fromUtf8(msg ? msg : "SQLite error"), sql};
+        sqlite3_free(msg);
+        return e;
+    }
+    return {};
+}
+
+QSet<QString> existingColumns(sqlite3 *db, const QString &table)
+{
+    QSet<QString> names;
+    sqlite3_stmt *stmt = nullptr;
+    const QByteArray sql = QStringLiteral("PRAGMA table_info(%1)").arg(quoted(table)).toUtf8();
+    if (sqlite3_prepare_v2(db, sql.constData(), -1, &stmt, nullptr) != SQLITE_OK)
+        return names;
+    while (sqlite3_step(stmt) == SQLITE_ROW)
+        names.insert(QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 1))));
+    sqlite3_finalize(stmt);
+    return names;
+}
+
+// Numbered steps; step N brings a store from version N-1 to N. Version 1 is
+// the first schema, so there is nothing to run yet: later versions append here.
+const std::vector<std::function<Error(sqlite3 *)>> &steps()
+{
+    static const std::vector<std::function<Error(sqlite3 *)>> list = {
+        /* 1 */ [](sqlite3 *) { return Error{}; },
+    };
+    return list;
+}
+
+} // namespace
+
+QString quoted(const QString &identifier)
+{
+    return QLatin1Char('"') + identifier + QLatin1Char('"');
+}
+
+QString columnType(AttrType type)
+{
+    switch (type) {
+    case AttrType::Text: return QStringLiteral("TEXT");
+    case AttrType::Int:
+    case AttrType::Bool: return QStringLiteral("INTEGER");
+    case AttrType::Double:
+    case AttrType::Float:
+    case AttrType::Date: return QStringLiteral("REAL");
+    }
+    return {};
+}
+
+QStringList columns(const EntityDesc &entity)
+{
+    QStringList cols;
+    for (const auto &a : entity.attributes)
+        cols << a.name;
+    for (const auto &r : entity.relations)
+        if (!r.toMany)
+            cols << r.name;
+    return cols;
+}
+
+QString createTableSql(const EntityDesc &entity)
+{
+    QStringList defs{QStringLiteral("\"id\" INTEGER PRIMARY KEY")};
+    for (const auto &a : entity.attributes)
+        defs << quoted(a.name) + QLatin1Char(' ') + columnType(a.type);
+    for (const auto &r : entity.relations) {
+        if (r.toMany)
+            continue;
+        // Deferred so that one save may insert a document and its lines in any order.
+        defs << QStringLiteral("%1 INTEGER REFERENCES %2(\"id\") ON DELETE CASCADE "
+                               "DEFERRABLE INITIALLY DEFERRED")
+                    .arg(quoted(r.name), quoted(entityDesc(r.target).name));
+    }
+    return QStringLiteral("CREATE TABLE IF NOT EXISTS %1 (%2)")
+        .arg(quoted(entity.name), defs.join(QStringLiteral(", ")));
+}
+
+QStringList createIndexSql()
+{
+    return {
+        QStringLiteral("CREATE INDEX IF NOT EXISTS \"Item_invoice\" ON \"Item\"(\"invoice\")"),
+        QStringLiteral("CREATE INDEX IF NOT EXISTS \"Item_template\" ON \"Item\"(\"template\")"),
+    };
+}
+
+Error create(sqlite3 *db, int version)
+{
+    for (int i = 0; i < kEntityCount; ++i)
+        if (Error e = exec(db, createTableSql(entityDesc(EntityId(i)))))
+            return e;
+    for (const QString &sql : createIndexSql())
+        if (Error e = exec(db, sql))
+            return e;
+    return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(version));
+}
+
+Error migrate(sqlite3 *db, int fromVersion, int toVersion)
+{
+    for (int v = fromVersion + 1; v <= toVersion; ++v)
+        if (Error e = steps()[v - 1](db))
+            return e;
+    // Attributes added to the description since the file was written arrive
+    // as empty columns, which every reader takes as 0, false or "".
+    for (int i = 0; i < kEntityCount; ++i) {
+        const EntityDesc &entity = entityDesc(EntityId(i));
+        const QSet<QString> have = existingColumns(db, entity.name);
+        if (have.isEmpty()) {
+            if (Error e = exec(db, createTableSql(entity)))
+                return e;
+            continue;
+        }
+        for (const auto &a : entity.attributes) {
+            if (have.contains(a.name))
+                continue;
+            if (Error e = exec(db, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
+                                       .arg(quoted(entity.name), quoted(a.name), columnType(a.type))))
+                return e;
+        }
+    }
+    for (const QString &sql : createIndexSql())
+        if (Error e = exec(db, sql))
+            return e;
+    return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(toVersion));
+}
+
+} // namespace tabo::schema

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "domain/EntityModel.h"
+#include "domain/Error.h"
+
+#include <QString>
+#include <QStringList>
+
+struct sqlite3;
+
+namespace tabo::schema {
+
+// Table and column names follow the entity description exactly.
+QString quoted(const QString &identifier);
+QString columnType(AttrType type);
+QString createTableSql(const EntityDesc &entity);
+QStringList createIndexSql();
+
+// Column names of a table in the order the store reads them: attributes, then
+// the foreign key of each to-one relationship.
+QStringList columns(const EntityDesc &entity);
+
+// Brings a store of an older schema version up to the current one: the
+// numbered steps in order, then any attribute the description has gained since
+// (added as an empty column). Runs inside the caller's transaction.
+Error migrate(sqlite3 *db, int fromVersion, int toVersion);
+// A new, empty store.
+Error create(sqlite3 *db, int version);
+
+} // namespace tabo::schema

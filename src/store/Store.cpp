@@ -1,0 +1,629 @@
+#include "store/Store.h"
+
+#include "domain/Record.h"
+#include "store/Schema.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tabo {
+
+struct Store::EntityState
+{
+    QHash<qint64, Record *> map; // every known record, deleted ones until save
+    QList<Record *> live;        // valid once `loaded`
+    bool loaded = false;
+    qint64 maxId = -1;           // -1 until read from the table
+    QStringList fullColumns;
+    QString fullSelect;          // "SELECT id, ... FROM T"
+    QList<int> listAttrs;        // attributes read at open (Invoice)
+    QString listSelect;
+};
+
+namespace {
+
+const QString kStoreDomain = QStringLiteral("TaboStore");
+
+QString textFromColumn(sqlite3_stmt *stmt, int col)
+{
+    if (sqlite3_column_type(stmt, col) == SQLITE_NULL)
+        return QString();
+    const auto *p = reinterpret_cast<const char *>(sqlite3_column_text(stmt, col));
+    const int n = sqlite3_column_bytes(stmt, col);
+    if (n == 0)
+        return QStringLiteral(""); // empty but not null: "" and no value differ
+    return QString::fromUtf8(p, n);
+}
+
+bool looksLikeSqlite(const QString &path, bool *empty)
+{
+    QFile f(path);
+    *empty = false;
+    if (!f.open(QIODevice::ReadOnly))
+        return true; // let SQLite report why it cannot be read
+    const QByteArray head = f.read(16);
+    if (head.isEmpty()) {
+        *empty = true;
+        return true;
+    }
+    return head == QByteArray("SQLite format 3\0", 16);
+}
+
+} // namespace
+
+Store::Store(QString path) : m_path(std::move(path))
+{
+    for (int i = 0; i < kEntityCount; ++i) {
+        auto st = std::make_unique<EntityState>();
+        const EntityDesc &d = entityDesc(EntityId(i));
+        st->fullColumns = schema::columns(d);
+        QStringList q;
+        for (const QString &c : st->fullColumns)
+            q << schema::quoted(c);
+        st->fullSelect = QStringLiteral("SELECT \"id\", %1 FROM %2").arg(q.join(QLatin1Char(',')), schema::quoted(d.name));
+        QStringList lq;
+        for (int a = 0; a < int(d.attributes.size()); ++a) {
+            const auto &ad = d.attributes[a];
+            if (!ad.isText() || ((d.listTextMask >> ad.slot) & 1U)) {
+                st->listAttrs << a;
+                lq << schema::quoted(ad.name);
+            }
+        }
+        for (const auto &r : d.relations)
+            if (!r.toMany)
+                lq << schema::quoted(r.name);
+        st->listSelect = QStringLiteral("SELECT \"id\", %1 FROM %2").arg(lq.join(QLatin1Char(',')), schema::quoted(d.name));
+        m_entities[i] = std::move(st);
+    }
+}
+
+Store::~Store()
+{
+    close();
+}
+
+Error Store::sqlError(const QString &what) const
+{
+    const int code = m_db ? sqlite3_errcode(m_db) : SQLITE_ERROR;
+    QString reason = m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString();
+    if (code == SQLITE_CORRUPT || code == SQLITE_NOTADB)
+        reason = QStringLiteral("The database file “%1” is damaged or is not a Tabo database; "
+                                "it has been left as it is.")
+                     .arg(m_path);
+    return Error{kStoreDomain, code, what, reason};
+}
+
+Error Store::open()
+{
+    close();
+    const QFileInfo info(m_path);
+    const bool exists = info.exists();
+    if (exists && !info.isFile())
+        return Error{kStoreDomain, SQLITE_CANTOPEN,
+                     QStringLiteral("The database “%1” is not a file.").arg(m_path), {}};
+    bool empty = false;
+    if (exists && !looksLikeSqlite(m_path, &empty))
+        return Error{kStoreDomain, SQLITE_NOTADB,
+                     QStringLiteral("The file “%1” is not a Tabo database.").arg(m_path),
+                     QStringLiteral("It has been left as it is.")};
+
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (exists ? 0 : SQLITE_OPEN_CREATE);
+    if (sqlite3_open_v2(m_path.toUtf8().constData(), &m_db, flags, nullptr) != SQLITE_OK) {
+        Error e{kStoreDomain, m_db ? sqlite3_errcode(m_db) : SQLITE_CANTOPEN,
+                QStringLiteral("The database “%1” could not be opened.").arg(m_path),
+                m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
+        sqlite3_close(m_db);
+        m_db = nullptr;
+        return e;
+    }
+    sqlite3_busy_timeout(m_db, 3000);
+
+    // Read-only checks first: nothing is written until the file is known to be ours.
+    int version = -1;
+    int tables = 0;
+    bool haveInvoice = false;
+    {
+        sqlite3_stmt *st = nullptr;
+        if (sqlite3_prepare_v2(m_db, "PRAGMA user_version", -1, &st, nullptr) == SQLITE_OK
+            && sqlite3_step(st) == SQLITE_ROW)
+            version = sqlite3_column_int(st, 0);
+        sqlite3_finalize(st);
+        st = nullptr;
+        if (version >= 0
+            && sqlite3_prepare_v2(m_db, "SELECT name FROM sqlite_master WHERE type='table'", -1, &st, nullptr) == SQLITE_OK) {
+            int rc;
+            while ((rc = sqlite3_step(st)) == SQLITE_ROW) {
+                ++tables;
+                if (qstrcmp(reinterpret_cast<const char *>(sqlite3_column_text(st, 0)), "Invoice") == 0)
+                    haveInvoice = true;
+            }
+            if (rc != SQLITE_DONE)
+                version = -1;
+        }
+        sqlite3_finalize(st);
+    }
+    Error failure;
+    if (version < 0)
+        failure = sqlError(QStringLiteral("The database “%1” could not be read.").arg(m_path));
+    else if (version == 0 && tables > 0)
+        failure = Error{kStoreDomain, SQLITE_NOTADB,
+                        QStringLiteral("The file “%1” is an SQLite database of another program, not a Tabo database.").arg(m_path),
+                        QStringLiteral("It has been left as it is.")};
+    else if (version > kSchemaVersion)
+        failure = Error{kStoreDomain, SQLITE_CANTOPEN,
+                        QStringLiteral("The database “%1” was written by a newer version of Tabo.").arg(m_path),
+                        QStringLiteral("Please use that version; the file has been left as it is.")};
+    else if (version > 0 && !haveInvoice)
+        failure = Error{kStoreDomain, SQLITE_CORRUPT,
+                        QStringLiteral("The database “%1” is damaged: its document table is missing.").arg(m_path),
+                        QStringLiteral("It has been left as it is.")};
+    if (failure) {
+        close();
+        return failure;
+    }
+
+    sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+    sqlite3_exec(m_db, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
+    sqlite3_exec(m_db, "PRAGMA foreign_keys=ON", nullptr, nullptr, nullptr);
+
+    if (version < kSchemaVersion) {
+        sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+        const Error e = version == 0 ? schema::create(m_db, kSchemaVersion)
+                                     : schema::migrate(m_db, version, kSchemaVersion);
+        if (e) {
+            sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+            close();
+            return Error{kStoreDomain, e.code,
+                         QStringLiteral("The database “%1” could not be updated.").arg(m_path), e.message()};
+        }
+        sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
+    }
+
+    m_lastError = {};
+    loadAll(EntityId::Invoice);
+    if (m_lastError) {
+        const Error e = m_lastError;
+        close();
+        return e;
+    }
+    return {};
+}
+
+void Store::close()
+{
+    for (sqlite3_stmt *st : std::as_const(m_statements))
+        sqlite3_finalize(st);
+    m_statements.clear();
+    for (auto &st : m_entities) {
+        qDeleteAll(st->map);
+        st->map.clear();
+        st->live.clear();
+        st->loaded = false;
+        st->maxId = -1;
+    }
+    m_dirty.clear();
+    if (m_db) {
+        sqlite3_close(m_db);
+        m_db = nullptr;
+    }
+}
+
+int Store::schemaVersion() const
+{
+    if (!m_db)
+        return -1;
+    sqlite3_stmt *st = nullptr;
+    int v = -1;
+    if (sqlite3_prepare_v2(m_db, "PRAGMA user_version", -1, &st, nullptr) == SQLITE_OK
+        && sqlite3_step(st) == SQLITE_ROW)
+        v = sqlite3_column_int(st, 0);
+    sqlite3_finalize(st);
+    return v;
+}
+
+sqlite3_stmt *Store::prepare(const QString &sql)
+{
+    if (!m_db)
+        return nullptr;
+    auto it = m_statements.constFind(sql);
+    if (it != m_statements.constEnd()) {
+        sqlite3_reset(*it);
+        sqlite3_clear_bindings(*it);
+        return *it;
+    }
+    sqlite3_stmt *st = nullptr;
+    if (sqlite3_prepare_v3(m_db, sql.toUtf8().constData(), -1, SQLITE_PREPARE_PERSISTENT, &st, nullptr) != SQLITE_OK) {
+        m_lastError = sqlError(QStringLiteral("The database could not be read."));
+        return nullptr;
+    }
+    m_statements.insert(sql, st);
+    return st;
+}
+
+Record *Store::adopt(EntityId entity, qint64 id, bool *created)
+{
+    EntityState &st = *m_entities[int(entity)];
+    if (Record *r = st.map.value(id)) {
+        *created = false;
+        return r;
+    }
+    auto *r = new Record(this, entity, id);
+    st.map.insert(id, r);
+    *created = true;
+    return r;
+}
+
+void Store::readRow(Record *r, sqlite3_stmt *stmt, int col, bool listOnly)
+{
+    const EntityDesc &d = r->desc();
+    const EntityState &st = *m_entities[int(d.id)];
+    auto readAttr = [&](int a) {
+        const AttributeDesc &ad = d.attributes[a];
+        if (ad.isText()) {
+            r->m_text[ad.slot] = textFromColumn(stmt, col);
+        } else {
+            const int type = sqlite3_column_type(stmt, col);
+            if (type == SQLITE_NULL) {
+                r->m_nullMask |= std::uint64_t(1) << ad.slot;
+            } else {
+                // SQLite cannot hold a NaN as a number, so it is kept as text.
+                const double v = type == SQLITE_TEXT ? std::nan("") : sqlite3_column_double(stmt, col);
+                r->m_num[ad.slot] = v;
+                r->m_nullMask &= ~(std::uint64_t(1) << ad.slot);
+            }
+        }
+        ++col;
+    };
+    if (listOnly) {
+        for (int a : st.listAttrs)
+            readAttr(a);
+        r->m_textLoaded = d.listTextMask == ~std::uint64_t(0);
+    } else {
+        for (int a = 0; a < int(d.attributes.size()); ++a)
+            readAttr(a);
+        r->m_textLoaded = true;
+    }
+    int slot = 0;
+    for (const auto &rel : d.relations) {
+        if (rel.toMany)
+            continue;
+        r->m_fk[slot] = sqlite3_column_type(stmt, col) == SQLITE_NULL ? 0 : sqlite3_column_int64(stmt, col);
+        ++slot;
+        ++col;
+    }
+}
+
+void Store::loadAll(EntityId entity)
+{
+    EntityState &st = *m_entities[int(entity)];
+    if (st.loaded || !m_db)
+        return;
+    const bool listOnly = entity == EntityId::Invoice;
+    sqlite3_stmt *stmt = prepare(listOnly ? st.listSelect : st.fullSelect);
+    if (!stmt)
+        return;
+    QList<Record *> live;
+    live.reserve(st.map.size());
+    int rc;
+    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+        bool created = false;
+        Record *r = adopt(entity, sqlite3_column_int64(stmt, 0), &created);
+        if (created)
+            readRow(r, stmt, 1, listOnly);
+        if (!r->m_deleted)
+            live.append(r);
+    }
+    if (rc != SQLITE_DONE)
+        m_lastError = sqlError(QStringLiteral("The database could not be read."));
+    sqlite3_reset(stmt);
+    for (Record *r : std::as_const(m_dirty))
+        if (r->m_entity == entity && r->m_inserted && !r->m_deleted)
+            live.append(r);
+    st.live = std::move(live);
+    st.loaded = true;
+}
+
+const QList<Record *> &Store::all(EntityId entity)
+{
+    loadAll(entity);
+    return m_entities[int(entity)]->live;
+}
+
+Record *Store::byId(EntityId entity, qint64 id)
+{
+    EntityState &st = *m_entities[int(entity)];
+    if (Record *r = st.map.value(id))
+        return r->m_deleted ? nullptr : r;
+    if (st.loaded || !m_db)
+        return nullptr;
+    sqlite3_stmt *stmt = prepare(st.fullSelect + QStringLiteral(" WHERE \"id\" = ?"));
+    if (!stmt)
+        return nullptr;
+    sqlite3_bind_int64(stmt, 1, id);
+    Record *r = nullptr;
+    if (sqlite3_step(stmt) == SQLITE_ROW) {
+        bool created = false;
+        r = adopt(entity, id, &created);
+        readRow(r, stmt, 1, false);
+    }
+    sqlite3_reset(stmt);
+    return r;
+}
+
+qsizetype Store::count(EntityId entity)
+{
+    EntityState &st = *m_entities[int(entity)];
+    if (st.loaded)
+        return st.live.size();
+    qsizetype n = 0;
+    if (sqlite3_stmt *stmt = prepare(QStringLiteral("SELECT count(*) FROM %1").arg(schema::quoted(entityDesc(entity).name)))) {
+        if (sqlite3_step(stmt) == SQLITE_ROW)
+            n = sqlite3_column_int64(stmt, 0);
+        sqlite3_reset(stmt);
+    }
+    for (Record *r : std::as_const(m_dirty)) {
+        if (r->m_entity != entity)
+            continue;
+        if (r->m_inserted && !r->m_deleted)
+            ++n;
+        else if (!r->m_inserted && r->m_deleted)
+            --n;
+    }
+    return n;
+}
+
+Record *Store::insert(EntityId entity)
+{
+    EntityState &st = *m_entities[int(entity)];
+    if (st.maxId < 0) {
+        st.maxId = 0;
+        if (sqlite3_stmt *stmt = prepare(QStringLiteral("SELECT max(\"id\") FROM %1").arg(schema::quoted(entityDesc(entity).name)))) {
+            if (sqlite3_step(stmt) == SQLITE_ROW)
+                st.maxId = sqlite3_column_int64(stmt, 0);
+            sqlite3_reset(stmt);
+        }
+        for (auto it = st.map.cbegin(); it != st.map.cend(); ++it)
+            st.maxId = std::max(st.maxId, it.key());
+    }
+    auto *r = new Record(this, entity, ++st.maxId);
+    r->m_inserted = true;
+    st.map.insert(r->m_id, r);
+    if (st.loaded)
+        st.live.append(r);
+    noteChanged(r);
+    return r;
+}
+
+void Store::remove(Record *r)
+{
+    if (!r || r->m_deleted)
+        return;
+    const EntityDesc &d = r->desc();
+    for (int rel = 0; rel < int(d.relations.size()); ++rel) {
+        if (!d.relations[rel].toMany)
+            continue;
+        const QList<Record *> children = r->toMany(rel);
+        for (Record *child : children)
+            remove(child);
+    }
+    for (int rel = 0; rel < int(d.relations.size()); ++rel) {
+        if (d.relations[rel].toMany)
+            continue;
+        if (Record *owner = r->toOne(rel)) {
+            const int inv = owner->desc().relationIndex(d.relations[rel].inverseName);
+            if (inv >= 0 && owner->m_toMany && owner->m_toMany[inv])
+                owner->m_toMany[inv]->removeOne(r);
+        }
+    }
+    r->m_deleted = true;
+    m_entities[int(r->m_entity)]->live.removeOne(r);
+    noteChanged(r);
+}
+
+void Store::noteChanged(Record *r)
+{
+    if (!r->m_inDirty) {
+        r->m_inDirty = true;
+        m_dirty.append(r);
+    }
+}
+
+void Store::faultText(Record *r)
+{
+    if (r->m_textLoaded || r->m_inserted || !m_db)
+        return;
+    const EntityState &st = *m_entities[int(r->m_entity)];
+    sqlite3_stmt *stmt = prepare(st.fullSelect + QStringLiteral(" WHERE \"id\" = ?"));
+    if (!stmt)
+        return;
+    sqlite3_bind_int64(stmt, 1, r->m_id);
+    if (sqlite3_step(stmt) == SQLITE_ROW) {
+        const EntityDesc &d = r->desc();
+        for (int a = 0; a < int(d.attributes.size()); ++a) {
+            const AttributeDesc &ad = d.attributes[a];
+            if (ad.isText() && !((d.listTextMask >> ad.slot) & 1U) && !r->m_changed.test(a))
+                r->m_text[ad.slot] = textFromColumn(stmt, a + 1);
+        }
+    }
+    sqlite3_reset(stmt);
+    r->m_textLoaded = true;
+}
+
+void Store::loadFully(const QList<Record *> &records)
+{
+    for (Record *r : records)
+        faultText(r);
+}
+
+QList<Record *> *Store::loadToMany(const Record *owner, int rel)
+{
+    auto *list = new QList<Record *>;
+    const RelationDesc &rd = owner->desc().relations[rel];
+    const EntityDesc &target = entityDesc(rd.target);
+    const int inverse = target.relationIndex(rd.inverseName);
+    int fkSlot = 0;
+    for (int i = 0; i < inverse; ++i)
+        fkSlot += target.relations[i].toMany ? 0 : 1;
+    const EntityState &st = *m_entities[int(rd.target)];
+    if (m_db && !owner->m_inserted) {
+        sqlite3_stmt *stmt = prepare(st.fullSelect + QStringLiteral(" WHERE %1 = ? ORDER BY \"id\"").arg(schema::quoted(rd.inverseName)));
+        if (stmt) {
+            sqlite3_bind_int64(stmt, 1, owner->m_id);
+            int rc;
+            while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+                bool created = false;
+                Record *r = adopt(rd.target, sqlite3_column_int64(stmt, 0), &created);
+                if (created)
+                    readRow(r, stmt, 1, false);
+                if (!r->m_deleted && r->m_fk[fkSlot] == owner->m_id)
+                    list->append(r);
+            }
+            if (rc != SQLITE_DONE)
+                m_lastError = sqlError(QStringLiteral("The lines of a document could not be read."));
+            sqlite3_reset(stmt);
+        }
+    }
+    // Lines attached in memory but not saved yet, or moved here from elsewhere.
+    for (Record *r : std::as_const(m_dirty))
+        if (r->m_entity == rd.target && !r->m_deleted && r->m_fk[fkSlot] == owner->m_id
+            && !list->contains(r))
+            list->append(r);
+    return list;
+}
+
+Error Store::writeRecord(Record *r)
+{
+    const EntityDesc &d = r->desc();
+    const EntityState &st = *m_entities[int(d.id)];
+    const QString table = schema::quoted(d.name);
+    if (r->m_deleted) {
+        if (r->m_inserted)
+            return {};
+        sqlite3_stmt *stmt = prepare(QStringLiteral("DELETE FROM %1 WHERE \"id\" = ?").arg(table));
+        if (!stmt)
+            return m_lastError;
+        sqlite3_bind_int64(stmt, 1, r->m_id);
+        return sqlite3_step(stmt) == SQLITE_DONE ? Error{} : sqlError(QStringLiteral("A record could not be deleted."));
+    }
+
+    const int attrCount = int(d.attributes.size());
+    QList<int> cols; // attribute index, or attrCount + to-one slot
+    if (r->m_inserted) {
+        for (int c = 0; c < st.fullColumns.size(); ++c)
+            cols << c;
+    } else {
+        for (int c = 0; c < st.fullColumns.size(); ++c)
+            if (r->m_changed.test(c))
+                cols << c;
+        if (cols.isEmpty())
+            return {};
+    }
+    QString sql;
+    if (r->m_inserted) {
+        QStringList names{QStringLiteral("\"id\"")};
+        for (int c : cols)
+            names << schema::quoted(st.fullColumns[c]);
+        sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                  .arg(table, names.join(QLatin1Char(',')),
+                       QStringList(names.size(), QStringLiteral("?")).join(QLatin1Char(',')));
+    } else {
+        QStringList sets;
+        for (int c : cols)
+            sets << schema::quoted(st.fullColumns[c]) + QStringLiteral("=?");
+        sql = QStringLiteral("UPDATE %1 SET %2 WHERE \"id\" = ?").arg(table, sets.join(QLatin1Char(',')));
+    }
+    sqlite3_stmt *stmt = prepare(sql);
+    if (!stmt)
+        return m_lastError;
+    int p = 1;
+    if (r->m_inserted)
+        sqlite3_bind_int64(stmt, p++, r->m_id);
+    for (int c : cols) {
+        if (c >= attrCount) {
+            const qint64 fk = r->m_fk[c - attrCount];
+            fk ? sqlite3_bind_int64(stmt, p++, fk) : sqlite3_bind_null(stmt, p++);
+            continue;
+        }
+        const AttributeDesc &ad = d.attributes[c];
+        if (ad.isText()) {
+            const QString &s = r->m_text[ad.slot];
+            if (s.isNull()) {
+                sqlite3_bind_null(stmt, p++);
+            } else {
+                const QByteArray utf8 = s.toUtf8();
+                sqlite3_bind_text(stmt, p++, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+            }
+        } else if ((r->m_nullMask >> ad.slot) & 1U) {
+            sqlite3_bind_null(stmt, p++);
+        } else {
+            const double v = r->m_num[ad.slot];
+            if (std::isnan(v))
+                sqlite3_bind_text(stmt, p++, "NaN", 3, SQLITE_STATIC);
+            else if (ad.type == AttrType::Int || ad.type == AttrType::Bool)
+                sqlite3_bind_int64(stmt, p++, qint64(v));
+            else
+                sqlite3_bind_double(stmt, p++, v);
+        }
+    }
+    if (!r->m_inserted)
+        sqlite3_bind_int64(stmt, p++, r->m_id);
+    return sqlite3_step(stmt) == SQLITE_DONE ? Error{} : sqlError(QStringLiteral("A record could not be written."));
+}
+
+Error Store::save()
+{
+    if (m_dirty.isEmpty())
+        return {};
+    if (!m_db)
+        return Error{Error::kAppDomain, 9999, QStringLiteral("Failed to initialize the store"),
+                     QStringLiteral("There was an error building up the data file.")};
+    if (sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK)
+        return sqlError(QStringLiteral("The changes could not be saved."));
+    for (Record *r : std::as_const(m_dirty)) {
+        // Rows of a document that was deleted already went with it.
+        if (const Error e = writeRecord(r)) {
+            sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+            return Error{e.domain, e.code, QStringLiteral("The changes could not be saved."), e.message()};
+        }
+    }
+    if (sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
+        const Error e = sqlError(QStringLiteral("The changes could not be saved."));
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+        return e;
+    }
+    for (Record *r : std::as_const(m_dirty)) {
+        r->m_inDirty = false;
+        r->m_inserted = false;
+        r->m_changed.reset();
+        // Deleted records stay allocated (but unreachable) so that a pointer
+        // somebody still holds does not dangle; they go with the store.
+    }
+    m_dirty.clear();
+    return {};
+}
+
+void Store::reset()
+{
+    const QString path = m_path;
+    for (sqlite3_stmt *st : std::as_const(m_statements))
+        sqlite3_finalize(st);
+    m_statements.clear();
+    for (auto &st : m_entities) {
+        qDeleteAll(st->map);
+        st->map.clear();
+        st->live.clear();
+        st->loaded = false;
+        st->maxId = -1;
+    }
+    m_dirty.clear();
+    if (m_db)
+        loadAll(EntityId::Invoice);
+}
+
+} // namespace tabo

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "domain/EntityModel.h"
+#include "domain/Error.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace tabo {
+
+class Record;
+
+// The object store: one SQLite file in WAL mode, a table per entity. Records
+// are kept in an identity map; `all(Invoice)` is read at open (list columns
+// only, the remaining texts on first use), the other entities on first use,
+// lines per document on first use. save() writes only what changed, in one
+// transaction.
+class Store
+{
+public:
+    explicit Store(QString path);
+    ~Store();
+    Store(const Store &) = delete;
+    Store &operator=(const Store &) = delete;
+
+    // Opens the file, creating it when missing; applies forward migrations.
+    // A file that is not one of our stores (or is newer, or damaged) is left
+    // exactly as it is and reported.
+    Error open();
+    void close();
+    bool isOpen() const { return m_db != nullptr; }
+    QString path() const { return m_path; }
+    int schemaVersion() const;
+
+    const QList<Record *> &all(EntityId entity);
+    Record *insert(EntityId entity);
+    void remove(Record *record); // cascades to the lines of a document
+    Record *byId(EntityId entity, qint64 id);
+    qsizetype count(EntityId entity);
+
+    bool hasChanges() const { return !m_dirty.isEmpty(); }
+    Error save();
+    // Forgets every unsaved change and every loaded record (a context reset).
+    void reset();
+    // The last read failure (damaged file), cleared by the next successful open.
+    Error lastError() const { return m_lastError; }
+
+    // Reads the remaining texts of many records in one pass (bulk readers).
+    void loadFully(const QList<Record *> &records);
+
+    sqlite3 *handle() const { return m_db; }
+
+    static constexpr int kSchemaVersion = 1;
+
+private:
+    friend class Record;
+    struct EntityState;
+
+    void faultText(Record *record);
+    QList<Record *> *loadToMany(const Record *owner, int rel);
+    void noteChanged(Record *record);
+    Record *adopt(EntityId entity, qint64 id, bool *created);
+    void readRow(Record *record, sqlite3_stmt *stmt, int firstColumn, bool listOnly);
+    void loadAll(EntityId entity);
+    sqlite3_stmt *prepare(const QString &sql);
+    Error sqlError(const QString &what) const;
+    Error writeRecord(Record *record);
+    void discardRecord(Record *record);
+
+    QString m_path;
+    sqlite3 *m_db = nullptr;
+    Error m_lastError;
+    std::array<std::unique_ptr<EntityState>, kEntityCount> m_entities;
+    QList<Record *> m_dirty;
+    QHash<QString, sqlite3_stmt *> m_statements;
+};
+
+} // namespace tabo

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "app/Interaction.h"
+#include "domain/Clock.h"
+
+#include <QList>
+#include <QTemporaryDir>
+
+namespace tabo::test {
+
+// Points HOME and the XDG folders at a fresh temporary folder for the life of
+// the object, so that stores and settings never touch the developer's own.
+class TempHome
+{
+public:
+    TempHome();
+    ~TempHome();
+    QString path() const { return m_dir.path(); }
+    QString dataDir() const;   // $XDG_DATA_HOME/Tabo
+    QString configFile() const; // $XDG_CONFIG_HOME/Tabo/Tabo.conf
+
+private:
+    QTemporaryDir m_dir;
+    QByteArray m_old[5];
+};
+
+// Answers alerts and panels from a script and records what was shown.
+class FakeInteraction : public Interaction
+{
+public:
+    struct Shown
+    {
+        QString title;
+        QString text;
+        QStringList buttons;
+    };
+    QList<Shown> alerts;
+    QList<Error> errors;
+    QList<FileRequest> fileRequests;
+    QList<int> answers;  // next alert answers; 0 (the first button) when empty
+    QStringList files;   // next panel results; "" (cancel) when empty
+
+    int alert(const QString &title, const QString &text, const QStringList &buttons) override;
+    void presentError(const Error &error) override;
+    QString openFile(const FileRequest &request) override;
+    QString saveFile(const FileRequest &request) override;
+
+    QString lastAlertTitle() const { return alerts.isEmpty() ? QString() : alerts.last().title; }
+    QString lastAlertText() const { return alerts.isEmpty() ? QString() : alerts.last().text; }
+};
+
+// Seconds since 2001-01-01 UTC for a UTC calendar time, for readable fixtures.
+Date utc(int year, int month, int day, int hour = 12, int minute = 0, int second = 0);
+
+} // namespace tabo::test
