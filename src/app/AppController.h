@@ -61,11 +61,20 @@ public:
     // Moves the store to the folder now named by the preferences. The caller
     // relaunches when this returns true.
     bool customPathChanged();
-    // Runs before a store move; returns false to stop the move. The default
-    // does nothing and lets the move go on.
-    void setBackupBeforeMove(std::function<bool()> backup) { m_backupBeforeMove = std::move(backup); }
+    // Runs before a store move so that the person has a copy (the complete
+    // backup with its save panel); a cancelled backup does not stop the move.
+    void setBackupBeforeMove(std::function<void()> backup) { m_backupBeforeMove = std::move(backup); }
 
     void restartApp();
+    // The first page of the first-start assistant: installs the language
+    // defaults chosen by `languageDefaults`. False when nothing was installed.
+    bool firstAssiTabAction(qint64 languageDefaults);
+    bool needsFirstStartAssistant() const;
+
+    QString backupPath() const { return m_backupPath; }
+    QString pdfPath() const { return m_pdfPath; }
+    QString pdfEmailPath() const { return m_pdfEmailPath; }
+    void createBackupPath();
     // Files handed to us from outside are refused: always false.
     bool applicationOpenFile(const QString &path);
 
@@ -122,7 +131,10 @@ private:
     QString m_storeURL;
     DocumentList m_list;
     Record *m_current = nullptr;
-    std::function<bool()> m_backupBeforeMove;
+    std::function<void()> m_backupBeforeMove;
+    QString m_backupPath;
+    QString m_pdfPath;
+    QString m_pdfEmailPath;
 };
 
 } // namespace tabo

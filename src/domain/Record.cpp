@@ -281,7 +281,7 @@ const QList<Record *> &Record::toMany(int rel) const
     if (!m_desc->relations[rel].toMany)
         return emptyList();
     if (!m_toMany[rel]) {
-        if (!m_store || m_inserted)
+        if (!m_store)
             m_toMany[rel] = std::make_unique<QList<Record *>>();
         else
             m_toMany[rel].reset(m_store->loadToMany(this, rel));

@@ -117,6 +117,13 @@ Error migrate(sqlite3 *db, int fromVersion, int toVersion)
     for (int v = fromVersion + 1; v <= toVersion; ++v)
         if (Error e = steps()[v - 1](db))
             return e;
+    if (Error e = addMissingColumns(db))
+        return e;
+    return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(toVersion));
+}
+
+Error addMissingColumns(sqlite3 *db)
+{
     // Attributes added to the description since the file was written arrive
     // as empty columns, which every reader takes as 0, false or "".
     for (int i = 0; i < kEntityCount; ++i) {
@@ -138,7 +145,7 @@ Error migrate(sqlite3 *db, int fromVersion, int toVersion)
     for (const QString &sql : createIndexSql())
         if (Error e = exec(db, sql))
             return e;
-    return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(toVersion));
+    return {};
 }
 
 } // namespace tabo::schema

@@ -24,6 +24,9 @@ QStringList columns(const EntityDesc &entity);
 // numbered steps in order, then any attribute the description has gained since
 // (added as an empty column). Runs inside the caller's transaction.
 Error migrate(sqlite3 *db, int fromVersion, int toVersion);
+// Adds, as empty columns, attributes the description has gained since the
+// file was written; reads only when nothing is missing.
+Error addMissingColumns(sqlite3 *db);
 // A new, empty store.
 Error create(sqlite3 *db, int version);
 

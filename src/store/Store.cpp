@@ -172,10 +172,11 @@ Error Store::open()
     sqlite3_exec(m_db, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
     sqlite3_exec(m_db, "PRAGMA foreign_keys=ON", nullptr, nullptr, nullptr);
 
-    if (version < kSchemaVersion) {
+    {
         sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
-        const Error e = version == 0 ? schema::create(m_db, kSchemaVersion)
-                                     : schema::migrate(m_db, version, kSchemaVersion);
+        const Error e = version == 0                ? schema::create(m_db, kSchemaVersion)
+                        : version < kSchemaVersion ? schema::migrate(m_db, version, kSchemaVersion)
+                                                   : schema::addMissingColumns(m_db);
         if (e) {
             sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
             close();

@@ -1,0 +1,441 @@
+#include "app/AppController.h"
+
+#include "app/Interaction.h"
+#include "domain/Clock.h"
+#include "domain/Numbering.h"
+#include "domain/Record.h"
+#include "domain/UniqueId.h"
+#include "prefs/Preferences.h"
+#include "store/Store.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <sqlite3.h>
+
+namespace tabo {
+
+namespace {
+using P = Preferences;
+const QString kStoreFileName = QStringLiteral("Tabo.mbdb");
+} // namespace
+
+AppController::AppController(Preferences &prefs, Interaction &ui, QObject *parent)
+    : QObject(parent), m_prefs(prefs), m_ui(ui)
+{
+}
+
+AppController::~AppController() = default;
+
+QString AppController::applicationFilesDirectory()
+{
+    const QString dir = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+                        + QStringLiteral("/Tabo");
+    QDir().mkpath(dir); // a failure shows when the store is opened
+    return dir;
+}
+
+QString AppController::storeFilePath() const
+{
+    if (m_prefs.boolean(P::useCustomPath))
+        return m_prefs.string(P::customDatabasePath) + QLatin1Char('/') + kStoreFileName;
+    return applicationFilesDirectory() + QLatin1Char('/') + kStoreFileName;
+}
+
+Store *AppController::managedObjectContext()
+{
+    if (m_store || m_storeTried)
+        return m_store.get();
+    m_storeTried = true;
+    openStore();
+    if (!m_store && !m_terminating)
+        m_ui.presentError(Error{Error::kAppDomain, 9999, QStringLiteral("Failed to initialize the store"),
+                                QStringLiteral("There was an error building up the data file.")});
+    return m_store.get();
+}
+
+void AppController::openStore()
+{
+    // A store of the previous major version is only upgraded with consent.
+    if (!m_prefs.boolean(P::firstCenter)) {
+        m_prefs.setBool(P::is2_0MigrationDone, true);
+    } else if (!m_prefs.boolean(P::is2_0MigrationDone)) {
+        const int answer = m_ui.alert(
+            QStringLiteral("Warning!"),
+            QStringLiteral("Tabo 2 comes with new features that require the database to be updated.\n"
+                           "Once updated you will not be able to open and edit it with an older version of Tabo.\n\n"
+                           "In case you don't want to upgrade to Tabo 2 - which is a paid upgrade - you need to quit "
+                           "Tabo 2 right now and just continue working with Tabo 1.\n\n"
+                           "Do you want to update the database and use Tabo 2?"),
+            {QStringLiteral("Don't Update Database and Quit Tabo 2"), QStringLiteral("Update Database And Use Tabo 2")});
+        if (answer != 1) {
+            qInfo() << "terminate!";
+            m_terminating = true;
+            QTimer::singleShot(100, this, [this] { Q_EMIT terminateRequested(); });
+            return;
+        }
+        m_prefs.setBool(P::is2_0MigrationDone, true);
+        QTimer::singleShot(3000, this, &AppController::restartApp);
+    }
+
+    const QString folder = applicationFilesDirectory();
+    const QFileInfo folderInfo(folder);
+    if (!folderInfo.exists()) {
+        m_ui.presentError(Error{Error::kAppDomain, 260,
+                                QStringLiteral("The folder “%1” could not be created.").arg(folder), {}});
+        return;
+    }
+    if (!folderInfo.isDir()) {
+        m_ui.presentError(Error{Error::kAppDomain, 101,
+                                QStringLiteral("Expected a folder to store application data, found a file (%1).").arg(folder),
+                                {}});
+        return;
+    }
+
+    m_storeURL = storeFilePath();
+    auto store = std::make_unique<Store>(m_storeURL);
+    if (const Error e = store->open()) {
+        m_ui.presentError(e);
+        return;
+    }
+    m_store = std::move(store);
+    // The later built-in design is installed here once the design library
+    // exists; its flag `isTabo2TemplateLoadingDone` stays untouched until then.
+    m_list.reload(m_store.get());
+    m_list.calculateDatabase(now());
+    Q_EMIT storeOpened();
+    Q_EMIT listChanged();
+    Q_EMIT summaryChanged();
+}
+
+Error AppController::saveContext()
+{
+    if (!m_store)
+        return {};
+    const Error e = m_store->save();
+    if (e)
+        m_ui.presentError(e);
+    return e;
+}
+
+void AppController::saveAction()
+{
+    saveContext();
+}
+
+void AppController::awakeFromNib()
+{
+    if (!m_prefs.boolean(P::firstCenter)) {
+        m_prefs.setBool(P::isFirstInvoiceEverCreated, true);
+        m_prefs.setBool(P::firstCenter, true);
+    }
+    applicationFilesDirectory();
+    // Cloud storage is not offered on this platform.
+    m_prefs.setBool(P::isiCloudAvailable, false);
+    m_prefs.setBool(P::ubiquityStoreManagerALLOWED, true);
+    createBackupPath();
+    const QString temp = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
+    m_pdfPath = temp + QStringLiteral("/Invoice.pdf");
+    m_pdfEmailPath = temp + QStringLiteral("/PDFInvoice.pdf");
+}
+
+void AppController::createBackupPath()
+{
+    m_backupPath = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                   + QStringLiteral("/Tabo_Backup.mbdb");
+}
+
+void AppController::applicationDidFinishLaunching()
+{
+    m_prefs.setBool(P::isTerminatedFine, false);
+    if (!m_prefs.boolean(P::update_1_3)) {
+        m_prefs.setInteger(P::itemSortOrder, 1);
+        m_prefs.setBool(P::update_1_3, true);
+    }
+    if (!m_prefs.boolean(P::update_2_1)) {
+        m_prefs.setBool(P::beforeTaxesBool, true);
+        m_prefs.setBool(P::update_2_1, true);
+    }
+    m_prefs.sync();
+}
+
+bool AppController::needsFirstStartAssistant() const
+{
+    return !m_prefs.boolean(P::firstStartEverDone);
+}
+
+bool AppController::firstAssiTabAction(qint64 languageDefaults)
+{
+    // The built-in designs are installed here once the design library exists
+    // (`isFirstStoreLoadEverDone` stays untouched until then).
+    m_prefs.setInteger(P::languageDefaults, languageDefaults);
+    const bool installed = m_prefs.installLanguageDefaults();
+    m_prefs.setBool(P::firstStartEverDone, true);
+    m_prefs.sync();
+    return installed;
+}
+
+AppController::TerminateReply AppController::applicationShouldTerminate()
+{
+    if (!m_store) {
+        m_prefs.setBool(P::isTerminatedFine, true);
+        m_prefs.sync();
+        return TerminateReply::Now;
+    }
+    m_prefs.setInteger(P::fetchedObjectsCount, m_store->count(EntityId::Invoice));
+    TerminateReply reply = TerminateReply::Now;
+    if (!m_store->hasChanges()) {
+        m_prefs.setBool(P::isTerminatedFine, true);
+    } else if (const Error e = m_store->save()) {
+        m_ui.presentError(e);
+        const int answer = m_ui.alert(
+            QStringLiteral("Could not save changes while quitting. Quit anyway?"),
+            QStringLiteral("Quitting now will lose any changes you have made since the last successful save"),
+            {QStringLiteral("Quit anyway"), QStringLiteral("Cancel")});
+        const bool quit = answer == 0;
+        m_prefs.setBool(P::isTerminatedFine, quit);
+        reply = quit ? TerminateReply::Now : TerminateReply::Cancel;
+    } else {
+        m_prefs.setBool(P::isTerminatedFine, true);
+    }
+    m_prefs.sync();
+    return reply;
+}
+
+void AppController::applicationWillTerminate()
+{
+    m_prefs.sync();
+}
+
+bool AppController::customPathChanged()
+{
+    qInfo() << "customPathChanged";
+    if (m_backupBeforeMove)
+        m_backupBeforeMove();
+    if (!managedObjectContext())
+        return false;
+    const QString target = storeFilePath();
+    if (QFileInfo(target).absoluteFilePath() == QFileInfo(m_storeURL).absoluteFilePath())
+        return false; // the store is already there: deleting "the target" would delete it
+    if (const Error e = m_store->save()) {
+        m_ui.presentError(e);
+        return false;
+    }
+    const QString folder = QFileInfo(target).absolutePath();
+    if (!QFileInfo(folder).isDir()) {
+        m_ui.presentError(Error{Error::kAppDomain, 4,
+                                QStringLiteral("The folder “%1” does not exist.").arg(folder), {}});
+        return false;
+    }
+    for (const QString &suffix : {QString(), QStringLiteral("-shm"), QStringLiteral("-wal")})
+        QFile::remove(target + suffix);
+    // A consistent single-file copy of the live store, WAL content included.
+    sqlite3_stmt *stmt = nullptr;
+    sqlite3_prepare_v2(m_store->handle(), "VACUUM INTO ?", -1, &stmt, nullptr);
+    const QByteArray targetUtf8 = target.toUtf8();
+    sqlite3_bind_text(stmt, 1, targetUtf8.constData(), -1, SQLITE_TRANSIENT);
+    const int rc = sqlite3_step(stmt);
+    sqlite3_finalize(stmt);
+    if (rc != SQLITE_DONE) {
+        m_ui.presentError(Error{Error::kAppDomain, rc,
+                                QStringLiteral("The database could not be moved to “%1”.").arg(folder),
+                                QString::fromUtf8(sqlite3_errmsg(m_store->handle()))});
+        QFile::remove(target);
+        return false;
+    }
+    m_current = nullptr;
+    m_list.clear();
+    m_store.reset();
+    m_storeTried = false;
+    Q_EMIT currentInvoiceChanged(nullptr);
+    return managedObjectContext() != nullptr;
+}
+
+void AppController::restartApp()
+{
+    m_ui.alert(QStringLiteral("Database Updated"),
+               QStringLiteral("The database was successfully updated. In case your old invoices don't show up "
+                              "just restart Tabo 2 and everything will be fine."),
+               {QStringLiteral("OK")});
+}
+
+bool AppController::applicationOpenFile(const QString &)
+{
+    m_ui.alert(QStringLiteral("Tabo, Tabo Documents, and the Tabo Database"),
+               QStringLiteral("In order to avoid duplicate entries, hiccups, and to keep the database intact - "
+                              "please use the 'File Menu' to open documents and to restore the Tabo database."),
+               {QStringLiteral("OK")});
+    return false;
+}
+
+void AppController::setFilterTag(unsigned tag)
+{
+    m_list.setFilterTag(tag);
+    Q_EMIT filterImageChanged(filterGlows());
+}
+
+void AppController::setFilterPredicate()
+{
+    m_list.setFilterPredicate(now());
+    Q_EMIT listChanged();
+    calculateDatabase();
+}
+
+bool AppController::openFilterPopover()
+{
+    if (m_list.filterTag() != 0) {
+        setFilterTag(0);
+        setFilterPredicate();
+        return false;
+    }
+    return true;
+}
+
+void AppController::selectFilterAction(unsigned tag)
+{
+    setFilterTag(tag);
+    setFilterPredicate();
+}
+
+void AppController::calculateDatabase()
+{
+    m_list.calculateDatabase(now());
+    Q_EMIT summaryChanged();
+}
+
+void AppController::calculateInvoice(Record *invoice)
+{
+    if (!invoice)
+        return;
+    Calculator::calculateInvoice(*invoice, TaxSettings::from(m_prefs));
+    calculateDatabase();
+}
+
+void AppController::setCurrentInvoice(Record *invoice)
+{
+    if (m_current == invoice)
+        return;
+    m_current = invoice;
+    Q_EMIT currentInvoiceChanged(invoice);
+}
+
+Date AppController::futureDateFromTodayWithDays(qint64 days) const
+{
+    return now().addSeconds(86400.0 * double(days));
+}
+
+Record *AppController::addInvoice()
+{
+    return newDocument(true);
+}
+
+Record *AppController::addQuote()
+{
+    return newDocument(false);
+}
+
+Record *AppController::newDocument(bool invoice)
+{
+    Store *store = managedObjectContext();
+    if (!store)
+        return nullptr;
+    m_prefs.setBool(P::isFirstInvoiceEverCreated, true);
+    setFilterTag(0);
+
+    Record *doc = store->insert(EntityId::Invoice);
+    doc->setText(Invoice::uniqueID, newUniqueId());
+    const bool numbered = m_prefs.boolean(invoice ? P::invHaveNumber : P::quotHaveNumber);
+    doc->setText(Invoice::number, numbered ? (invoice ? invoiceNumberString() : quoteNumberString()) : QString(""));
+
+    const auto pref = [this](P::Key key) { return m_prefs.contains(key) ? m_prefs.string(key) : QStringLiteral(""); };
+    doc->setText(Invoice::address, QStringLiteral(""));
+    doc->setText(Invoice::title, pref(invoice ? P::locInvoice : P::locQuote));
+    doc->setText(Invoice::subject, QStringLiteral(""));
+    doc->setText(Invoice::conditions, pref(invoice ? P::tempInvConditions : P::tempQuotConditions));
+    doc->setText(Invoice::footer, pref(invoice ? P::tempInvFooter : P::tempQuotFooter));
+    doc->setText(Invoice::misc1, pref(invoice ? P::tempInvMisc : P::tempQuotMisc));
+    for (int a : {Invoice::notes, Invoice::dispatchNumber, Invoice::clientNumber, Invoice::shippingTitle,
+                  Invoice::shippingSubtitle, Invoice::discountTitle, Invoice::discountSubtitle, Invoice::invoiceMisc2,
+                  Invoice::customerTitle, Invoice::customerName, Invoice::customerVATID, Invoice::miscString1,
+                  Invoice::miscString2, Invoice::miscString3})
+        doc->setText(a, QStringLiteral(""));
+    doc->setText(Invoice::currency, m_prefs.string(P::prefsCurrency));
+
+    const Date created = now();
+    Date due = created;
+    if (invoice && m_prefs.boolean(P::invHaveDueDate))
+        due = futureDateFromTodayWithDays(m_prefs.integer(P::invDefaultDueDate));
+    else if (!invoice && m_prefs.boolean(P::quotHaveValidity))
+        due = futureDateFromTodayWithDays(m_prefs.integer(P::quotDefaultValidity));
+    doc->setDate(Invoice::due, due);
+    for (int a : {Invoice::date, Invoice::paid, Invoice::sent, Invoice::dispatched, Invoice::misc5})
+        doc->setDate(a, created);
+
+    doc->setInt(Invoice::kind, invoice ? 1 : 0);
+    for (int a : {Invoice::status, Invoice::discountKind, Invoice::tax1Kind, Invoice::tax2Kind, Invoice::tax3Kind,
+                  Invoice::misc2})
+        doc->setInt(a, 0);
+    doc->setBool(Invoice::isDispatched, false);
+    doc->setBool(Invoice::misc4, false);
+    doc->setSingle(Invoice::misc3, 0.0f);
+    for (int a : {Invoice::amount, Invoice::subAmount, Invoice::paidAmount, Invoice::dueAmount,
+                  Invoice::shippingAmount, Invoice::discountAmount, Invoice::tax1Amount, Invoice::tax2Amount,
+                  Invoice::tax3Amount})
+        doc->setNum(a, 0.0);
+    // The rates are read in single precision, as the tax fields have always been.
+    doc->setSingle(Invoice::tax1Percent, m_prefs.single(P::tax1Rate));
+    doc->setSingle(Invoice::tax2Percent, m_prefs.single(P::tax2Rate));
+    doc->setSingle(Invoice::tax3Percent, m_prefs.single(P::tax3Rate));
+
+    m_list.add(doc);
+    Q_EMIT listChanged();
+    calculateDatabase();
+    setCurrentInvoice(doc);
+    saveContext();
+    return doc;
+}
+
+QString AppController::invoiceNumberString() const
+{
+    return Numbering::invoiceNumberString(m_prefs, m_list.summary(), now());
+}
+
+QString AppController::quoteNumberString() const
+{
+    return Numbering::quoteNumberString(m_prefs, m_list.summary(), now());
+}
+
+QString AppController::convertedInvoiceNumberString() const
+{
+    return Numbering::convertedInvoiceNumberString(m_prefs, m_list.summary(), now());
+}
+
+QString AppController::clientNumberString()
+{
+    Store *store = managedObjectContext();
+    return Numbering::clientNumberString(m_prefs, store ? store->count(EntityId::Address) : 0, now());
+}
+
+QString AppController::getPatternDateStringFromDate(Date date) const
+{
+    return Numbering::getPatternDateStringFromDate(m_prefs, date);
+}
+
+Record *AppController::findDocument(const QString &idOrNumber)
+{
+    if (!managedObjectContext() || idOrNumber.isEmpty())
+        return nullptr;
+    for (Record *r : m_list.all())
+        if (r->text(Invoice::uniqueID) == idOrNumber)
+            return r;
+    for (Record *r : m_list.all())
+        if (r->text(Invoice::number) == idOrNumber)
+            return r;
+    return nullptr;
+}
+
+} // namespace tabo
