@@ -1,0 +1,241 @@
+#include "TestSupport.h"
+
+#include "app/AppController.h"
+#include "domain/Record.h"
+#include "prefs/Preferences.h"
+#include "store/Store.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <sqlite3.h>
+
+using namespace tabo;
+using P = Preferences;
+
+namespace {
+
+struct Fixture
+{
+    test::TempHome home;
+    test::FakeInteraction ui;
+    Preferences prefs{home.configFile()};
+    AppController app{prefs, ui};
+};
+
+} // namespace
+
+class TestAppController : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startUpOnFreshInstallation();
+    void upgradePrompt();
+    void storeLocationFailures();
+    void quitDecisions();
+    void movesStoreToCustomFolder();
+    void newDocumentsAndFilterTag();
+    void refusesFilesFromOutside();
+};
+
+void TestAppController::startUpOnFreshInstallation()
+{
+    Fixture f;
+    // The window's list asks for the store while it is built, before awakeFromNib.
+    QVERIFY(f.app.managedObjectContext());
+    f.app.awakeFromNib();
+    f.app.applicationDidFinishLaunching();
+    QVERIFY(f.ui.alerts.isEmpty());
+    QVERIFY(f.ui.errors.isEmpty());
+    QVERIFY(f.prefs.boolean(P::is2_0MigrationDone));
+    QVERIFY(f.prefs.boolean(P::firstCenter));
+    QVERIFY(!f.prefs.boolean(P::isTerminatedFine));
+    QCOMPARE(f.prefs.integer(P::itemSortOrder), 1);
+    QVERIFY(f.prefs.boolean(P::beforeTaxesBool));
+    QCOMPARE(f.app.storeURL(), f.home.dataDir() + QStringLiteral("/Tabo.mbdb"));
+    QCOMPARE(f.app.backupPath(), f.home.path() + QStringLiteral("/Documents/Tabo_Backup.mbdb"));
+
+    // One-time steps stay done: a changed sort order survives the next launch.
+    f.prefs.setInteger(P::itemSortOrder, 3);
+    f.app.applicationDidFinishLaunching();
+    QCOMPARE(f.prefs.integer(P::itemSortOrder), 3);
+    QVERIFY(f.app.needsFirstStartAssistant());
+    QVERIFY(f.app.firstAssiTabAction(1));
+    QVERIFY(!f.app.needsFirstStartAssistant());
+    QVERIFY(!f.app.firstAssiTabAction(7));
+}
+
+void TestAppController::upgradePrompt()
+{
+    for (int answer : {0, 1}) {
+        Fixture f;
+        f.prefs.setBool(P::firstCenter, true);
+        f.ui.answers = {answer};
+        QSignalSpy terminate(&f.app, &AppController::terminateRequested);
+        Store *store = f.app.managedObjectContext();
+        QCOMPARE(f.ui.alerts.size(), 1);
+        QCOMPARE(f.ui.alerts[0].title, QStringLiteral("Warning!"));
+        QCOMPARE(f.ui.alerts[0].buttons.value(1), QStringLiteral("Update Database And Use Tabo 2"));
+        if (answer == 0) {
+            // Declining opens and migrates nothing, shows no error, and quits.
+            QVERIFY(!store);
+            QVERIFY(f.ui.errors.isEmpty());
+            QVERIFY(!QFileInfo::exists(f.home.dataDir() + QStringLiteral("/Tabo.mbdb")));
+            QVERIFY(terminate.wait(1000));
+            QVERIFY(!f.prefs.boolean(P::is2_0MigrationDone));
+        } else {
+            QVERIFY(store);
+            QVERIFY(f.prefs.boolean(P::is2_0MigrationDone));
+            QTRY_COMPARE_WITH_TIMEOUT(f.ui.alerts.size(), 2, 5000);
+            QCOMPARE(f.ui.alerts[1].title, QStringLiteral("Database Updated"));
+        }
+    }
+}
+
+void TestAppController::storeLocationFailures()
+{
+    {
+        Fixture f;
+        f.prefs.setBool(P::useCustomPath, true);
+        f.prefs.setString(P::customDatabasePath, f.home.path() + QStringLiteral("/gone"));
+        QVERIFY(!f.app.managedObjectContext());
+        QCOMPARE(f.ui.errors.size(), 2);
+        QCOMPARE(f.ui.errors.last().code, 9999);
+        QCOMPARE(f.ui.errors.last().description, QStringLiteral("Failed to initialize the store"));
+        QVERIFY(QFileInfo(f.home.dataDir()).isDir());
+        // Presented once; the application runs on without a store.
+        QVERIFY(!f.app.managedObjectContext());
+        QCOMPARE(f.ui.errors.size(), 2);
+        QVERIFY(!f.app.addInvoice());
+        QCOMPARE(f.app.applicationShouldTerminate(), AppController::TerminateReply::Now);
+    }
+    {
+        Fixture f;
+        QDir().mkpath(f.home.path() + QStringLiteral("/.local/share"));
+        QFile file(f.home.dataDir());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        QVERIFY(!f.app.managedObjectContext());
+        QCOMPARE(f.ui.errors.first().code, 101);
+        QCOMPARE(f.ui.errors.first().domain, QStringLiteral("YOUR_ERROR_DOMAIN"));
+        QCOMPARE(f.ui.errors.first().description,
+                 QStringLiteral("Expected a folder to store application data, found a file (%1).").arg(f.home.dataDir()));
+    }
+}
+
+void TestAppController::quitDecisions()
+{
+    Fixture f;
+    QVERIFY(f.app.addInvoice());
+    QVERIFY(f.app.addQuote());
+    QCOMPARE(f.app.applicationShouldTerminate(), AppController::TerminateReply::Now);
+    QVERIFY(f.prefs.boolean(P::isTerminatedFine));
+    QCOMPARE(f.prefs.integer(P::fetchedObjectsCount), 2);
+
+    // Another program locks the documents against writes: the save fails.
+    sqlite3 *db = nullptr;
+    QCOMPARE(sqlite3_open(f.app.storeURL().toUtf8().constData(), &db), SQLITE_OK);
+    QCOMPARE(sqlite3_exec(db, "CREATE TRIGGER no BEFORE UPDATE ON \"Invoice\" BEGIN SELECT RAISE(ABORT, 'locked'); END",
+                          nullptr, nullptr, nullptr),
+             SQLITE_OK);
+    sqlite3_close(db);
+    f.app.documentList().all().first()->setText(Invoice::title, QStringLiteral("changed"));
+
+    f.ui.answers = {1};
+    QCOMPARE(f.app.applicationShouldTerminate(), AppController::TerminateReply::Cancel);
+    QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Could not save changes while quitting. Quit anyway?"));
+    QCOMPARE(f.ui.alerts.last().buttons, QStringList({QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}));
+    QVERIFY(!f.prefs.boolean(P::isTerminatedFine));
+    f.ui.answers = {0};
+    QCOMPARE(f.app.applicationShouldTerminate(), AppController::TerminateReply::Now);
+    QVERIFY(f.prefs.boolean(P::isTerminatedFine));
+}
+
+void TestAppController::movesStoreToCustomFolder()
+{
+    Fixture f;
+    QVERIFY(f.app.addInvoice());
+    const QString oldPath = f.app.storeURL();
+    const QString folder = f.home.path() + QStringLiteral("/Dropbox");
+    QDir().mkpath(folder);
+    for (const char *name : {"/Tabo.mbdb", "/Tabo.mbdb-wal", "/Tabo.mbdb-shm"}) {
+        QFile stale(folder + QLatin1String(name));
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        stale.write("stale");
+    }
+    bool backedUp = false;
+    f.app.setBackupBeforeMove([&] { backedUp = true; });
+    f.prefs.setBool(P::useCustomPath, true);
+    f.prefs.setString(P::customDatabasePath, folder);
+    QVERIFY(f.app.customPathChanged());
+    QVERIFY(backedUp);
+    QCOMPARE(f.app.storeURL(), folder + QStringLiteral("/Tabo.mbdb"));
+    QCOMPARE(f.app.documentList().all().size(), 1);
+    QVERIFY(f.ui.errors.isEmpty());
+    QVERIFY(QFileInfo::exists(oldPath));
+
+    // Moving to where the store already is must not delete it.
+    QVERIFY(!f.app.customPathChanged());
+    QCOMPARE(f.app.documentList().all().size(), 1);
+}
+
+void TestAppController::newDocumentsAndFilterTag()
+{
+    FixedClock clock(test::utc(2026, 3, 5, 9));
+    Clock::setInstance(&clock);
+    Fixture f;
+    f.prefs.setString(P::invPattern, QStringLiteral("RE-%YEAR%-%COUNT%"));
+    f.prefs.setInteger(P::invCount, 100);
+    f.prefs.setBool(P::invHaveNumber, true);
+    f.prefs.setBool(P::invHaveDueDate, true);
+    f.prefs.setInteger(P::invDefaultDueDate, 14);
+    f.prefs.setString(P::locInvoice, QStringLiteral("Rechnung"));
+    f.prefs.setString(P::prefsCurrency, QStringLiteral("€"));
+    f.prefs.setReal(P::tax1Rate, 0.19);
+
+    Record *first = f.app.addInvoice();
+    QVERIFY(first);
+    QCOMPARE(first->text(Invoice::number), QStringLiteral("RE-2026-101"));
+    QCOMPARE(first->text(Invoice::title), QStringLiteral("Rechnung"));
+    QVERIFY(!first->text(Invoice::conditions).isNull()); // missing preference → ""
+    QCOMPARE(first->text(Invoice::currency), QStringLiteral("€"));
+    QCOMPARE(first->num(Invoice::tax1Percent), double(0.19f));
+    QCOMPARE(first->date(Invoice::due), clock.now().addDays(14));
+    QCOMPARE(first->integer(Invoice::kind), 1);
+    QCOMPARE(f.app.currentInvoice(), first);
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE-2026-102"));
+    Record *quote = f.app.addQuote();
+    QCOMPARE(quote->integer(Invoice::kind), 0);
+    QCOMPARE(quote->date(Invoice::due), clock.now()); // no validity set
+
+    // A new document while "paid" is shown resets the tag, not the predicate.
+    f.app.selectFilterAction(3);
+    QVERIFY(f.app.filterGlows());
+    QSignalSpy image(&f.app, &AppController::filterImageChanged);
+    Record *hidden = f.app.addInvoice();
+    QCOMPARE(f.app.filterTag(), 0u);
+    QCOMPARE(image.last().at(0).toBool(), false);
+    QVERIFY(!f.app.documentList().arranged().contains(hidden));
+    // The button then shows no filter, so a click opens the popover.
+    QVERIFY(f.app.openFilterPopover());
+    f.app.selectFilterAction(0);
+    QCOMPARE(f.app.documentList().arranged().size(), 4);
+    QCOMPARE(f.app.summary().invoiceCountForNumber, 3u);
+    QCOMPARE(f.app.summary().quoteCount, 1u);
+    Clock::setInstance(nullptr);
+}
+
+void TestAppController::refusesFilesFromOutside()
+{
+    Fixture f;
+    QVERIFY(!f.app.applicationOpenFile(QStringLiteral("/tmp/x.tabo")));
+    QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Tabo, Tabo Documents, and the Tabo Database"));
+    QVERIFY(f.ui.lastAlertText().startsWith(QStringLiteral("In order to avoid duplicate entries, hiccups")));
+}
+
+QTEST_GUILESS_MAIN(TestAppController)
+#include "TestAppController.moc"
