@@ -29,7 +29,9 @@ bool newerFirst(const Record *a, const Record *b)
 void DocumentList::reload(Store *store)
 {
     m_all = store ? store->all(EntityId::Invoice) : QList<Record *>();
-    std::sort(m_all.begin(), m_all.end(), newerFirst);
+    // The store hands the documents over newest first already.
+    if (!std::is_sorted(m_all.cbegin(), m_all.cend(), newerFirst))
+        std::sort(m_all.begin(), m_all.end(), newerFirst);
     applyPredicate();
 }
 

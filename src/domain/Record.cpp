@@ -5,6 +5,8 @@
 #include <QLocale>
 
 #include <cstring>
+#include <memory>
+#include <new>
 
 namespace tabo {
 
@@ -37,11 +39,53 @@ Record::Record(Store *store, EntityId entity, qint64 id)
         m_fk.reset(new qint64[toOne]());
         m_toOne.reset(new Record *[toOne]());
     }
-    if (!m_desc->relations.empty())
-        m_toMany.reset(new std::unique_ptr<QList<Record *>>[m_desc->relations.size()]);
 }
 
-Record::~Record() = default;
+Record::Record(InlineTag, void *values, void *texts, Store *store, EntityId entity, qint64 id)
+    : m_store(store)
+    , m_desc(&entityDesc(entity))
+    , m_entity(entity)
+    , m_inline(true)
+    , m_id(id)
+    , m_nullMask(~std::uint64_t(0))
+    , m_num(static_cast<double *>(values))
+    , m_text(static_cast<QString *>(texts))
+{
+    std::uninitialized_value_construct_n(m_num, m_desc->numericCount);
+    std::uninitialized_default_construct_n(m_text, m_desc->textCount);
+    const int toOne = m_desc->toOneCount();
+    if (toOne > 0) {
+        m_fk.reset(new qint64[toOne]());
+        m_toOne.reset(new Record *[toOne]());
+    }
+}
+
+std::size_t Record::inlineSize(const EntityDesc &desc)
+{
+    static_assert(sizeof(Record) % alignof(double) == 0);
+    return sizeof(Record) + sizeof(double) * desc.numericCount;
+}
+
+std::size_t Record::inlineTextSize(const EntityDesc &desc)
+{
+    return sizeof(QString) * desc.textCount;
+}
+
+Record *Record::createInline(void *place, void *texts, Store *store, EntityId entity, qint64 id)
+{
+    auto *values = static_cast<std::byte *>(place) + sizeof(Record);
+    return new (place) Record(InlineTag{}, values, texts, store, entity, id);
+}
+
+Record::~Record()
+{
+    if (m_inline) {
+        std::destroy_n(m_text, m_desc->textCount);
+    } else {
+        delete[] m_num;
+        delete[] m_text;
+    }
+}
 
 bool Record::isNull(int attr) const
 {
@@ -53,15 +97,11 @@ bool Record::isNull(int attr) const
     return (m_nullMask >> a.slot) & 1U;
 }
 
-double Record::num(int attr) const
+double Record::numFromText(int attr) const
 {
-    const AttributeDesc &a = m_desc->attributes[attr];
-    if (a.isText()) {
-        bool ok = false;
-        const double v = text(attr).toDouble(&ok);
-        return ok ? v : 0.0;
-    }
-    return ((m_nullMask >> a.slot) & 1U) ? 0.0 : m_num[a.slot];
+    bool ok = false;
+    const double v = text(attr).toDouble(&ok);
+    return ok ? v : 0.0;
 }
 
 Date Record::date(int attr) const
@@ -81,7 +121,7 @@ QString Record::text(int attr) const
     return m_text[a.slot];
 }
 
-void Record::setNum(int attr, double value)
+void Record::assignNum(int attr, double value)
 {
     const AttributeDesc &a = m_desc->attributes[attr];
     if (a.isText()) {
@@ -280,6 +320,8 @@ const QList<Record *> &Record::toMany(int rel) const
 {
     if (!m_desc->relations[rel].toMany)
         return emptyList();
+    if (!m_toMany)
+        m_toMany.reset(new std::unique_ptr<QList<Record *>>[m_desc->relations.size()]);
     if (!m_toMany[rel]) {
         if (!m_store)
             m_toMany[rel] = std::make_unique<QList<Record *>>();

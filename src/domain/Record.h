@@ -7,6 +7,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <bit>
 #include <bitset>
 #include <cstdint>
 #include <memory>
@@ -24,6 +25,15 @@ class Record
 public:
     Record(Store *store, EntityId entity, qint64 id);
     ~Record();
+
+    // Bytes a record of the entity needs with its numbers placed right after
+    // it, and the bytes of its texts.
+    static std::size_t inlineSize(const EntityDesc &desc);
+    static std::size_t inlineTextSize(const EntityDesc &desc);
+    // Constructs a record at `place` (inlineSize() bytes) with its texts at
+    // `texts` (inlineTextSize() bytes): the store lays a whole list out this
+    // way so that walking the list walks memory front to back.
+    static Record *createInline(void *place, void *texts, Store *store, EntityId entity, qint64 id);
     Record(const Record &) = delete;
     Record &operator=(const Record &) = delete;
 
@@ -34,7 +44,13 @@ public:
 
     // Typed reads.
     bool isNull(int attr) const;
-    double num(int attr) const;
+    double num(int attr) const
+    {
+        const AttributeDesc &a = m_desc->attributes[attr];
+        if (a.isText())
+            return numFromText(attr);
+        return ((m_nullMask >> a.slot) & 1U) ? 0.0 : m_num[a.slot];
+    }
     int integer(int attr) const { return int(num(attr)); }
     bool boolean(int attr) const { return num(attr) != 0.0; }
     float single(int attr) const { return float(num(attr)); }
@@ -42,7 +58,15 @@ public:
     QString text(int attr) const;
 
     // Typed writes; writing the value already held changes nothing.
-    void setNum(int attr, double value);
+    void setNum(int attr, double value)
+    {
+        // The summary pass writes many values it already holds: decide those inline.
+        const AttributeDesc &a = m_desc->attributes[attr];
+        if (a.type == AttrType::Double && !((m_nullMask >> a.slot) & 1U)
+            && std::bit_cast<std::uint64_t>(m_num[a.slot]) == std::bit_cast<std::uint64_t>(value))
+            return;
+        assignNum(attr, value);
+    }
     void setInt(int attr, int value) { setNum(attr, double(value)); }
     void setBool(int attr, bool value) { setNum(attr, value ? 1.0 : 0.0); }
     void setSingle(int attr, float value) { setNum(attr, double(value)); }
@@ -64,15 +88,20 @@ public:
 
     bool isInserted() const { return m_inserted; }
     bool isDeleted() const { return m_deleted; }
+    bool isInline() const { return m_inline; }
     bool hasChanges() const { return m_inserted || m_deleted || m_changed.any(); }
 
 private:
     friend class Store;
     using ChangeSet = std::bitset<128>;
 
+    double numFromText(int attr) const;
+    void assignNum(int attr, double value);
     void ensureText(int slot) const;
     void markChanged(int attr);
     int toOneSlot(int rel) const;
+    struct InlineTag {};
+    Record(InlineTag, void *values, void *texts, Store *store, EntityId entity, qint64 id);
 
     Store *m_store;
     const EntityDesc *m_desc;
@@ -83,8 +112,9 @@ private:
     mutable bool m_textLoaded = true;
     qint64 m_id;
     std::uint64_t m_nullMask; // bit per numeric slot
-    std::unique_ptr<double[]> m_num;
-    std::unique_ptr<QString[]> m_text;
+    bool m_inline = false;
+    double *m_num;
+    QString *m_text;
     ChangeSet m_changed;
     // To-one: foreign key and resolved record per to-one relation.
     std::unique_ptr<qint64[]> m_fk;

@@ -24,6 +24,22 @@ struct Store::EntityState
     QString fullSelect;          // "SELECT id, ... FROM T"
     QList<int> listAttrs;        // attributes read at open (Invoice)
     QString listSelect;
+    std::vector<std::unique_ptr<std::byte[]>> arenas; // records laid out in list order
+
+    void destroyAll()
+    {
+        for (Record *r : std::as_const(map)) {
+            if (r->isInline())
+                r->~Record();
+            else
+                delete r;
+        }
+        map.clear();
+        live.clear();
+        arenas.clear();
+        loaded = false;
+        maxId = -1;
+    }
 };
 
 namespace {
@@ -201,13 +217,8 @@ void Store::close()
     for (sqlite3_stmt *st : std::as_const(m_statements))
         sqlite3_finalize(st);
     m_statements.clear();
-    for (auto &st : m_entities) {
-        qDeleteAll(st->map);
-        st->map.clear();
-        st->live.clear();
-        st->loaded = false;
-        st->maxId = -1;
-    }
+    for (auto &st : m_entities)
+        st->destroyAll();
     m_dirty.clear();
     if (m_db) {
         sqlite3_close(m_db);
@@ -300,10 +311,90 @@ void Store::readRow(Record *r, sqlite3_stmt *stmt, int col, bool listOnly)
     }
 }
 
+bool Store::loadDocumentsInListOrder()
+{
+    EntityState &st = *m_entities[int(EntityId::Invoice)];
+    struct Key
+    {
+        qint64 id;
+        double date;
+        bool hasDate;
+    };
+    std::vector<Key> keys;
+    sqlite3_exec(m_db, "BEGIN", nullptr, nullptr, nullptr); // both reads see one state
+    sqlite3_stmt *stmt = prepare(QStringLiteral("SELECT \"id\", \"date\" FROM \"Invoice\" ORDER BY \"id\""));
+    if (!stmt) {
+        sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
+        return false;
+    }
+    int rc;
+    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW)
+        keys.push_back({sqlite3_column_int64(stmt, 0), sqlite3_column_double(stmt, 1),
+                        sqlite3_column_type(stmt, 1) != SQLITE_NULL});
+    sqlite3_reset(stmt);
+    if (rc != SQLITE_DONE) {
+        m_lastError = sqlError(QStringLiteral("The database could not be read."));
+        sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
+        return true;
+    }
+    // The document list shows newest first; records placed in that order make
+    // the summary pass and filters walk memory front to back.
+    std::vector<std::uint32_t> order(keys.size());
+    for (std::uint32_t i = 0; i < order.size(); ++i)
+        order[i] = i;
+    std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+        const Key &x = keys[a], &y = keys[b];
+        if (x.hasDate != y.hasDate)
+            return x.hasDate;
+        if (x.date != y.date)
+            return x.date > y.date;
+        return x.id > y.id;
+    });
+    std::vector<std::uint32_t> rank(keys.size());
+    for (std::uint32_t pos = 0; pos < order.size(); ++pos)
+        rank[order[pos]] = pos;
+
+    const std::size_t slot = Record::inlineSize(entityDesc(EntityId::Invoice));
+    const std::size_t textSlot = Record::inlineTextSize(entityDesc(EntityId::Invoice));
+    const std::size_t n = std::max<std::size_t>(keys.size(), 1);
+    auto arena = std::make_unique<std::byte[]>(slot * n);
+    auto textArena = std::make_unique<std::byte[]>(textSlot * n);
+    std::vector<Record *> placed(keys.size(), nullptr);
+    st.map.reserve(qsizetype(keys.size()));
+    stmt = prepare(st.listSelect + QStringLiteral(" ORDER BY \"id\""));
+    std::size_t i = 0;
+    while (stmt && (rc = sqlite3_step(stmt)) == SQLITE_ROW && i < keys.size()) {
+        const qint64 id = sqlite3_column_int64(stmt, 0);
+        if (id != keys[i].id)
+            break;
+        Record *r = Record::createInline(arena.get() + slot * rank[i], textArena.get() + textSlot * rank[i], this,
+                                         EntityId::Invoice, id);
+        readRow(r, stmt, 1, true);
+        st.map.insert(id, r);
+        placed[rank[i]] = r;
+        ++i;
+    }
+    if (stmt && rc != SQLITE_DONE && rc != SQLITE_ROW)
+        m_lastError = sqlError(QStringLiteral("The database could not be read."));
+    if (stmt)
+        sqlite3_reset(stmt);
+    sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
+    st.arenas.push_back(std::move(arena));
+    st.arenas.push_back(std::move(textArena));
+    st.live.reserve(qsizetype(placed.size()));
+    for (Record *r : placed)
+        if (r)
+            st.live.append(r);
+    st.loaded = true;
+    return true;
+}
+
 void Store::loadAll(EntityId entity)
 {
     EntityState &st = *m_entities[int(entity)];
     if (st.loaded || !m_db)
+        return;
+    if (entity == EntityId::Invoice && st.map.isEmpty() && m_dirty.isEmpty() && loadDocumentsInListOrder())
         return;
     const bool listOnly = entity == EntityId::Invoice;
     sqlite3_stmt *stmt = prepare(listOnly ? st.listSelect : st.fullSelect);
@@ -615,13 +706,8 @@ void Store::reset()
     for (sqlite3_stmt *st : std::as_const(m_statements))
         sqlite3_finalize(st);
     m_statements.clear();
-    for (auto &st : m_entities) {
-        qDeleteAll(st->map);
-        st->map.clear();
-        st->live.clear();
-        st->loaded = false;
-        st->maxId = -1;
-    }
+    for (auto &st : m_entities)
+        st->destroyAll();
     m_dirty.clear();
     if (m_db)
         loadAll(EntityId::Invoice);

@@ -70,6 +70,7 @@ private:
     Record *adopt(EntityId entity, qint64 id, bool *created);
     void readRow(Record *record, sqlite3_stmt *stmt, int firstColumn, bool listOnly);
     void loadAll(EntityId entity);
+    bool loadDocumentsInListOrder();
     sqlite3_stmt *prepare(const QString &sql);
     Error sqlError(const QString &what) const;
     Error writeRecord(Record *record);
