@@ -1,1 +1,72 @@
-int main() { return 0; }
+#include "cli/AddItemCommand.h"
+#include "cli/CalcCommand.h"
+#include "cli/Console.h"
+#include "cli/ListCommand.h"
+#include "cli/NewCommand.h"
+#include "cli/PrefsCommand.h"
+#include "cli/Session.h"
+#include "cli/SetCommand.h"
+#include "cli/ShowCommand.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include <memory>
+#include <vector>
+
+using namespace tabo::cli;
+
+namespace {
+
+QString usageText(const std::vector<std::unique_ptr<Command>> &commands)
+{
+    QStringList lines{QStringLiteral("Usage: tabo-cli COMMAND [ARGUMENTS]"), QString(),
+                      QStringLiteral("Commands:")};
+    for (const auto &c : commands)
+        lines << QStringLiteral("  ") + c->usage() << QStringLiteral("      ") + c->description();
+    lines << QString()
+          << QStringLiteral("ID is a document's unique ID or its number. "
+                            "Run “tabo-cli COMMAND --help” for one command.");
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("tabo-cli"));
+    // The core's diagnostics would break the one-line-per-failure contract on
+    // stderr; QT_LOGGING_RULES still turns them back on.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));
+
+    Session session;
+    std::vector<std::unique_ptr<Command>> commands;
+    commands.push_back(std::make_unique<PrefsCommand>(session));
+    commands.push_back(std::make_unique<NewCommand>(session));
+    commands.push_back(std::make_unique<SetCommand>(session));
+    commands.push_back(std::make_unique<AddItemCommand>(session));
+    commands.push_back(std::make_unique<CalcCommand>(session));
+    commands.push_back(std::make_unique<ListCommand>(session));
+    commands.push_back(std::make_unique<ShowCommand>(session));
+
+    QStringList args = QCoreApplication::arguments().mid(1);
+    if (args.isEmpty()) {
+        printError(QStringLiteral("Missing command. Run “tabo-cli --help” for usage."));
+        return kExitUsage;
+    }
+    const QString name = args.takeFirst();
+    if (name == QLatin1String("--help") || name == QLatin1String("-h") || name == QLatin1String("help")) {
+        printOut(usageText(commands));
+        return kExitOk;
+    }
+    for (const auto &command : commands) {
+        if (command->name() == name)
+            return session.finish(command->execute(args));
+    }
+    printError((name.startsWith(QLatin1Char('-')) ? QStringLiteral("Unknown option “%1”.")
+                                                  : QStringLiteral("Unknown command “%1”."))
+                   .arg(name)
+               + QStringLiteral(" Run “tabo-cli --help” for usage."));
+    return kExitUsage;
+}

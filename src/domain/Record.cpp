@@ -4,6 +4,7 @@
 
 #include <QLocale>
 
+#include <cmath>
 #include <cstring>
 #include <memory>
 #include <new>
@@ -129,7 +130,7 @@ void Record::assignNum(int attr, double value)
         return;
     }
     if (a.type == AttrType::Int)
-        value = double(qint64(value));
+        value = std::isfinite(value) ? std::trunc(value) : 0.0; // no undefined conversion
     else if (a.type == AttrType::Bool)
         value = value != 0.0 ? 1.0 : 0.0;
     else if (a.type == AttrType::Float)

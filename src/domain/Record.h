@@ -51,7 +51,11 @@ public:
             return numFromText(attr);
         return ((m_nullMask >> a.slot) & 1U) ? 0.0 : m_num[a.slot];
     }
-    int integer(int attr) const { return int(num(attr)); }
+    int integer(int attr) const
+    {
+        const double v = num(attr);
+        return v > -2147483649.0 && v < 2147483648.0 ? int(v) : 0; // NaN and out of range read 0
+    }
     bool boolean(int attr) const { return num(attr) != 0.0; }
     float single(int attr) const { return float(num(attr)); }
     Date date(int attr) const;

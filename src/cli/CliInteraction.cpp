@@ -1,0 +1,52 @@
+#include "cli/CliInteraction.h"
+
+#include "cli/Console.h"
+
+namespace tabo::cli {
+
+int CliInteraction::decliningButton(const QStringList &buttons)
+{
+    for (int i = 0; i < buttons.size(); ++i) {
+        const QString &b = buttons.at(i);
+        if (b.startsWith(QLatin1String("Cancel")) || b.startsWith(QLatin1String("Don't"))
+            || b.startsWith(QLatin1String("Don’t")))
+            return i;
+    }
+    return int(buttons.size()) - 1;
+}
+
+int CliInteraction::alert(const QString &title, const QString &text, const QStringList &buttons)
+{
+    printError(title + QStringLiteral(": ") + text);
+    if (buttons.size() < 2)
+        return 0;
+    const int decline = decliningButton(buttons);
+    if (!m_confirm) {
+        m_refused = true;
+        return decline;
+    }
+    // The confirming button is the first one that does not decline.
+    return decline == 0 ? 1 : 0;
+}
+
+void CliInteraction::presentError(const Error &error)
+{
+    // The controller follows a failed open with a generic "no store" error;
+    // on a terminal the first, specific reason is the one line worth showing.
+    if (m_errorPresented && error.code == 9999 && error.domain == Error::kAppDomain)
+        return;
+    m_errorPresented = true;
+    printError(error.message());
+}
+
+QString CliInteraction::openFile(const FileRequest &)
+{
+    return m_panelPath;
+}
+
+QString CliInteraction::saveFile(const FileRequest &)
+{
+    return m_panelPath;
+}
+
+} // namespace tabo::cli

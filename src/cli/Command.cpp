@@ -1,0 +1,65 @@
+#include "cli/Command.h"
+
+#include "cli/Console.h"
+
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+Command::Command(Session &session, QString name, QString arguments, QString description)
+    : m_session(session)
+    , m_name(std::move(name))
+    , m_arguments(std::move(arguments))
+    , m_description(std::move(description))
+{
+}
+
+Command::~Command() = default;
+
+QString Command::usage() const
+{
+    return QStringLiteral("tabo-cli ") + m_name + (m_arguments.isEmpty() ? QString() : QLatin1Char(' ') + m_arguments);
+}
+
+bool Command::parse(QCommandLineParser &parser, const QStringList &args, int minPositional, int maxPositional,
+                    int *exitCode, bool optionsFirst) const
+{
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
+    parser.addOption(help);
+    if (optionsFirst)
+        parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    if (!parser.parse(QStringList{m_name} + args)) {
+        const QString reason = parser.errorText();
+        *exitCode = usageError(reason.endsWith(QLatin1Char('.')) ? reason : reason + QLatin1Char('.'));
+        return false;
+    }
+    if (parser.isSet(help)) {
+        printOut(QStringLiteral("Usage: ") + usage() + QStringLiteral("\n") + m_description);
+        *exitCode = kExitOk;
+        return false;
+    }
+    const qsizetype n = parser.positionalArguments().size();
+    if (n < minPositional) {
+        *exitCode = usageError(QStringLiteral("Missing argument."));
+        return false;
+    }
+    if (maxPositional >= 0 && n > maxPositional) {
+        *exitCode = usageError(QStringLiteral("Too many arguments."));
+        return false;
+    }
+    return true;
+}
+
+int Command::usageError(const QString &reason) const
+{
+    printError((reason.isEmpty() ? QString() : reason + QLatin1Char(' ')) + QStringLiteral("Usage: ") + usage());
+    return kExitUsage;
+}
+
+int Command::failure(const QString &line)
+{
+    printError(line);
+    return kExitFailure;
+}
+
+} // namespace tabo::cli

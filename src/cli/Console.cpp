@@ -1,0 +1,22 @@
+#include "cli/Console.h"
+
+#include <cstdio>
+
+namespace tabo::cli {
+
+void printOut(const QString &text)
+{
+    std::fputs(text.toUtf8().constData(), stdout);
+    if (!text.endsWith(QLatin1Char('\n')))
+        std::fputc('\n', stdout);
+}
+
+void printError(const QString &line)
+{
+    // Scripts read one failure per line: never let a message span several.
+    std::fputs(line.simplified().toUtf8().constData(), stderr);
+    std::fputc('\n', stderr);
+    std::fflush(stderr);
+}
+
+} // namespace tabo::cli

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace tabo::cli {
+
+// prefs get KEY | prefs set KEY VALUE | prefs install-language N
+class PrefsCommand : public Command
+{
+public:
+    explicit PrefsCommand(Session &session);
+    int execute(const QStringList &args) override;
+
+private:
+    int get(const QString &key);
+    int set(const QString &key, const QString &value);
+    int installLanguage(const QString &number);
+};
+
+} // namespace tabo::cli

@@ -1,0 +1,65 @@
+#include "cli/Session.h"
+
+#include "app/AppController.h"
+#include "cli/Console.h"
+#include "prefs/Preferences.h"
+
+namespace tabo::cli {
+
+Session::Session() = default;
+
+Session::~Session() = default;
+
+Preferences &Session::prefs()
+{
+    if (!m_prefs)
+        m_prefs = std::make_unique<Preferences>();
+    return *m_prefs;
+}
+
+AppController &Session::controller()
+{
+    if (!m_controller)
+        m_controller = std::make_unique<AppController>(prefs(), m_ui);
+    return *m_controller;
+}
+
+Store *Session::store()
+{
+    if (!m_launched) {
+        m_launched = true;
+        // The window steps of the launch do not apply; the one-time upgrades
+        // do, since the calculation reads the flags they set.
+        controller().applicationDidFinishLaunching();
+    }
+    Store *store = controller().managedObjectContext();
+    if (!store && !m_ui.errorPresented() && !m_ui.refused())
+        printError(QStringLiteral("The database could not be opened."));
+    return store;
+}
+
+Record *Session::document(const QString &idOrNumber)
+{
+    if (!store())
+        return nullptr;
+    Record *doc = controller().findDocument(idOrNumber);
+    if (!doc)
+        printError(QStringLiteral("No document with ID or number “%1”.").arg(idOrNumber));
+    return doc;
+}
+
+int Session::finish(int exitCode)
+{
+    if (m_launched) {
+        if (controller().applicationShouldTerminate() == AppController::TerminateReply::Cancel)
+            exitCode = kExitFailure;
+        controller().applicationWillTerminate();
+    }
+    // Whatever was presented or refused is a failure, even if the command
+    // itself went on.
+    if ((m_ui.refused() || m_ui.errorPresented()) && exitCode == kExitOk)
+        exitCode = kExitFailure;
+    return exitCode;
+}
+
+} // namespace tabo::cli
