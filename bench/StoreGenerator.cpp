@@ -71,10 +71,22 @@ QString generateStore(const QString &path, int documents, int lines, int bigDocu
         sqlite3_reset(si);
         sqlite3_clear_bindings(si);
         const bool big = i == documents;
-        const int kind = rng() % 5 == 0 ? 0 : 1;
-        const double date = now - double(rng() % (3 * 365 * 86400));
+        // A business's history: about one document in seven is a quote; older
+        // invoices are nearly all paid, the last two months are still open,
+        // a few are overdue or partly paid.
+        const int kind = rng() % 7 == 0 ? 0 : 1;
+        const double age = double(rng() % (3 * 365 * 86400));
+        const double date = now - age;
+        int status = 0;
+        if (kind == 1) {
+            const unsigned dice = rng() % 100;
+            if (age > 60 * 86400)
+                status = dice < 94 ? 3 : dice < 97 ? 2 : 4;
+            else
+                status = dice < 20 ? 0 : dice < 75 ? 1 : dice < 95 ? 3 : 2;
+        }
         sqlite3_bind_int64(si, column(inv, Invoice::kind), kind);
-        sqlite3_bind_int64(si, column(inv, Invoice::status), kind ? int(rng() % 5) : 0);
+        sqlite3_bind_int64(si, column(inv, Invoice::status), status);
         sqlite3_bind_double(si, column(inv, Invoice::date), date);
         sqlite3_bind_double(si, column(inv, Invoice::due), date + 14 * 86400);
         sqlite3_bind_double(si, column(inv, Invoice::paid), date);
@@ -86,9 +98,10 @@ QString generateStore(const QString &path, int documents, int lines, int bigDocu
         sqlite3_bind_double(si, column(inv, Invoice::amount), net * 1.19);
         sqlite3_bind_double(si, column(inv, Invoice::tax1Amount), net * 0.19);
         sqlite3_bind_double(si, column(inv, Invoice::tax1Percent), double(0.19f));
-        sqlite3_bind_double(si, column(inv, Invoice::paidAmount), 0.0);
-        sqlite3_bind_double(si, column(inv, Invoice::dueAmount), 0.0);
-        for (int a : {Invoice::isPaid, Invoice::isDispatched, Invoice::discountKind, Invoice::tax1Kind,
+        sqlite3_bind_double(si, column(inv, Invoice::paidAmount), status == 3 ? net * 1.19 : 0.0);
+        sqlite3_bind_double(si, column(inv, Invoice::dueAmount), status == 2 ? net * 1.19 : 0.0);
+        sqlite3_bind_int64(si, column(inv, Invoice::isPaid), status >= 3 ? 1 : 0);
+        for (int a : {Invoice::isDispatched, Invoice::discountKind, Invoice::tax1Kind,
                       Invoice::tax2Kind, Invoice::tax3Kind, Invoice::misc2, Invoice::misc4})
             sqlite3_bind_int64(si, column(inv, a), 0);
         bindText(si, column(inv, Invoice::number), (kind ? "RE-" : "AN-") + QByteArray::number(i));

@@ -10,6 +10,9 @@ struct Builder {
     EntityDesc desc;
     void attr(const char *name, AttrType type)
     {
+        // Numbers come before texts in every entity, so a number's slot is its
+        // attribute index and records read it without a lookup.
+        Q_ASSERT(type == AttrType::Text || desc.textCount == 0);
         const int slot = type == AttrType::Text ? desc.textCount++ : desc.numericCount++;
         desc.attributeByName.insert(QString::fromLatin1(name), int(desc.attributes.size()));
         desc.attributes.push_back({QString::fromLatin1(name), type, slot});

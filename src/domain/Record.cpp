@@ -27,12 +27,13 @@ const QList<Record *> &emptyList()
 } // namespace
 
 Record::Record(Store *store, EntityId entity, qint64 id)
-    : m_store(store)
-    , m_desc(&entityDesc(entity))
-    , m_entity(entity)
-    , m_id(id)
+    : m_num(new double[entityDesc(entity).numericCount]())
     , m_nullMask(~std::uint64_t(0))
-    , m_num(new double[m_desc->numericCount]())
+    , m_numericCount(std::uint8_t(entityDesc(entity).numericCount))
+    , m_entity(entity)
+    , m_store(store)
+    , m_desc(&entityDesc(entity))
+    , m_id(id)
     , m_text(new QString[m_desc->textCount])
 {
     const int toOne = m_desc->toOneCount();
@@ -43,13 +44,14 @@ Record::Record(Store *store, EntityId entity, qint64 id)
 }
 
 Record::Record(InlineTag, void *values, void *texts, Store *store, EntityId entity, qint64 id)
-    : m_store(store)
-    , m_desc(&entityDesc(entity))
+    : m_num(static_cast<double *>(values))
+    , m_nullMask(~std::uint64_t(0))
+    , m_numericCount(std::uint8_t(entityDesc(entity).numericCount))
     , m_entity(entity)
     , m_inline(true)
+    , m_store(store)
+    , m_desc(&entityDesc(entity))
     , m_id(id)
-    , m_nullMask(~std::uint64_t(0))
-    , m_num(static_cast<double *>(values))
     , m_text(static_cast<QString *>(texts))
 {
     std::uninitialized_value_construct_n(m_num, m_desc->numericCount);
@@ -74,8 +76,11 @@ std::size_t Record::inlineTextSize(const EntityDesc &desc)
 
 Record *Record::createInline(void *place, void *texts, Store *store, EntityId entity, qint64 id)
 {
-    auto *values = static_cast<std::byte *>(place) + sizeof(Record);
-    return new (place) Record(InlineTag{}, values, texts, store, entity, id);
+    // Numbers first: the hot ones then share a cache line at the start of
+    // the block, and the record's own hot fields one more.
+    auto *values = static_cast<double *>(place);
+    auto *self = static_cast<std::byte *>(place) + sizeof(double) * entityDesc(entity).numericCount;
+    return new (self) Record(InlineTag{}, values, texts, store, entity, id);
 }
 
 Record::~Record()

@@ -46,10 +46,9 @@ public:
     bool isNull(int attr) const;
     double num(int attr) const
     {
-        const AttributeDesc &a = m_desc->attributes[attr];
-        if (a.isText())
+        if (attr >= m_numericCount)
             return numFromText(attr);
-        return ((m_nullMask >> a.slot) & 1U) ? 0.0 : m_num[a.slot];
+        return ((m_nullMask >> attr) & 1U) ? 0.0 : m_num[attr];
     }
     int integer(int attr) const
     {
@@ -64,10 +63,11 @@ public:
     // Typed writes; writing the value already held changes nothing.
     void setNum(int attr, double value)
     {
-        // The summary pass writes many values it already holds: decide those inline.
-        const AttributeDesc &a = m_desc->attributes[attr];
-        if (a.type == AttrType::Double && !((m_nullMask >> a.slot) & 1U)
-            && std::bit_cast<std::uint64_t>(m_num[a.slot]) == std::bit_cast<std::uint64_t>(value))
+        // The summary pass writes many values it already holds: decide those
+        // inline. A stored value is already in its type's form, so equal bits
+        // mean no change whatever the type.
+        if (attr < m_numericCount && !((m_nullMask >> attr) & 1U)
+            && std::bit_cast<std::uint64_t>(m_num[attr]) == std::bit_cast<std::uint64_t>(value))
             return;
         assignNum(attr, value);
     }
@@ -107,17 +107,19 @@ private:
     struct InlineTag {};
     Record(InlineTag, void *values, void *texts, Store *store, EntityId entity, qint64 id);
 
-    Store *m_store;
-    const EntityDesc *m_desc;
+    // What the summary pass reads sits in the first bytes.
+    double *m_num;
+    std::uint64_t m_nullMask; // bit per numeric attribute
+    std::uint8_t m_numericCount;
     EntityId m_entity;
     bool m_inserted = false;
     bool m_deleted = false;
     bool m_inDirty = false;
-    mutable bool m_textLoaded = true;
-    qint64 m_id;
-    std::uint64_t m_nullMask; // bit per numeric slot
     bool m_inline = false;
-    double *m_num;
+    mutable bool m_textLoaded = true;
+    Store *m_store;
+    const EntityDesc *m_desc;
+    qint64 m_id;
     QString *m_text;
     ChangeSet m_changed;
     // To-one: foreign key and resolved record per to-one relation.
