@@ -252,6 +252,8 @@ bool AppController::customPathChanged()
     m_store.reset();
     m_storeTried = false;
     Q_EMIT currentInvoiceChanged(nullptr);
+    Q_EMIT listChanged();
+    Q_EMIT summaryChanged();
     return managedObjectContext() != nullptr;
 }
 

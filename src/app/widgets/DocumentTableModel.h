@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+namespace tabo {
+
+class AppController;
+class Date;
+class Record;
+
+// The document list as a table, read straight from the controller's arranged
+// list (newest first). Nothing is cached per row: a view asks only for the
+// rows it shows, so 100,000 documents cost no more than a screenful.
+class DocumentTableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Number, DateColumn, Client, Title, Total, Status, ColumnCount };
+
+    // Asks the controller for the store, which opens it on first use.
+    explicit DocumentTableModel(AppController &app, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+    Record *recordAt(int row) const;
+    int rowOf(const Record *document) const; // -1 when not shown
+
+    static QString statusText(const Record &document);
+
+private:
+    static QVariant alignment(int column);
+    QString dateText(Date date) const;
+    void reload();
+    void refreshFigures();
+
+    AppController &m_app;
+};
+
+} // namespace tabo

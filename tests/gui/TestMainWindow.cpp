@@ -1,0 +1,220 @@
+#include "DocumentListPane.h"
+#include "DocumentTableModel.h"
+#include "FilterButton.h"
+#include "FilterPopover.h"
+#include "GuiInteraction.h"
+#include "MainWindow.h"
+#include "TestSupport.h"
+
+#include "app/AppController.h"
+#include "domain/Record.h"
+#include "prefs/Preferences.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+#include <QtTest>
+
+#include <algorithm>
+#include <memory>
+
+using namespace tabo;
+
+namespace {
+
+// Answers each message box that comes up, however deep inside a command it
+// runs its own event loop, and keeps what it showed.
+class BoxAnswerer
+{
+public:
+    struct Seen
+    {
+        QString text;
+        QString informativeText;
+        QStringList buttonsLeftToRight;
+        QString defaultButton;
+    };
+    QList<Seen> seen;
+    int answer = 0; // index into the buttons as shown
+
+    BoxAnswerer()
+    {
+        m_timer.callOnTimeout([this] { answerBox(); });
+        m_timer.start(10);
+    }
+
+private:
+    void answerBox()
+    {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible())
+            return;
+        QList<QAbstractButton *> buttons = box->buttons();
+        std::sort(buttons.begin(), buttons.end(), [](auto *a, auto *b) { return a->x() < b->x(); });
+        Seen s { box->text(), box->informativeText(), {},
+            box->defaultButton() ? box->defaultButton()->text() : QString() };
+        for (auto *b : buttons)
+            s.buttonsLeftToRight << b->text();
+        seen << s;
+        buttons.value(answer, buttons.first())->click();
+    }
+
+    QTimer m_timer;
+};
+
+struct Fixture
+{
+    test::TempHome home;
+    Preferences prefs { home.configFile() };
+    GuiInteraction ui;
+    AppController app { prefs, ui };
+    std::unique_ptr<MainWindow> window;
+
+    void start()
+    {
+        window = std::make_unique<MainWindow>(app);
+        app.awakeFromNib();
+        window->show();
+        app.applicationDidFinishLaunching();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    }
+    DocumentTableModel *model() const { return window->documentList()->model(); }
+    QString figure(const char *name) const { return window->findChild<QLabel *>(QLatin1String(name))->text(); }
+    bool hintShown() const { return window->findChild<QLabel *>(QStringLiteral("emptyHint"))->isVisible(); }
+};
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
+    void dialogsAndTestHooks();
+    void newDocumentsAndFilter();
+    void foreignFileLeavesWindowUsable();
+};
+
+void TestMainWindow::dialogsAndTestHooks()
+{
+    GuiInteraction ui;
+    BoxAnswerer boxes;
+    boxes.answer = 2;
+    QCOMPARE(ui.alert(QStringLiteral("Warning!"), QStringLiteral("Really?"),
+                 { QStringLiteral("First"), QStringLiteral("Second"), QStringLiteral("Cancel") }),
+        2);
+    ui.presentError(Error { Error::kAppDomain, 9999, QStringLiteral("Failed"), QStringLiteral("Because.") });
+    QCOMPARE(boxes.seen.size(), 2);
+    QCOMPARE(boxes.seen[0].text, QStringLiteral("Warning!"));
+    QCOMPARE(boxes.seen[0].informativeText, QStringLiteral("Really?"));
+    QCOMPARE(boxes.seen[0].buttonsLeftToRight,
+        QStringList({ QStringLiteral("First"), QStringLiteral("Second"), QStringLiteral("Cancel") }));
+    QCOMPARE(boxes.seen[0].defaultButton, QStringLiteral("First"));
+    QCOMPARE(boxes.seen[1].text, QStringLiteral("Failed"));
+    QCOMPARE(boxes.seen[1].informativeText, QStringLiteral("Because."));
+
+    // Queued answers stand in for the dialogs, in order.
+    GuiInteraction::setNextAnswer(1);
+    GuiInteraction::setNextFileName(QStringLiteral("/tmp/a.tabo"));
+    GuiInteraction::setNextFileName(QString());
+    QCOMPARE(ui.alert(QStringLiteral("Sorry!"), QString(), { QStringLiteral("A"), QStringLiteral("B") }), 1);
+    QCOMPARE(ui.openFile({}), QStringLiteral("/tmp/a.tabo"));
+    QCOMPARE(ui.saveFile({}), QString());
+    QCOMPARE(boxes.seen.size(), 2);
+}
+
+void TestMainWindow::newDocumentsAndFilter()
+{
+    Fixture f;
+    f.start();
+    QCOMPARE(f.model()->rowCount(), 0);
+    QVERIFY(f.hintShown());
+
+    f.window->newInvoiceAction()->trigger();
+    f.window->newInvoiceAction()->trigger();
+    f.window->newQuoteAction()->trigger();
+    QCOMPARE(f.model()->rowCount(), 3);
+    QVERIFY(!f.hintShown());
+    // The new document is current and selected.
+    QVERIFY(f.app.currentInvoice());
+    QCOMPARE(f.app.currentInvoice()->integer(Invoice::kind), 0);
+    const QModelIndex selected = f.window->documentList()->view()->selectionModel()->currentIndex();
+    QCOMPARE(f.model()->recordAt(selected.row()), f.app.currentInvoice());
+    QCOMPARE(f.model()->index(selected.row(), DocumentTableModel::Status).data().toString(), QStringLiteral("Quote"));
+
+    // Only invoices that went out count; the bar and the row follow the summary pass.
+    Record *sent = f.app.documentList().all().last();
+    QCOMPARE(sent->integer(Invoice::kind), 1);
+    sent->setInt(Invoice::status, 1);
+    sent->setNum(Invoice::amount, 120.5);
+    sent->setDate(Invoice::due, sent->date(Invoice::date).addDays(30));
+    f.app.calculateDatabase();
+    QCOMPARE(f.figure("invoiceCount"), QStringLiteral("1"));
+    QCOMPARE(f.figure("quoteCount"), QStringLiteral("1"));
+    QCOMPARE(f.figure("totalAmount"), QStringLiteral("120.50"));
+    QCOMPARE(f.figure("dueAmount"), QStringLiteral("0.00"));
+    const int sentRow = f.model()->rowOf(sent);
+    QCOMPARE(f.model()->index(sentRow, DocumentTableModel::Total).data().toString(), QStringLiteral("120.50"));
+    QCOMPARE(f.model()->index(sentRow, DocumentTableModel::Status).data().toString(), QStringLiteral("Sent"));
+
+    FilterButton *button = f.window->filterButton();
+    const qint64 plainIcon = button->icon().cacheKey();
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(button->popover()->isVisible());
+    QTest::mouseClick(button->popover()->findChild<QPushButton *>(QStringLiteral("filterChoice4")), Qt::LeftButton);
+    QVERIFY(!button->popover()->isVisible());
+    QCOMPARE(f.model()->rowCount(), 1);
+    QCOMPARE(f.model()->recordAt(0)->integer(Invoice::kind), 0);
+    QVERIFY(button->property("glowing").toBool());
+    QVERIFY(button->icon().cacheKey() != plainIcon);
+    QCOMPARE(f.figure("invoiceCount"), QStringLiteral("0"));
+    QCOMPARE(f.figure("quoteCount"), QStringLiteral("1"));
+    QCOMPARE(f.figure("totalAmount"), QStringLiteral("0.00"));
+
+    // With a filter on, the button clears it instead of opening the popover.
+    const qint64 glowIcon = button->icon().cacheKey();
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(!button->popover()->isVisible());
+    QCOMPARE(f.model()->rowCount(), 3);
+    QVERIFY(!button->property("glowing").toBool());
+    QVERIFY(button->icon().cacheKey() != glowIcon);
+    QCOMPARE(f.figure("invoiceCount"), QStringLiteral("1"));
+
+    f.window->quitAction()->trigger();
+    QVERIFY(!f.window->isVisible());
+    QVERIFY(f.prefs.boolean(Preferences::isTerminatedFine));
+}
+
+void TestMainWindow::foreignFileLeavesWindowUsable()
+{
+    Fixture f;
+    QVERIFY(QDir().mkpath(f.home.dataDir()));
+    QFile foreign(f.home.dataDir() + QStringLiteral("/Tabo.mbdb"));
+    QVERIFY(foreign.open(QIODevice::WriteOnly));
+    foreign.write("not a database");
+    foreign.close();
+
+    BoxAnswerer boxes;
+    f.start();
+    QVERIFY(!boxes.seen.isEmpty());
+    QCOMPARE(boxes.seen.last().text, QStringLiteral("Failed to initialize the store"));
+    QCOMPARE(f.model()->rowCount(), 0);
+    QVERIFY(!f.hintShown());
+    QVERIFY(!f.window->newInvoiceAction()->isEnabled());
+    f.app.addInvoice();
+    QCOMPARE(f.model()->rowCount(), 0);
+
+    f.window->close();
+    QVERIFY(!f.window->isVisible());
+    QVERIFY(foreign.open(QIODevice::ReadOnly));
+    QCOMPARE(foreign.readAll(), QByteArray("not a database"));
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "TestMainWindow.moc"
