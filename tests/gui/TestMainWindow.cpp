@@ -1,6 +1,7 @@
 #include "DocumentListPane.h"
 #include "DocumentTableModel.h"
 #include "FilterButton.h"
+#include "FirstStartAssistant.h"
 #include "FilterPopover.h"
 #include "GuiInteraction.h"
 #include "MainWindow.h"
@@ -11,6 +12,8 @@
 #include "prefs/Preferences.h"
 
 #include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
@@ -99,6 +102,7 @@ private Q_SLOTS:
     void dialogsAndTestHooks();
     void newDocumentsAndFilter();
     void foreignFileLeavesWindowUsable();
+    void firstStartAssistantInstallsLanguage();
 };
 
 void TestMainWindow::dialogsAndTestHooks()
@@ -214,6 +218,22 @@ void TestMainWindow::foreignFileLeavesWindowUsable()
     QVERIFY(!f.window->isVisible());
     QVERIFY(foreign.open(QIODevice::ReadOnly));
     QCOMPARE(foreign.readAll(), QByteArray("not a database"));
+}
+
+void TestMainWindow::firstStartAssistantInstallsLanguage()
+{
+    Fixture f;
+    QVERIFY(f.app.needsFirstStartAssistant());
+    FirstStartAssistant assistant(f.app);
+    assistant.show();
+    assistant.languageChoice()->setCurrentIndex(1);
+    assistant.next();
+    QCOMPARE(f.prefs.string(Preferences::locInvoice), QStringLiteral("Rechnung"));
+    QVERIFY(!f.app.needsFirstStartAssistant());
+    assistant.companyName()->setText(QStringLiteral("  Atelier Nord  "));
+    assistant.accept();
+    QCOMPARE(f.prefs.string(Preferences::prefsName), QStringLiteral("Atelier Nord"));
+    QVERIFY(f.prefs.boolean(Preferences::isAssiDone));
 }
 
 QTEST_MAIN(TestMainWindow)

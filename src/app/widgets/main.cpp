@@ -1,3 +1,4 @@
+#include "FirstStartAssistant.h"
 #include "GuiInteraction.h"
 #include "MainWindow.h"
 #include "app/AppController.h"
@@ -39,6 +40,12 @@ int main(int argc, char **argv)
     controller.awakeFromNib();
     window.show();
     controller.applicationDidFinishLaunching();
+    if (controller.needsFirstStartAssistant() && !parser.isSet(screenshot)) {
+        QTimer::singleShot(350, &window, [&window, &controller] {
+            FirstStartAssistant assistant(controller, &window);
+            assistant.exec();
+        });
+    }
 
     const QStringList files = parser.positionalArguments();
     for (const QString &file : files)
