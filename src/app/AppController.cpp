@@ -1,12 +1,15 @@
 #include "app/AppController.h"
 
+#include "app/DocumentCommands.h"
 #include "app/Interaction.h"
+#include "app/ItemCommands.h"
 #include "domain/Clock.h"
 #include "domain/Numbering.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
+#include "templates/TemplateCommands.h"
 
 #include <QDebug>
 #include <QDir>
@@ -25,7 +28,12 @@ const QString kStoreFileName = QStringLiteral("Tabo.mbdb");
 } // namespace
 
 AppController::AppController(Preferences &prefs, Interaction &ui, QObject *parent)
-    : QObject(parent), m_prefs(prefs), m_ui(ui)
+    : QObject(parent)
+    , m_prefs(prefs)
+    , m_ui(ui)
+    , m_documents(std::make_unique<DocumentCommands>(*this))
+    , m_items(std::make_unique<ItemCommands>(*this))
+    , m_templates(std::make_unique<TemplateCommands>(*this))
 {
 }
 
@@ -346,7 +354,7 @@ Record *AppController::newDocument(bool invoice)
     if (!store)
         return nullptr;
     m_prefs.setBool(P::isFirstInvoiceEverCreated, true);
-    setFilterTag(0);
+    setFilterTag(0); // before numbering: the creating commands never re-apply the predicate
 
     Record *doc = store->insert(EntityId::Invoice);
     doc->setText(Invoice::uniqueID, newUniqueId());
@@ -393,12 +401,39 @@ Record *AppController::newDocument(bool invoice)
     doc->setSingle(Invoice::tax2Percent, m_prefs.single(P::tax2Rate));
     doc->setSingle(Invoice::tax3Percent, m_prefs.single(P::tax3Rate));
 
-    m_list.add(doc);
+    documentCreated(doc);
+    return doc;
+}
+
+void AppController::documentCreated(Record *document)
+{
+    setFilterTag(0);
+    m_list.add(document);
     Q_EMIT listChanged();
     calculateDatabase();
-    setCurrentInvoice(doc);
+    setCurrentInvoice(document);
     saveContext();
-    return doc;
+}
+
+void AppController::documentChanged(Record *document)
+{
+    if (!document)
+        return;
+    if (document->entityId() == EntityId::Invoice)
+        Calculator::calculateInvoice(*document, TaxSettings::from(m_prefs));
+    m_list.rearrange();
+    Q_EMIT listChanged();
+    calculateDatabase();
+    saveContext();
+}
+
+void AppController::documentRemoved(Record *document)
+{
+    m_list.remove(document);
+    if (m_current == document)
+        setCurrentInvoice(nullptr);
+    Q_EMIT listChanged();
+    calculateDatabase();
 }
 
 QString AppController::invoiceNumberString() const

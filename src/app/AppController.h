@@ -12,8 +12,11 @@
 
 namespace tabo {
 
+class DocumentCommands;
 class Interaction;
+class ItemCommands;
 class Preferences;
+class TemplateCommands;
 class Record;
 class Store;
 
@@ -110,6 +113,22 @@ public:
     // Finds a document by uniqueID or number (first match, newest first).
     Record *findDocument(const QString &idOrNumber);
 
+    // ---- Commands on the current document ----
+    DocumentCommands &documents() { return *m_documents; }
+    ItemCommands &items() { return *m_items; }
+    TemplateCommands &templates() { return *m_templates; }
+
+    // The change observer: after any edit of a document (the editor sets
+    // attributes directly), recalculate it, run the summary pass, keep the
+    // list in date order, save, and tell the views.
+    void documentChanged(Record *document);
+    // A document was removed from the store: drop it from the list and the
+    // current selection.
+    void documentRemoved(Record *document);
+    // Adds a created document to the list, resets the filter tag and selects
+    // it (the creating commands' common ending).
+    void documentCreated(Record *document);
+
 Q_SIGNALS:
     void storeOpened();
     void listChanged();
@@ -132,6 +151,9 @@ private:
     DocumentList m_list;
     Record *m_current = nullptr;
     std::function<void()> m_backupBeforeMove;
+    std::unique_ptr<DocumentCommands> m_documents;
+    std::unique_ptr<ItemCommands> m_items;
+    std::unique_ptr<TemplateCommands> m_templates;
     QString m_backupPath;
     QString m_pdfPath;
     QString m_pdfEmailPath;

@@ -68,8 +68,9 @@ void DocumentList::remove(Record *document)
 
 void DocumentList::rearrange()
 {
-    // Usually one date changed: an insertion sort pass is close to linear then.
-    std::stable_sort(m_all.begin(), m_all.end(), newerFirst);
+    // Most edits change no date: checking the order is linear, sorting is not.
+    if (!std::is_sorted(m_all.cbegin(), m_all.cend(), newerFirst))
+        std::stable_sort(m_all.begin(), m_all.end(), newerFirst);
     applyPredicate();
 }
 

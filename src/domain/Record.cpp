@@ -280,6 +280,17 @@ bool Record::setValue(QStringView key, const QVariant &value)
     return attr >= 0 && setValue(attr, value);
 }
 
+Record *Record::cloneBySkippingAttributes(const QStringList &skip) const
+{
+    if (!m_store)
+        return nullptr;
+    Record *copy = m_store->insert(m_entity);
+    for (int a = 0; a < int(m_desc->attributes.size()); ++a)
+        if (!skip.contains(m_desc->attributes[a].name))
+            copy->setValue(a, value(a));
+    return copy;
+}
+
 int Record::toOneSlot(int rel) const
 {
     int slot = 0;

@@ -4,6 +4,7 @@
 #include "domain/EntityModel.h"
 
 #include <QList>
+#include <QStringList>
 #include <QString>
 #include <QVariant>
 
@@ -89,6 +90,11 @@ public:
     Record *toOne(int rel) const;
     void setToOne(int rel, Record *target); // keeps the inverse to-many in step
     const QList<Record *> &toMany(int rel) const;
+
+    // A new record of the same entity in the same store with every attribute
+    // not named in `skip` copied; relationships are not copied.
+    Record *cloneBySkippingAttributes(const QStringList &skip) const;
+    Record *clone() const { return cloneBySkippingAttributes({}); }
 
     bool isInserted() const { return m_inserted; }
     bool isDeleted() const { return m_deleted; }

@@ -1,0 +1,31 @@
+#pragma once
+
+namespace tabo {
+
+class AppController;
+class Record;
+
+// Duplicate, convert and delete the current document. Every refusal and
+// confirmation goes through the controller's Interaction with its exact texts;
+// nothing changes before the person confirms.
+class DocumentCommands
+{
+public:
+    explicit DocumentCommands(AppController &app) : m_app(app) {}
+
+    // duplicateInvoice: a copy of the current document, selected and saved;
+    // nullptr without a current document.
+    Record *duplicateInvoice();
+    // convertQuoteToInvoice: false when refused ("Sorry!") or cancelled.
+    bool convertQuoteToInvoice();
+    // deleteInvoice: the sent refusal, the delete confirmation, then the
+    // "Adjust Counter" question. False when nothing was deleted.
+    bool deleteInvoice();
+    // The current document is marked as sent: its status is not 0 (Created).
+    bool isCurrentInvoiceSent() const;
+
+private:
+    AppController &m_app;
+};
+
+} // namespace tabo

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace tabo {
+
+class AppController;
+class Record;
+
+// The item popover's fields. Price and quantity are the texts as typed; they
+// must be numbers (C or the person's locale notation).
+struct ItemFields
+{
+    QString title;
+    QString subtitle;
+    QString unit;
+    QString sku;
+    QString note;
+    QString price;
+    QString quantity;
+    bool tax1 = false;
+    bool tax2 = false;
+    bool tax3 = false;
+};
+
+// The shipping popover's fields (the document's shipping attributes).
+struct ShippingFields
+{
+    bool enabled = false;
+    QString title;
+    QString subtitle;
+    bool hasSubtitle = false;
+    QString amount; // as typed
+    bool tax1 = false;
+    bool tax2 = false;
+    bool tax3 = false;
+    QString note;
+};
+
+// The discount popover's fields (the document's discount attributes).
+struct DiscountFields
+{
+    bool enabled = false;
+    int kind = 0;        // 0 a fixed amount, any other value a percentage
+    QString amount;      // as typed
+    QString percent;     // as typed, in percent (19 means 0.19)
+    QString title;
+    QString subtitle;
+    bool hasSubtitle = false;
+};
+
+// Lines of the current document, the article catalogue and remembered
+// shipping. Every change ends in calculateInvoice: and a save.
+class ItemCommands
+{
+public:
+    explicit ItemCommands(AppController &app) : m_app(app) {}
+
+    // addItem: a new line from the popover; nullptr with *error set (and the
+    // document unchanged) when price or quantity is not a number, or when
+    // there is no current document.
+    Record *addItem(const ItemFields &fields, QString *error);
+    // addItemRecent: the popover's fields from a catalogue entry.
+    ItemFields addItemRecent(const Record &recentItem) const;
+    // deleteItem: refused for a sent document, asks first. False when
+    // nothing was deleted.
+    bool deleteItem(Record *item);
+    // Editing a line: one attribute by key (value parsed by its type), then
+    // calculateInvoice: and a save. False with *error when refused.
+    bool editItem(Record *item, const QString &key, const QVariant &value, QString *error);
+
+    // closeShippingPopover: stores the fields, recalculates, remembers the
+    // shipping line unless one with the same title and amount exists.
+    bool closeShippingPopover(const ShippingFields &fields, QString *error);
+    ShippingFields shippingFields() const; // the current document's, for the popover
+    // selectRecentShipping: the remembered line into the current document.
+    void selectRecentShipping(const Record &recentShipping);
+
+    // The discount popover's confirmation: stores the fields and recalculates.
+    bool closeDiscountPopover(const DiscountFields &fields, QString *error);
+    DiscountFields discountFields() const;
+
+    // The lines of a document in the order the editor shows (and prints)
+    // them, by the preference `itemSortOrder`.
+    QList<Record *> sortedItems(const Record &document) const;
+
+    // Parses a price, quantity or percentage as typed; false when it is not
+    // a finite number.
+    static bool parseNumber(const QString &text, double *value);
+
+private:
+    AppController &m_app;
+};
+
+} // namespace tabo
