@@ -1,13 +1,11 @@
 #include "cli/AddItemCommand.h"
 
 #include "app/AppController.h"
+#include "app/ItemCommands.h"
 #include "cli/AttributeText.h"
 #include "cli/Console.h"
 #include "cli/Session.h"
-#include "domain/Clock.h"
 #include "domain/Record.h"
-#include "domain/UniqueId.h"
-#include "prefs/Preferences.h"
 #include "store/Store.h"
 
 #include <QCommandLineParser>
@@ -18,35 +16,40 @@ namespace tabo::cli {
 
 AddItemCommand::AddItemCommand(Session &session)
     : Command(session, QStringLiteral("add-item"), QStringLiteral("ID KEY=VALUE..."),
-              QStringLiteral("Add a line to a document, e.g. title=Consulting baseAmount=100 unitCount=2 "
-                             "isTax1Applied=1; rates, tax titles and compound flags come from the "
-                             "preferences unless given. Prints the line's unique ID."))
+              QStringLiteral("Add a line to a document as the item popover does, e.g. title=Consulting "
+                             "price=100 quantity=2 tax1=1 (also subtitle, unit, sku, note; baseAmount, "
+                             "unitCount, isTax1Applied..3 are the same fields). Rates, tax titles and compound "
+                             "flags come from the preferences; any other line attribute is set afterwards. "
+                             "The catalogue remembers the line. Prints the line's unique ID."))
 {
 }
 
-void AddItemCommand::setDefaults(Record &item)
+bool AddItemCommand::popoverField(ItemFields &f, const QString &key, const QString &value, QString *error)
 {
-    // As a line added in the window starts out.
-    const Preferences &prefs = m_session.prefs();
-    using P = Preferences;
-    for (int a : {Item::title, Item::subtitle, Item::unit, Item::sku, Item::note, Item::misc1})
-        item.setText(a, QStringLiteral(""));
-    item.setText(Item::tax1Title, prefs.string(P::tax1Title));
-    item.setText(Item::tax2Title, prefs.string(P::tax2Title));
-    item.setText(Item::tax3Title, prefs.string(P::tax3Title));
-    item.setSingle(Item::baseAmount, 0.0f);
-    item.setSingle(Item::unitCount, 0.0f);
-    for (int a : {Item::isTax1Applied, Item::isTax2Applied, Item::isTax3Applied, Item::misc4})
-        item.setBool(a, false);
-    item.setBool(Item::isTax2Compound, prefs.boolean(P::tax2IsCompound));
-    item.setBool(Item::isTax3Compound, prefs.boolean(P::tax3IsCompound));
-    item.setSingle(Item::tax1Percent, prefs.single(P::tax1Rate));
-    item.setSingle(Item::tax2Percent, prefs.single(P::tax2Rate));
-    item.setSingle(Item::tax3Percent, prefs.single(P::tax3Rate));
-    for (int a : {Item::subAmount, Item::amount, Item::tax1Amount, Item::tax2Amount, Item::tax3Amount, Item::misc3})
-        item.setNum(a, 0.0);
-    item.setInt(Item::misc2, 0);
-    item.setDate(Item::misc5, now());
+    const auto is = [&key](const char *name) { return key == QLatin1String(name); };
+    if (is("title"))
+        f.title = value;
+    else if (is("subtitle"))
+        f.subtitle = value;
+    else if (is("unit"))
+        f.unit = value;
+    else if (is("sku"))
+        f.sku = value;
+    else if (is("note"))
+        f.note = value;
+    else if (is("baseAmount") || is("price"))
+        f.price = value;
+    else if (is("unitCount") || is("quantity"))
+        f.quantity = value;
+    else if (is("isTax1Applied") || is("tax1"))
+        return AttributeText::flag(key, value, &f.tax1, error);
+    else if (is("isTax2Applied") || is("tax2"))
+        return AttributeText::flag(key, value, &f.tax2, error);
+    else if (is("isTax3Applied") || is("tax3"))
+        return AttributeText::flag(key, value, &f.tax3, error);
+    else
+        return false;
+    return true;
 }
 
 int AddItemCommand::execute(const QStringList &args)
@@ -57,33 +60,49 @@ int AddItemCommand::execute(const QStringList &args)
         return code;
     QStringList pos = parser.positionalArguments();
     const QString id = pos.takeFirst();
-    QList<std::pair<QString, QString>> values;
-    for (const QString &word : std::as_const(pos)) {
-        const qsizetype eq = word.indexOf(QLatin1Char('='));
-        if (eq <= 0)
-            return usageError(QStringLiteral("“%1” is not KEY=VALUE.").arg(word));
-        values.append({word.left(eq), word.mid(eq + 1)});
-    }
+    KeyValues values;
+    if (!splitKeyValues(pos, {}, &values, &code))
+        return code;
 
-    Record *doc = m_session.document(id);
-    if (!doc)
-        return kExitFailure;
-    Store *store = m_session.store();
-    Record *item = store->insert(EntityId::Item);
-    setDefaults(*item);
-    item->setText(Item::uniqueID, newUniqueId());
+    // Everything is checked before the line exists, so that a bad value
+    // leaves the document as it was.
+    ItemFields fields;
+    // An empty field of the popover reads as 0.
+    fields.price = fields.quantity = QStringLiteral("0");
+    QList<std::pair<QString, QVariant>> edits;
     for (const auto &[key, value] : std::as_const(values)) {
         QString reason;
-        if (!AttributeText::assign(*item, key, value, &reason)) {
-            store->remove(item); // nothing half-made is left for the save at exit
+        if (popoverField(fields, key, value, &reason))
+            continue;
+        QVariant typed;
+        if (!reason.isEmpty() || !AttributeText::convert(entityDesc(EntityId::Item), key, value, &typed, &reason))
             return failure(reason);
+        edits.append({key, typed});
+    }
+    Record *doc = m_session.select(id);
+    if (!doc)
+        return kExitFailure;
+
+    AppController &app = m_session.controller();
+    ItemCommands &items = app.items();
+    QString error;
+    Record *item = items.addItem(fields, &error);
+    if (!item)
+        return failure(error);
+    const QString uniqueID = item->text(Item::uniqueID);
+    for (const auto &[key, value] : std::as_const(edits)) {
+        const int shown = m_session.ui().messagesShown();
+        if (!items.editItem(item, key, value, &error)) {
+            // Half a line is worse than none.
+            m_session.store()->remove(item);
+            app.documentChanged(doc);
+            // A refusal has been shown as an alert already.
+            return m_session.ui().messagesShown() > shown ? kExitFailure : failure(error);
         }
     }
-    item->setToOne(Item::invoice, doc);
-    m_session.controller().calculateInvoice(doc);
-    if (m_session.controller().saveContext())
+    if (m_session.ui().errorPresented())
         return kExitFailure;
-    printOut(item->text(Item::uniqueID));
+    printOut(uniqueID);
     return kExitOk;
 }
 

@@ -3,12 +3,13 @@
 #include "cli/Command.h"
 
 namespace tabo {
-class Record;
+struct ItemFields;
 }
 
 namespace tabo::cli {
 
-// add-item ID KEY=VALUE...: a new line in a document, then its totals.
+// add-item ID KEY=VALUE...: a new line in a document through the item
+// popover, so that the catalogue learns it; other attributes follow as edits.
 class AddItemCommand : public Command
 {
 public:
@@ -16,8 +17,9 @@ public:
     int execute(const QStringList &args) override;
 
 private:
-    // The values a line gets from the preferences before the given ones.
-    void setDefaults(Record &item);
+    // Puts a popover key into `fields`: false when `key` is not one of them,
+    // with *error set when it is but the value is not valid.
+    static bool popoverField(ItemFields &fields, const QString &key, const QString &value, QString *error);
 };
 
 } // namespace tabo::cli

@@ -5,24 +5,32 @@
 
 #include <QLocale>
 
+#include <cmath>
+
 namespace tabo::cli {
 
 namespace {
 
-bool isBoolText(const QString &t)
+// -1 when the text is no boolean.
+int boolFromText(const QString &t)
 {
-    static const char *const words[] = {"true", "false", "yes", "no", "1", "0"};
-    for (const char *w : words)
-        if (t.compare(QLatin1String(w), Qt::CaseInsensitive) == 0)
-            return true;
-    return false;
+    static const char *const words[] = {"false", "no", "0", "true", "yes", "1"};
+    for (int i = 0; i < 6; ++i)
+        if (t.compare(QLatin1String(words[i]), Qt::CaseInsensitive) == 0)
+            return i < 3 ? 0 : 1;
+    return -1;
+}
+
+QString invalid(const QString &text, AttrType type, const QString &key)
+{
+    return QStringLiteral("“%1” is not a valid %2 for %3.").arg(text, attrTypeName(type), key);
 }
 
 } // namespace
 
-bool AttributeText::assign(Record &record, const QString &key, const QString &text, QString *error)
+bool AttributeText::convert(const EntityDesc &desc, const QString &key, const QString &text, QVariant *value,
+                            QString *error)
 {
-    const EntityDesc &desc = record.desc();
     const int attr = desc.attributeIndex(key);
     if (attr < 0) {
         *error = desc.relationIndex(key) >= 0
@@ -33,16 +41,57 @@ bool AttributeText::assign(Record &record, const QString &key, const QString &te
     const AttrType type = desc.attributes[attr].type;
     const QString t = text.trimmed();
     bool ok = true;
+    switch (type) {
+    case AttrType::Text: *value = text; break;
+    case AttrType::Date: {
+        const Date d = Date::fromIso8601(t);
+        ok = d.isValid();
+        *value = QVariant::fromValue(d);
+        break;
+    }
+    case AttrType::Bool: {
+        const int b = boolFromText(t);
+        ok = b >= 0;
+        *value = b == 1;
+        break;
+    }
     // Integers are truncated when stored, so a fraction (or NaN) would be
     // silently changed: refuse it instead.
-    if (type == AttrType::Int)
-        QLocale::c().toLongLong(t, &ok);
-    else if (type == AttrType::Bool)
-        ok = isBoolText(t);
-    if (!ok || !record.setValue(attr, QVariant(type == AttrType::Text ? text : t))) {
-        *error = QStringLiteral("“%1” is not a valid %2 for %3.").arg(text, attrTypeName(type), key);
+    case AttrType::Int: *value = QLocale::c().toLongLong(t, &ok); break;
+    case AttrType::Double:
+    case AttrType::Float:
+        if (t.compare(QLatin1String("nan"), Qt::CaseInsensitive) == 0)
+            *value = std::nan("");
+        else
+            *value = QLocale::c().toDouble(t, &ok);
+        break;
+    }
+    if (!ok)
+        *error = invalid(text, type, key);
+    return ok;
+}
+
+bool AttributeText::assign(Record &record, const QString &key, const QString &text, QString *error)
+{
+    QVariant value;
+    if (!convert(record.desc(), key, text, &value, error))
+        return false;
+    const int attr = record.desc().attributeIndex(key);
+    if (!record.setValue(attr, value)) {
+        *error = invalid(text, record.desc().attributes[attr].type, key);
         return false;
     }
+    return true;
+}
+
+bool AttributeText::flag(const QString &key, const QString &text, bool *value, QString *error)
+{
+    const int b = boolFromText(text.trimmed());
+    if (b < 0) {
+        *error = invalid(text, AttrType::Bool, key);
+        return false;
+    }
+    *value = b == 1;
     return true;
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
 namespace tabo {
 class Record;
-}
+struct EntityDesc;
+} // namespace tabo
 
 namespace tabo::cli {
 
@@ -12,10 +14,16 @@ namespace tabo::cli {
 class AttributeText
 {
 public:
-    // Sets the attribute named `key` from `text`, parsed by the attribute's
-    // type: dates in ISO 8601, booleans true/false/1/0, numbers in the C
-    // locale ("NaN" allowed except for integers). False with a one-line reason.
+    // The value of the attribute named `key` of `desc`, parsed from `text` by
+    // the attribute's type: dates in ISO 8601, booleans true/false/yes/no/1/0,
+    // numbers in the C locale ("NaN" allowed except for integers). False with
+    // a one-line reason.
+    static bool convert(const EntityDesc &desc, const QString &key, const QString &text, QVariant *value,
+                        QString *error);
+    // convert(), then stored in the record.
     static bool assign(Record &record, const QString &key, const QString &text, QString *error);
+    // A popover's check box given as text.
+    static bool flag(const QString &key, const QString &text, bool *value, QString *error);
     // The value for people: "" when empty, numbers exact, dates ISO 8601.
     static QString plain(const Record &record, int attr);
 };

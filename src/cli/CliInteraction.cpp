@@ -17,16 +17,24 @@ int CliInteraction::decliningButton(const QStringList &buttons)
 
 int CliInteraction::alert(const QString &title, const QString &text, const QStringList &buttons)
 {
-    printError(title + QStringLiteral(": ") + text);
-    if (buttons.size() < 2)
-        return 0;
-    const int decline = decliningButton(buttons);
-    if (!m_confirm) {
+    if (buttons.size() >= 2) {
+        const int decline = decliningButton(buttons);
+        // The confirming button is the first one that does not decline.
+        const int confirm = decline == 0 ? 1 : 0;
+        const auto preset = m_answers.constFind(title);
+        if (preset != m_answers.cend())
+            return *preset ? confirm : decline;
+        // A question answered by --yes is no news to the person who typed it.
+        if (m_confirm)
+            return confirm;
         m_refused = true;
+        ++m_messages;
+        printError(title + QStringLiteral(": ") + text);
         return decline;
     }
-    // The confirming button is the first one that does not decline.
-    return decline == 0 ? 1 : 0;
+    ++m_messages;
+    printError(title + QStringLiteral(": ") + text);
+    return 0;
 }
 
 void CliInteraction::presentError(const Error &error)
@@ -36,6 +44,7 @@ void CliInteraction::presentError(const Error &error)
     if (m_errorPresented && error.code == 9999 && error.domain == Error::kAppDomain)
         return;
     m_errorPresented = true;
+    ++m_messages;
     printError(error.message());
 }
 

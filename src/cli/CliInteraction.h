@@ -2,6 +2,8 @@
 
 #include "app/Interaction.h"
 
+#include <QHash>
+
 namespace tabo::cli {
 
 // Answers the controller's questions from command-line flags: with --yes the
@@ -12,11 +14,17 @@ class CliInteraction : public Interaction
 {
 public:
     void setConfirm(bool yes) { m_confirm = yes; }
+    // The question titled `title` is a choice, not a consent: it is answered
+    // `confirm` silently and declining it is no failure.
+    void setAnswer(const QString &title, bool confirm) { m_answers.insert(title, confirm); }
     void setPanelPath(const QString &path) { m_panelPath = path; }
 
     // A question was refused for want of --yes; its text is already on stderr.
     bool refused() const { return m_refused; }
     bool errorPresented() const { return m_errorPresented; }
+    // Alerts and errors written so far: a command can tell whether a failure
+    // has been told already.
+    int messagesShown() const { return m_messages; }
 
     int alert(const QString &title, const QString &text, const QStringList &buttons) override;
     void presentError(const Error &error) override;
@@ -30,7 +38,9 @@ private:
     bool m_confirm = false;
     bool m_refused = false;
     bool m_errorPresented = false;
+    int m_messages = 0;
     QString m_panelPath;
+    QHash<QString, bool> m_answers;
 };
 
 } // namespace tabo::cli

@@ -62,4 +62,29 @@ int Command::failure(const QString &line)
     return kExitFailure;
 }
 
+bool Command::splitKeyValues(const QStringList &words, const QStringList &keys, KeyValues *out,
+                             int *exitCode) const
+{
+    for (const QString &word : words) {
+        const qsizetype eq = word.indexOf(QLatin1Char('='));
+        if (eq <= 0) {
+            *exitCode = usageError(QStringLiteral("“%1” is not KEY=VALUE.").arg(word));
+            return false;
+        }
+        const QString key = word.left(eq);
+        if (!keys.isEmpty() && !keys.contains(key)) {
+            *exitCode = usageError(
+                QStringLiteral("Unknown key “%1”; known keys: %2.").arg(key, keys.join(QStringLiteral(", "))));
+            return false;
+        }
+        out->append({key, word.mid(eq + 1)});
+    }
+    return true;
+}
+
+QCommandLineOption Command::yesOption()
+{
+    return QCommandLineOption(QStringLiteral("yes"), QStringLiteral("Confirm the questions the command asks."));
+}
+
 } // namespace tabo::cli

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
+#include <utility>
+
+class QCommandLineOption;
 class QCommandLineParser;
 
 namespace tabo::cli {
@@ -36,6 +40,14 @@ protected:
                int *exitCode, bool optionsFirst = false) const;
     int usageError(const QString &reason = QString()) const;
     static int failure(const QString &line);
+
+    using KeyValues = QList<std::pair<QString, QString>>;
+    // Splits KEY=VALUE words, in the order given. A word that is not one, or
+    // a key outside `keys` (unless empty), is a usage error: false with
+    // `exitCode` set.
+    bool splitKeyValues(const QStringList &words, const QStringList &keys, KeyValues *out, int *exitCode) const;
+    // --yes: confirm the questions the command asks.
+    static QCommandLineOption yesOption();
 
     Session &m_session;
 

@@ -48,6 +48,14 @@ Record *Session::document(const QString &idOrNumber)
     return doc;
 }
 
+Record *Session::select(const QString &idOrNumber)
+{
+    Record *doc = document(idOrNumber);
+    if (doc)
+        controller().setCurrentInvoice(doc);
+    return doc;
+}
+
 int Session::finish(int exitCode)
 {
     if (m_launched) {

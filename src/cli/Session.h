@@ -35,6 +35,9 @@ public:
     Store *store();
     // By uniqueID or number; reports and gives nullptr when there is none.
     Record *document(const QString &idOrNumber);
+    // document(), made the current one as selecting it in the list does: the
+    // commands on the current document work on it.
+    Record *select(const QString &idOrNumber);
 
     // The application's quit: saves what is unsaved, keeps the quit flags.
     // Returns the exit code to use.

@@ -1,12 +1,21 @@
 #include "cli/AddItemCommand.h"
+#include "cli/AddressCommand.h"
 #include "cli/CalcCommand.h"
+#include "cli/CatalogueCommand.h"
 #include "cli/Console.h"
+#include "cli/ConvertCommand.h"
+#include "cli/DeleteCommand.h"
+#include "cli/DeleteItemCommand.h"
+#include "cli/DiscountCommand.h"
+#include "cli/DuplicateCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/NewCommand.h"
 #include "cli/PrefsCommand.h"
 #include "cli/Session.h"
 #include "cli/SetCommand.h"
+#include "cli/ShippingCommand.h"
 #include "cli/ShowCommand.h"
+#include "cli/TemplateCommand.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -45,7 +54,16 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<PrefsCommand>(session));
     commands.push_back(std::make_unique<NewCommand>(session));
     commands.push_back(std::make_unique<SetCommand>(session));
+    commands.push_back(std::make_unique<DuplicateCommand>(session));
+    commands.push_back(std::make_unique<ConvertCommand>(session));
+    commands.push_back(std::make_unique<DeleteCommand>(session));
+    commands.push_back(std::make_unique<AddressCommand>(session));
     commands.push_back(std::make_unique<AddItemCommand>(session));
+    commands.push_back(std::make_unique<DeleteItemCommand>(session));
+    commands.push_back(std::make_unique<ShippingCommand>(session));
+    commands.push_back(std::make_unique<DiscountCommand>(session));
+    commands.push_back(std::make_unique<CatalogueCommand>(session));
+    commands.push_back(std::make_unique<TemplateCommand>(session));
     commands.push_back(std::make_unique<CalcCommand>(session));
     commands.push_back(std::make_unique<ListCommand>(session));
     commands.push_back(std::make_unique<ShowCommand>(session));

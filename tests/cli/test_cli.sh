@@ -144,6 +144,111 @@ run 0 show "$A" --json
 jcheck 'abs(d["tax1Amount"] - 14) < 1e-9 and d["amount"] == 244' # the document tax is not rounded
 [ -s "$XDG_DATA_HOME/Tabo/Tabo.mbdb" ] && pass=$((pass + 1)) || bad "store file in XDG_DATA_HOME"
 
+# --- duplicate, convert, delete ----------------------------------------------
+run 0 new quote; Q2=$OUT
+run 0 add-item "$Q2" title=Design price=80 quantity=1.5
+run 0 duplicate "$Q2"; D=$OUT
+run 0 show "$D" --json
+jcheck 'd["kind"] == 0 and d["uniqueID"] != "'"$Q2"'" and d["number"].startswith("INV-") and [i["title"] for i in d["items"]] == ["Design"] and d["amount"] == 120'
+run 1 convert "$A"
+grep -q "^Sorry!: You can't convert" "$T/err" || bad "converting an invoice says Sorry!"
+run 1 convert "$D" # not without consent
+grep -q "^Convert Into Invoice: " "$T/err" || bad "convert asks first"
+run 0 show "$D" --json
+jcheck 'd["kind"] == 0'
+run 0 convert "$D" --yes
+run 0 show "$D" --json
+jcheck 'd["kind"] == 1 and d["title"] == "Invoice" and len(d["items"]) == 1'
+run 0 new invoice; X=$OUT
+run 0 show "$X" --json
+NX=$(printf '%s' "$OUT" | python3 -c 'import json,sys; print(json.load(sys.stdin)["number"].rsplit("-", 1)[1])')
+run 1 delete "$X"
+run 0 delete "$X" --yes --adjust-counter
+run 1 show "$X"
+run 0 prefs get invCount
+expect "adjusted counter" "$OUT" 1
+run 0 new invoice
+run 0 show "$OUT" --json
+jcheck 'd["number"].endswith("-'"$((NX + 1))"'")' # not the deleted one's number
+run 0 delete "$Q2" --yes # declining the counter question is no failure
+run 0 prefs get quotCount
+expect "counter kept" "$OUT" 0
+run 1 delete "$A" --yes
+grep -q "^Error!: The selected invoice is marked as already sent" "$T/err" || bad "sent invoice kept"
+run 0 show "$A"
+
+# --- lines, catalogue, shipping, discount -------------------------------------
+run 0 new invoice; E=$OUT
+run 0 add-item "$E" title=Alpha price=10 quantity=1
+run 0 add-item "$E" title=Beta price=20 quantity=1 misc2=7 # beyond the popover: an edit
+run 1 add-item "$E" title=Gamma price=ten quantity=1
+run 1 add-item "$E" title=Gamma price=1 misc2=half
+run 0 add-item "$E" title=Alpha price=10 quantity=2
+run 0 add-item "$E" title=Alpha price=12 quantity=1
+run 0 catalogue list --json
+jcheck 'sorted(e["baseAmount"] for e in d if e["title"] == "Alpha") == [10, 12] and not [e for e in d if e["title"] == "Gamma"]'
+run 1 delete-item "$E" 1
+run 1 delete-item "$E" 5 --yes
+run 2 delete-item "$E" first --yes
+run 0 prefs set itemSortOrder 2 # newest first
+run 0 delete-item "$E" 1 --yes
+run 0 delete-item "$E" 1 --yes
+run 0 delete-item "$E" 2 --yes
+run 0 prefs set itemSortOrder 1
+run 0 show "$E" --json
+jcheck '[(i["title"], i["misc2"]) for i in d["items"]] == [("Beta", 7)] and d["amount"] == 20'
+run 0 shipping "$E" enabled=1 title=Parcel amount=4.5
+run 0 shipping "$E" hasSubtitle=1 subtitle=Tracked
+run 1 shipping "$E" amount=abc
+run 2 shipping "$E" colour=red
+run 0 catalogue shipping --json
+jcheck '[(e["title"], e["amount"]) for e in d] == [("Parcel", 4.5)]' # remembered once
+run 0 discount "$E" enabled=1 kind=1 percent=10
+run 1 discount "$E" percent=lots
+run 0 show "$E" --json
+jcheck 'd["shippingAmount"] == 4.5 and d["shippingSubtitle"] == "Tracked" and abs(d["discountPercent"] - 0.1) < 1e-9 and d["amount"] == 22.5'
+
+# --- address from a contact ---------------------------------------------------
+cat >"$T/erika.vcf" <<'EOF'
+BEGIN:VCARD
+VERSION:3.0
+N:Muster;Erika;;;
+ORG:Muster GmbH
+ADR;TYPE=WORK,PREF:;;Hauptstr. 1;Berlin;;10115;Germany
+EMAIL:erika@example.org
+END:VCARD
+EOF
+run 0 address "$E" --vcard "$T/erika.vcf" customerVATID=DE123
+run 0 show "$E" --json
+jcheck 'd["address"].startswith("Erika Muster\nMuster GmbH\nHauptstr. 1\n") and d["customerName"] == "Erika Muster" and d["emailAddress"] == "erika@example.org" and d["customerVATID"] == "DE123" and not d["clientNumber"]'
+printf 'BEGIN:VCALENDAR\nEND:VCALENDAR\n' >"$T/bad.vcf"
+run 1 address "$E" --vcard "$T/bad.vcf"
+run 1 address "$E" --vcard "$T/erika.vcf" --contact 2
+run 2 address "$E"
+run 0 show "$E" --json
+jcheck 'd["customerVATID"] == "DE123" and d["customerName"] == "Erika Muster"' # nothing changed
+
+# --- templates ----------------------------------------------------------------
+run 0 prefs get templateIncludeItems; INC=$OUT
+run 0 set "$E" subject Retainer
+run 0 template save "$E" Monthly --include items,title --notes "every month"
+run 0 prefs get templateIncludeItems
+expect "include list is for one save" "$OUT" "$INC"
+run 1 template save "$E" monthly
+run 2 template save "$E" Other --include items,bogus
+run 0 template list --json
+jcheck '[t["uniqueID"] for t in d] == ["Monthly"] and d[0]["subject"] == "Retainer" and not d[0]["address"] and len(d[0]["items"]) == 1'
+run 0 new invoice; F=$OUT
+run 0 template apply "$F" Monthly
+run 0 show "$F" --json
+jcheck 'd["subject"] == "Retainer" and [i["title"] for i in d["items"]] == ["Beta"] and d["amount"] == 20'
+run 1 template apply "$F" Nope
+run 1 template apply "$A" Monthly # sent
+run 0 template delete Monthly
+run 0 template list
+expect "templates left" "$OUT" ""
+run 1 template delete Monthly
+
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
 printf 'not a database, just text\n' >"$T/other/data/Tabo/Tabo.mbdb"

@@ -1,0 +1,162 @@
+#include "app/DocumentCommands.h"
+
+#include "app/AppController.h"
+#include "app/Interaction.h"
+#include "domain/Clock.h"
+#include "domain/Record.h"
+#include "domain/UniqueId.h"
+#include "prefs/Preferences.h"
+#include "store/Store.h"
+
+namespace tabo {
+
+namespace {
+
+using P = Preferences;
+
+const QString kOk = QStringLiteral("OK");
+const QString kCancel = QStringLiteral("Cancel");
+
+QString prefText(const Preferences &prefs, P::Key key)
+{
+    return prefs.contains(key) ? prefs.string(key) : QStringLiteral("");
+}
+
+} // namespace
+
+Record *DocumentCommands::duplicateInvoice()
+{
+    Record *source = m_app.currentInvoice();
+    if (!source || !m_app.managedObjectContext())
+        return nullptr;
+    Preferences &prefs = m_app.prefs();
+    m_app.setFilterTag(0);
+
+    static const QStringList kNotCopied = {
+        QStringLiteral("dueAmount"), QStringLiteral("paidAmount"),     QStringLiteral("dispatched"),
+        QStringLiteral("sent"),      QStringLiteral("paid"),           QStringLiteral("due"),
+        QStringLiteral("date"),      QStringLiteral("isDispatched"),   QStringLiteral("number"),
+        QStringLiteral("dispatchNumber"), QStringLiteral("uniqueID"),  QStringLiteral("status")};
+    Record *copy = source->cloneBySkippingAttributes(kNotCopied);
+    if (!copy)
+        return nullptr;
+    const QList<Record *> lines = source->toMany(Invoice::items);
+    for (const Record *line : lines)
+        if (Record *lineCopy = line->clone())
+            lineCopy->setToOne(Item::invoice, copy);
+
+    copy->setText(Invoice::uniqueID, newUniqueId());
+    // Quotes too are numbered by the invoice pattern; their kind stays.
+    copy->setText(Invoice::number,
+                  prefs.boolean(P::invHaveNumber) ? m_app.invoiceNumberString() : QStringLiteral(""));
+    const Date created = now();
+    // Without due dates the copy gets today, like a new document, rather than
+    // no due date at all.
+    copy->setDate(Invoice::due, prefs.boolean(P::invHaveDueDate)
+                                    ? m_app.futureDateFromTodayWithDays(prefs.integer(P::invDefaultDueDate))
+                                    : created);
+    copy->setText(Invoice::dispatchNumber, QStringLiteral(""));
+    for (int a : {Invoice::date, Invoice::paid, Invoice::sent, Invoice::dispatched})
+        copy->setDate(a, created);
+    copy->setInt(Invoice::status, 0);
+    copy->setNum(Invoice::paidAmount, 0.0);
+    copy->setNum(Invoice::dueAmount, 0.0);
+    copy->setBool(Invoice::isDispatched, false);
+
+    m_app.documentCreated(copy);
+    return copy;
+}
+
+bool DocumentCommands::convertQuoteToInvoice()
+{
+    Record *doc = m_app.currentInvoice();
+    if (!doc)
+        return false;
+    Interaction &ui = m_app.ui();
+    if (doc->integer(Invoice::kind) != 0) {
+        ui.alert(QStringLiteral("Sorry!"), QStringLiteral("You can't convert an invoice into a quote."), {kOk});
+        return false;
+    }
+    const int answer = ui.alert(
+        QStringLiteral("Convert Into Invoice"),
+        QStringLiteral("Do you really want to convert the selected quote into an invoice? This will also change the "
+                       "title, the boilerplate text, the counter for your invoice numbering, and you can't undo this "
+                       "action."),
+        {QStringLiteral("Convert"), kCancel});
+    if (answer != 0)
+        return false;
+
+    Preferences &prefs = m_app.prefs();
+    doc->setInt(Invoice::kind, 1);
+    // The change observer counts the new invoice before it is numbered, which
+    // is why the converted number carries no "+ 1".
+    m_app.calculateDatabase();
+    if (prefs.boolean(P::invHaveDueDate))
+        doc->setDate(Invoice::due, m_app.futureDateFromTodayWithDays(prefs.integer(P::invDefaultDueDate)));
+    doc->setText(Invoice::number,
+                 prefs.boolean(P::invHaveNumber) ? m_app.convertedInvoiceNumberString() : QStringLiteral(""));
+    doc->setText(Invoice::title, prefText(prefs, P::locInvoice));
+    doc->setText(Invoice::conditions, prefText(prefs, P::tempInvConditions));
+    doc->setText(Invoice::footer, prefText(prefs, P::tempInvFooter));
+    doc->setText(Invoice::misc1, prefText(prefs, P::tempInvMisc));
+
+    m_app.setFilterTag(0);
+    m_app.documentChanged(doc);
+    return true;
+}
+
+bool DocumentCommands::deleteInvoice()
+{
+    Record *doc = m_app.currentInvoice();
+    Store *store = m_app.managedObjectContext();
+    if (!doc || !store)
+        return false;
+    Interaction &ui = m_app.ui();
+    const bool invoice = doc->integer(Invoice::kind) == 1;
+    if (invoice && isCurrentInvoiceSent()) {
+        ui.alert(QStringLiteral("Error!"),
+                 QStringLiteral("The selected invoice is marked as already sent. If you really need to delete it, "
+                                "please set its status back to 'Created' first."),
+                 {kOk});
+        return false;
+    }
+    const int answer = invoice
+        ? ui.alert(QStringLiteral("Delete Invoice"),
+                   QStringLiteral("Deleting invoices is permanent and cannot be undone. Do you really want to "
+                                  "delete the selected invoice?"),
+                   {QStringLiteral("Delete"), kCancel})
+        : ui.alert(QStringLiteral("Delete Quote"),
+                   QStringLiteral("Deleting quotes is permanent and cannot be undone. Do you really want to delete "
+                                  "the selected quote?"),
+                   {QStringLiteral("Delete"), kCancel});
+    if (answer != 0)
+        return false;
+
+    m_app.setFilterTag(0);
+    store->remove(doc);
+    m_app.documentRemoved(doc);
+    m_app.saveContext();
+
+    const int adjust = ui.alert(
+        QStringLiteral("Adjust Counter"),
+        invoice ? QStringLiteral("Do you want Tabo to automatically adjust your invoice counter so that you won't use "
+                                 "the same invoice number twice?")
+                : QStringLiteral("Do you want Tabo to automatically adjust your quote counter so that you won't use "
+                                 "the same quote number twice?"),
+        {QStringLiteral("Adjust Counter"), kCancel});
+    if (adjust == 0) {
+        // Numbers come from the count of documents, which the deletion lowered.
+        Preferences &prefs = m_app.prefs();
+        const P::Key counter = invoice ? P::invCount : P::quotCount;
+        prefs.setString(counter, QString::number(prefs.integer(counter) + 1));
+    }
+    return true;
+}
+
+bool DocumentCommands::isCurrentInvoiceSent() const
+{
+    const Record *doc = m_app.currentInvoice();
+    return doc && doc->integer(Invoice::status) != 0;
+}
+
+} // namespace tabo

@@ -1,0 +1,406 @@
+#include "app/ItemCommands.h"
+
+#include "app/AppController.h"
+#include "app/Interaction.h"
+#include "domain/Clock.h"
+#include "domain/Record.h"
+#include "domain/UniqueId.h"
+#include "prefs/Preferences.h"
+#include "store/Store.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace tabo {
+
+namespace {
+
+using P = Preferences;
+
+constexpr P::Key kTaxTitle[3] = {P::tax1Title, P::tax2Title, P::tax3Title};
+constexpr P::Key kTaxRate[3] = {P::tax1Rate, P::tax2Rate, P::tax3Rate};
+constexpr P::Key kTaxEnabled[3] = {P::tax1Enabled, P::tax2Enabled, P::tax3Enabled};
+constexpr int kItemApplied[3] = {Item::isTax1Applied, Item::isTax2Applied, Item::isTax3Applied};
+constexpr int kItemTitle[3] = {Item::tax1Title, Item::tax2Title, Item::tax3Title};
+constexpr int kItemPercent[3] = {Item::tax1Percent, Item::tax2Percent, Item::tax3Percent};
+constexpr int kRecentApplied[3] = {RecentItem::isTax1Applied, RecentItem::isTax2Applied, RecentItem::isTax3Applied};
+constexpr int kShippingTax[3] = {Invoice::isShippingTax1Enabled, Invoice::isShippingTax2Enabled,
+                                 Invoice::isShippingTax3Enabled};
+constexpr int kRecentShippingTax[3] = {RecentShipping::isTax1Enabled, RecentShipping::isTax2Enabled,
+                                       RecentShipping::isTax3Enabled};
+
+const QString kSentText = QStringLiteral(
+    "The selected invoice is marked as already sent. If you really need to make changes, please set its status back "
+    "to 'Created' first. Then you will also be able to resend the modified invoice.");
+
+// Shortest text that reads back to the same value, never in exponent form.
+// Values that went through single precision are written as the float they
+// are, so a price typed as 100.1 shows as 100.1 again.
+QString numberText(double v)
+{
+    char buf[400];
+    const bool single = std::isfinite(v) && std::abs(v) < 3.0e38 && double(float(v)) == v;
+    const auto r = single ? std::to_chars(buf, buf + sizeof buf, float(v), std::chars_format::fixed)
+                          : std::to_chars(buf, buf + sizeof buf, v, std::chars_format::fixed);
+    return r.ec == std::errc() ? QString::fromLatin1(buf, int(r.ptr - buf)) : QString();
+}
+
+// A typed number for the field called `what`; sets *error when it is not one.
+bool readField(const QString &text, const QString &what, double *value, QString *error)
+{
+    if (ItemCommands::parseNumber(text, value))
+        return true;
+    if (error)
+        *error = text.trimmed().isEmpty() ? QStringLiteral("The %1 is empty; please enter a number.").arg(what)
+                                          : QStringLiteral("The %1 “%2” is not a number.").arg(what, text);
+    return false;
+}
+
+void setError(QString *error, const QString &text)
+{
+    if (error)
+        *error = text;
+}
+
+Record *documentOf(const Record &item)
+{
+    return item.toOne(Item::invoice);
+}
+
+} // namespace
+
+bool ItemCommands::parseNumber(const QString &text, double *value)
+{
+    const QString t = text.trimmed();
+    if (t.isEmpty())
+        return false;
+    // Group separators are refused in C notation: "1,5" must fall through to
+    // the person's locale, where it may be a decimal comma.
+    QLocale c = QLocale::c();
+    c.setNumberOptions(QLocale::RejectGroupSeparator);
+    bool ok = false;
+    double v = c.toDouble(t, &ok);
+    if (!ok)
+        v = QLocale().toDouble(t, &ok);
+    if (!ok || !std::isfinite(v))
+        return false;
+    if (value)
+        *value = v;
+    return true;
+}
+
+Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
+{
+    Record *doc = m_app.currentInvoice();
+    Store *store = m_app.managedObjectContext();
+    if (!doc || !store) {
+        setError(error, QStringLiteral("There is no document to add the line to."));
+        return nullptr;
+    }
+    double price = 0;
+    double quantity = 0;
+    if (!readField(fields.price, QStringLiteral("price"), &price, error)
+        || !readField(fields.quantity, QStringLiteral("quantity"), &quantity, error))
+        return nullptr;
+
+    const Preferences &prefs = m_app.prefs();
+    Record *item = store->insert(EntityId::Item);
+    item->setText(Item::uniqueID, newUniqueId());
+    item->setText(Item::title, fields.title);
+    item->setText(Item::subtitle, fields.subtitle);
+    item->setText(Item::unit, fields.unit);
+    item->setText(Item::sku, fields.sku);
+    item->setText(Item::note, fields.note);
+    // The popover has always read price and quantity in single precision.
+    item->setSingle(Item::baseAmount, float(price));
+    item->setSingle(Item::unitCount, float(quantity));
+    const bool applied[3] = {fields.tax1, fields.tax2, fields.tax3};
+    for (int k = 0; k < 3; ++k) {
+        item->setText(kItemTitle[k], prefs.string(kTaxTitle[k]));
+        item->setBool(kItemApplied[k], applied[k]);
+        item->setSingle(kItemPercent[k], prefs.single(kTaxRate[k]));
+    }
+    item->setBool(Item::isTax2Compound, prefs.boolean(P::tax2IsCompound));
+    item->setBool(Item::isTax3Compound, prefs.boolean(P::tax3IsCompound));
+    for (int a : {Item::subAmount, Item::amount, Item::tax1Amount, Item::tax2Amount, Item::tax3Amount})
+        item->setNum(a, 0.0);
+    item->setText(Item::misc1, QStringLiteral(""));
+    item->setInt(Item::misc2, 0);
+    item->setSingle(Item::misc3, 0.0f);
+    item->setBool(Item::misc4, false);
+    item->setDate(Item::misc5, now());
+    item->setToOne(Item::invoice, doc);
+    m_app.documentChanged(doc);
+
+    const QString sku = item->text(Item::sku);
+    for (const Record *entry : store->all(EntityId::RecentItem)) {
+        if (entry->text(RecentItem::title) == item->text(Item::title)
+            && entry->num(RecentItem::baseAmount) == item->num(Item::baseAmount))
+            return item;
+        if (!sku.isEmpty() && entry->text(RecentItem::sku) == sku)
+            return item;
+    }
+    Record *entry = store->insert(EntityId::RecentItem);
+    entry->setText(RecentItem::uniqueID, newUniqueId());
+    entry->setText(RecentItem::title, item->text(Item::title));
+    entry->setText(RecentItem::subtitle, item->text(Item::subtitle));
+    entry->setText(RecentItem::unit, item->text(Item::unit));
+    entry->setText(RecentItem::sku, sku);
+    entry->setText(RecentItem::note, item->text(Item::note));
+    entry->setNum(RecentItem::baseAmount, item->num(Item::baseAmount));
+    entry->setNum(RecentItem::subAmount, item->num(Item::subAmount));
+    // The catalogue takes the taxes switched on in the preferences, not the
+    // line's boxes: an entry is meant for any later document.
+    for (int k = 0; k < 3; ++k)
+        entry->setBool(kRecentApplied[k], prefs.boolean(kTaxEnabled[k]));
+    m_app.saveContext();
+    return item;
+}
+
+ItemFields ItemCommands::addItemRecent(const Record &recentItem) const
+{
+    const Preferences &prefs = m_app.prefs();
+    ItemFields f;
+    f.title = recentItem.text(RecentItem::title);
+    f.subtitle = recentItem.text(RecentItem::subtitle);
+    f.unit = recentItem.text(RecentItem::unit);
+    f.sku = recentItem.text(RecentItem::sku);
+    f.note = recentItem.text(RecentItem::note);
+    f.price = numberText(recentItem.num(RecentItem::baseAmount));
+    // The entry holds no quantity; one unit is what a person adds most often.
+    f.quantity = QStringLiteral("1");
+    // A box is ticked only when the entry applies the tax and the tax is still
+    // switched on: a tax turned off since must not creep back into new lines.
+    bool *boxes[3] = {&f.tax1, &f.tax2, &f.tax3};
+    for (int k = 0; k < 3; ++k)
+        *boxes[k] = recentItem.boolean(kRecentApplied[k]) && prefs.boolean(kTaxEnabled[k]);
+    return f;
+}
+
+bool ItemCommands::deleteItem(Record *item)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!item || !store)
+        return false;
+    Record *doc = documentOf(*item);
+    if (!doc)
+        doc = m_app.currentInvoice();
+    Interaction &ui = m_app.ui();
+    if (doc && doc->integer(Invoice::status) != 0) {
+        ui.alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
+        return false;
+    }
+    const int answer = ui.alert(QStringLiteral("Delete Item"),
+                                QStringLiteral("Deleting items is permanent and cannot be undone. Do you really "
+                                               "want to delete the selected item?"),
+                                {QStringLiteral("Delete"), QStringLiteral("Cancel")});
+    if (answer != 0)
+        return false;
+    store->remove(item);
+    if (doc)
+        m_app.documentChanged(doc);
+    else
+        m_app.saveContext();
+    return true;
+}
+
+bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &value, QString *error)
+{
+    if (!item) {
+        setError(error, QStringLiteral("There is no line to change."));
+        return false;
+    }
+    const int attr = item->desc().attributeIndex(key);
+    if (attr < 0) {
+        setError(error, QStringLiteral("A line has no field “%1”.").arg(key));
+        return false;
+    }
+    Record *doc = documentOf(*item);
+    // A sent invoice must not change silently, whichever way a line is touched.
+    if (doc && doc->integer(Invoice::status) != 0) {
+        m_app.ui().alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
+        setError(error, kSentText);
+        return false;
+    }
+    const AttrType type = item->desc().attributes[attr].type;
+    const bool numeric = type == AttrType::Int || type == AttrType::Double || type == AttrType::Float;
+    QVariant v = value;
+    if (numeric && value.isValid() && !value.isNull()) {
+        double d = 0;
+        bool ok = false;
+        if (value.metaType() == QMetaType::fromType<QString>())
+            ok = parseNumber(value.toString(), &d);
+        else if (value.metaType() != QMetaType::fromType<Date>())
+            d = value.toDouble(&ok);
+        if (!ok || !std::isfinite(d)) {
+            setError(error, QStringLiteral("The value “%1” for “%2” is not a number.").arg(value.toString(), key));
+            return false;
+        }
+        v = d;
+    }
+    if (!item->setValue(attr, v)) {
+        setError(error, QStringLiteral("The value “%1” does not fit the field “%2”.").arg(value.toString(), key));
+        return false;
+    }
+    if (doc)
+        m_app.documentChanged(doc);
+    else
+        m_app.saveContext();
+    return true;
+}
+
+bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *error)
+{
+    Record *doc = m_app.currentInvoice();
+    Store *store = m_app.managedObjectContext();
+    if (!doc || !store) {
+        setError(error, QStringLiteral("There is no document to add the shipping to."));
+        return false;
+    }
+    double amount = 0;
+    // A blank amount only matters when shipping is switched on.
+    if ((fields.enabled || !fields.amount.trimmed().isEmpty())
+        && !readField(fields.amount, QStringLiteral("shipping amount"), &amount, error))
+        return false;
+
+    doc->setBool(Invoice::isShippingEnabled, fields.enabled);
+    doc->setText(Invoice::shippingTitle, fields.title);
+    doc->setText(Invoice::shippingSubtitle, fields.subtitle);
+    doc->setBool(Invoice::hasShippingSubtitle, fields.hasSubtitle);
+    doc->setNum(Invoice::shippingAmount, amount);
+    const bool taxes[3] = {fields.tax1, fields.tax2, fields.tax3};
+    for (int k = 0; k < 3; ++k)
+        doc->setBool(kShippingTax[k], taxes[k]);
+    m_app.documentChanged(doc);
+
+    for (const Record *entry : store->all(EntityId::RecentShipping))
+        if (entry->text(RecentShipping::title) == fields.title && entry->num(RecentShipping::amount) == amount)
+            return true;
+    Record *entry = store->insert(EntityId::RecentShipping);
+    entry->setText(RecentShipping::uniqueID, newUniqueId());
+    entry->setText(RecentShipping::title, fields.title);
+    entry->setText(RecentShipping::subtitle, fields.subtitle);
+    entry->setText(RecentShipping::note, fields.note);
+    entry->setBool(RecentShipping::hasSubtitle, fields.hasSubtitle);
+    for (int k = 0; k < 3; ++k)
+        entry->setBool(kRecentShippingTax[k], taxes[k]);
+    entry->setNum(RecentShipping::amount, amount);
+    m_app.saveContext();
+    return true;
+}
+
+ShippingFields ItemCommands::shippingFields() const
+{
+    ShippingFields f;
+    const Record *doc = m_app.currentInvoice();
+    if (!doc)
+        return f;
+    f.enabled = doc->boolean(Invoice::isShippingEnabled);
+    f.title = doc->text(Invoice::shippingTitle);
+    f.subtitle = doc->text(Invoice::shippingSubtitle);
+    f.hasSubtitle = doc->boolean(Invoice::hasShippingSubtitle);
+    f.amount = numberText(doc->num(Invoice::shippingAmount));
+    bool *taxes[3] = {&f.tax1, &f.tax2, &f.tax3};
+    for (int k = 0; k < 3; ++k)
+        *taxes[k] = doc->boolean(kShippingTax[k]);
+    return f;
+}
+
+void ItemCommands::selectRecentShipping(const Record &recentShipping)
+{
+    Record *doc = m_app.currentInvoice();
+    if (!doc)
+        return;
+    doc->setText(Invoice::shippingTitle, recentShipping.text(RecentShipping::title));
+    doc->setText(Invoice::shippingSubtitle, recentShipping.text(RecentShipping::subtitle));
+    doc->setBool(Invoice::hasShippingSubtitle, recentShipping.boolean(RecentShipping::hasSubtitle));
+    for (int k = 0; k < 3; ++k)
+        doc->setBool(kShippingTax[k], recentShipping.boolean(kRecentShippingTax[k]));
+    doc->setNum(Invoice::shippingAmount, recentShipping.num(RecentShipping::amount));
+    doc->setBool(Invoice::isShippingEnabled, true);
+    m_app.documentChanged(doc);
+}
+
+bool ItemCommands::closeDiscountPopover(const DiscountFields &fields, QString *error)
+{
+    Record *doc = m_app.currentInvoice();
+    if (!doc) {
+        setError(error, QStringLiteral("There is no document to add the discount to."));
+        return false;
+    }
+    // Only the field the kind selects must be filled in; a blank other one is 0.
+    const bool fixed = fields.kind == 0;
+    const bool needed = fields.enabled;
+    double amount = 0;
+    double percent = 0;
+    if (((needed && fixed) || !fields.amount.trimmed().isEmpty())
+        && !readField(fields.amount, QStringLiteral("discount amount"), &amount, error))
+        return false;
+    if (((needed && !fixed) || !fields.percent.trimmed().isEmpty())
+        && !readField(fields.percent, QStringLiteral("discount percentage"), &percent, error))
+        return false;
+
+    doc->setBool(Invoice::isDiscountEnabled, fields.enabled);
+    doc->setInt(Invoice::discountKind, fields.kind);
+    doc->setNum(Invoice::discountAmount, amount);
+    doc->setNum(Invoice::discountPercent, percent / 100.0);
+    doc->setText(Invoice::discountTitle, fields.title);
+    doc->setText(Invoice::discountSubtitle, fields.subtitle);
+    doc->setBool(Invoice::hasDiscountSubtitle, fields.hasSubtitle);
+    m_app.documentChanged(doc);
+    return true;
+}
+
+DiscountFields ItemCommands::discountFields() const
+{
+    DiscountFields f;
+    const Record *doc = m_app.currentInvoice();
+    if (!doc)
+        return f;
+    f.enabled = doc->boolean(Invoice::isDiscountEnabled);
+    f.kind = doc->integer(Invoice::discountKind);
+    f.amount = numberText(doc->num(Invoice::discountAmount));
+    // Through single precision so that 0.07 shows as 7, not 7.000000000000001.
+    f.percent = numberText(double(float(doc->num(Invoice::discountPercent) * 100.0)));
+    f.title = doc->text(Invoice::discountTitle);
+    f.subtitle = doc->text(Invoice::discountSubtitle);
+    f.hasSubtitle = doc->boolean(Invoice::hasDiscountSubtitle);
+    return f;
+}
+
+QList<Record *> ItemCommands::sortedItems(const Record &document) const
+{
+    const int rel = document.desc().relationIndex(u"items");
+    if (rel < 0)
+        return {};
+    QList<Record *> lines = document.toMany(rel);
+    // Record ids grow with every insertion, so they give the order of entry.
+    const auto byEntry = [](const Record *a, const Record *b) { return a->id() < b->id(); };
+    // `itemSortOrder`: 0 title A–Z, 1 order of entry (what a first launch
+    // sets), 2 newest entry first, 3 highest amount first; anything else is
+    // the order of entry. Ties keep the order of entry.
+    std::sort(lines.begin(), lines.end(), byEntry);
+    switch (m_app.prefs().integer(P::itemSortOrder)) {
+    case 0:
+        std::stable_sort(lines.begin(), lines.end(), [](const Record *a, const Record *b) {
+            return a->text(Item::title).compare(b->text(Item::title), Qt::CaseInsensitive) < 0;
+        });
+        break;
+    case 2:
+        std::reverse(lines.begin(), lines.end());
+        break;
+    case 3:
+        std::stable_sort(lines.begin(), lines.end(), [](const Record *a, const Record *b) {
+            return a->num(Item::amount) > b->num(Item::amount);
+        });
+        break;
+    default:
+        break;
+    }
+    return lines;
+}
+
+} // namespace tabo

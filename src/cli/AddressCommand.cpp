@@ -1,0 +1,104 @@
+#include "cli/AddressCommand.h"
+
+#include "app/AppController.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+#include "domain/Contacts.h"
+#include "prefs/Preferences.h"
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+namespace {
+
+const QStringList kKeys{QStringLiteral("address"),       QStringLiteral("clientNumber"),
+                        QStringLiteral("emailAddress"),  QStringLiteral("customerVATID"),
+                        QStringLiteral("customerTitle"), QStringLiteral("firstName"),
+                        QStringLiteral("lastName")};
+
+QString *field(AddressFields &f, const QString &key)
+{
+    QString *const fields[] = {&f.address,       &f.clientNumber, &f.emailAddress, &f.customerVATID,
+                               &f.customerTitle, &f.firstName,    &f.lastName};
+    return fields[kKeys.indexOf(key)];
+}
+
+} // namespace
+
+AddressCommand::AddressCommand(Session &session)
+    : Command(session, QStringLiteral("address"), QStringLiteral("ID [--vcard FILE [--contact N]] [KEY=VALUE...]"),
+              QStringLiteral("Set a document's client as the address popover does, from contact N (default 1) "
+                             "of a vCard file by the address pattern and from the keys ")
+                  + kKeys.join(QStringLiteral(", "))
+                  + QStringLiteral(". Fields not given are empty, as in a fresh popover. The address is "
+                                   "remembered unless it already is."))
+{
+}
+
+bool AddressCommand::fromVCard(const QString &path, int number, AddressFields *fields)
+{
+    QString reason;
+    const QList<Contact> contacts = Contacts::readVCardFile(path, &reason);
+    if (contacts.isEmpty()) {
+        printError(reason);
+        return false;
+    }
+    if (number > contacts.size()) {
+        printError(QStringLiteral("The vCard file holds %1 contact(s); there is no contact %2.")
+                       .arg(contacts.size())
+                       .arg(number));
+        return false;
+    }
+    if (!Contacts::fieldsFromContact(m_session.prefs(), contacts.at(number - 1), fields, &reason)) {
+        printError(reason);
+        return false;
+    }
+    return true;
+}
+
+int AddressCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption vcard(QStringLiteral("vcard"), QStringLiteral("Take the contact from a vCard file."),
+                                   QStringLiteral("FILE"));
+    const QCommandLineOption contact(QStringLiteral("contact"),
+                                     QStringLiteral("Which contact of the file, 1 for the first."), QStringLiteral("N"));
+    parser.addOptions({vcard, contact});
+    int code = kExitOk;
+    if (!parse(parser, args, 1, -1, &code))
+        return code;
+    QStringList pos = parser.positionalArguments();
+    const QString id = pos.takeFirst();
+    KeyValues values;
+    if (!splitKeyValues(pos, kKeys, &values, &code))
+        return code;
+    if (!parser.isSet(vcard) && values.isEmpty())
+        return usageError(QStringLiteral("Give a vCard file or at least one field."));
+    int number = 1;
+    if (parser.isSet(contact)) {
+        bool ok = false;
+        number = parser.value(contact).toInt(&ok);
+        if (!parser.isSet(vcard))
+            return usageError(QStringLiteral("--contact needs --vcard."));
+        if (!ok || number < 1)
+            return usageError(QStringLiteral("“%1” is not a contact number.").arg(parser.value(contact)));
+    }
+
+    Record *doc = m_session.select(id);
+    if (!doc)
+        return kExitFailure;
+    AddressFields fields;
+    if (parser.isSet(vcard) && !fromVCard(parser.value(vcard), number, &fields))
+        return kExitFailure;
+    for (const auto &[key, value] : std::as_const(values))
+        *field(fields, key) = value;
+    AppController &app = m_session.controller();
+    Contacts::selectAddress(*m_session.store(), *doc, fields,
+                            m_session.prefs().integer(Preferences::clientNamePatternTag));
+    app.documentChanged(doc);
+    return m_session.ui().errorPresented() ? kExitFailure : kExitOk;
+}
+
+} // namespace tabo::cli

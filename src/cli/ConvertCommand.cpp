@@ -1,0 +1,34 @@
+#include "cli/ConvertCommand.h"
+
+#include "app/AppController.h"
+#include "app/DocumentCommands.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+ConvertCommand::ConvertCommand(Session &session)
+    : Command(session, QStringLiteral("convert"), QStringLiteral("ID [--yes]"),
+              QStringLiteral("Convert a quote into an invoice (new number, title and texts); cannot be undone, "
+                             "so it needs --yes."))
+{
+}
+
+int ConvertCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption yes = yesOption();
+    parser.addOption(yes);
+    int code = kExitOk;
+    if (!parse(parser, args, 1, 1, &code))
+        return code;
+    m_session.ui().setConfirm(parser.isSet(yes));
+    if (!m_session.select(parser.positionalArguments().constFirst()))
+        return kExitFailure;
+    return m_session.controller().documents().convertQuoteToInvoice() ? kExitOk : kExitFailure;
+}
+
+} // namespace tabo::cli

@@ -1,0 +1,38 @@
+#include "cli/DeleteCommand.h"
+
+#include "app/AppController.h"
+#include "app/DocumentCommands.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+DeleteCommand::DeleteCommand(Session &session)
+    : Command(session, QStringLiteral("delete"), QStringLiteral("ID [--yes] [--adjust-counter]"),
+              QStringLiteral("Delete a document (needs --yes). With --adjust-counter the invoice or quote "
+                             "counter is raised so that no number is used twice."))
+{
+}
+
+int DeleteCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption yes = yesOption();
+    const QCommandLineOption adjust(QStringLiteral("adjust-counter"),
+                                    QStringLiteral("Answer “Adjust Counter” after the deletion."));
+    parser.addOptions({yes, adjust});
+    int code = kExitOk;
+    if (!parse(parser, args, 1, 1, &code))
+        return code;
+    CliInteraction &ui = m_session.ui();
+    ui.setConfirm(parser.isSet(yes));
+    ui.setAnswer(QStringLiteral("Adjust Counter"), parser.isSet(adjust));
+    if (!m_session.select(parser.positionalArguments().constFirst()))
+        return kExitFailure;
+    return m_session.controller().documents().deleteInvoice() ? kExitOk : kExitFailure;
+}
+
+} // namespace tabo::cli

@@ -1,0 +1,45 @@
+#include "cli/DeleteItemCommand.h"
+
+#include "app/AppController.h"
+#include "app/ItemCommands.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+DeleteItemCommand::DeleteItemCommand(Session &session)
+    : Command(session, QStringLiteral("delete-item"), QStringLiteral("ID N [--yes]"),
+              QStringLiteral("Delete line N (1 is the first, in the order the editor shows) of a document; "
+                             "needs --yes."))
+{
+}
+
+int DeleteItemCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption yes = yesOption();
+    parser.addOption(yes);
+    int code = kExitOk;
+    if (!parse(parser, args, 2, 2, &code))
+        return code;
+    const QStringList pos = parser.positionalArguments();
+    bool ok = false;
+    const int n = pos.at(1).toInt(&ok);
+    if (!ok || n < 1)
+        return usageError(QStringLiteral("“%1” is not a line number.").arg(pos.at(1)));
+    m_session.ui().setConfirm(parser.isSet(yes));
+    Record *doc = m_session.select(pos.at(0));
+    if (!doc)
+        return kExitFailure;
+    ItemCommands &items = m_session.controller().items();
+    const QList<Record *> lines = items.sortedItems(*doc);
+    if (n > lines.size())
+        return failure(QStringLiteral("Document “%1” has no line %2; it has %3.")
+                           .arg(pos.at(0), QString::number(n), QString::number(lines.size())));
+    return items.deleteItem(lines.at(n - 1)) ? kExitOk : kExitFailure;
+}
+
+} // namespace tabo::cli

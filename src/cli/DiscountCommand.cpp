@@ -1,0 +1,77 @@
+#include "cli/DiscountCommand.h"
+
+#include "app/AppController.h"
+#include "app/ItemCommands.h"
+#include "cli/AttributeText.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+namespace {
+
+const QStringList kKeys{QStringLiteral("enabled"), QStringLiteral("kind"),     QStringLiteral("amount"),
+                        QStringLiteral("percent"), QStringLiteral("title"),    QStringLiteral("subtitle"),
+                        QStringLiteral("hasSubtitle")};
+
+bool apply(DiscountFields &f, const QString &key, const QString &value, QString *error)
+{
+    if (key == QLatin1String("title")) {
+        f.title = value;
+    } else if (key == QLatin1String("subtitle")) {
+        f.subtitle = value;
+    } else if (key == QLatin1String("amount")) {
+        f.amount = value;
+    } else if (key == QLatin1String("percent")) {
+        f.percent = value;
+    } else if (key == QLatin1String("enabled")) {
+        return AttributeText::flag(key, value, &f.enabled, error);
+    } else if (key == QLatin1String("hasSubtitle")) {
+        return AttributeText::flag(key, value, &f.hasSubtitle, error);
+    } else if (key == QLatin1String("kind")) {
+        bool ok = false;
+        f.kind = value.trimmed().toInt(&ok);
+        if (!ok)
+            *error = QStringLiteral("“%1” is not a valid kind; 0 is a fixed amount, 1 a percentage.").arg(value);
+        return ok;
+    }
+    return true;
+}
+
+} // namespace
+
+DiscountCommand::DiscountCommand(Session &session)
+    : Command(session, QStringLiteral("discount"), QStringLiteral("ID KEY=VALUE..."),
+              QStringLiteral("Edit the discount (keys: ") + kKeys.join(QStringLiteral(", "))
+                  + QStringLiteral("); kind 0 takes the amount, any other the percent (19 means 19 %); "
+                                   "keys not given keep their values."))
+{
+}
+
+int DiscountCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    int code = kExitOk;
+    if (!parse(parser, args, 1, -1, &code, true))
+        return code;
+    QStringList pos = parser.positionalArguments();
+    const QString id = pos.takeFirst();
+    KeyValues values;
+    if (!splitKeyValues(pos, kKeys, &values, &code))
+        return code;
+    if (!m_session.select(id))
+        return kExitFailure;
+    ItemCommands &items = m_session.controller().items();
+    DiscountFields fields = items.discountFields();
+    QString error;
+    for (const auto &[key, value] : std::as_const(values))
+        if (!apply(fields, key, value, &error))
+            return failure(error);
+    if (!items.closeDiscountPopover(fields, &error))
+        return failure(error);
+    return m_session.ui().errorPresented() ? kExitFailure : kExitOk;
+}
+
+} // namespace tabo::cli

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace tabo::cli {
+
+// duplicate ID: the application's Duplicate on one document.
+class DuplicateCommand : public Command
+{
+public:
+    explicit DuplicateCommand(Session &session);
+    int execute(const QStringList &args) override;
+};
+
+} // namespace tabo::cli

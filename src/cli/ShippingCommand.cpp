@@ -1,0 +1,76 @@
+#include "cli/ShippingCommand.h"
+
+#include "app/AppController.h"
+#include "app/ItemCommands.h"
+#include "cli/AttributeText.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+namespace {
+
+const QStringList kKeys{QStringLiteral("enabled"), QStringLiteral("title"),   QStringLiteral("subtitle"),
+                        QStringLiteral("hasSubtitle"), QStringLiteral("amount"), QStringLiteral("tax1"),
+                        QStringLiteral("tax2"),    QStringLiteral("tax3"),     QStringLiteral("note")};
+
+bool apply(ShippingFields &f, const QString &key, const QString &value, QString *error)
+{
+    if (key == QLatin1String("title"))
+        f.title = value;
+    else if (key == QLatin1String("subtitle"))
+        f.subtitle = value;
+    else if (key == QLatin1String("amount"))
+        f.amount = value;
+    else if (key == QLatin1String("note"))
+        f.note = value;
+    else if (key == QLatin1String("enabled"))
+        return AttributeText::flag(key, value, &f.enabled, error);
+    else if (key == QLatin1String("hasSubtitle"))
+        return AttributeText::flag(key, value, &f.hasSubtitle, error);
+    else if (key == QLatin1String("tax1"))
+        return AttributeText::flag(key, value, &f.tax1, error);
+    else if (key == QLatin1String("tax2"))
+        return AttributeText::flag(key, value, &f.tax2, error);
+    else if (key == QLatin1String("tax3"))
+        return AttributeText::flag(key, value, &f.tax3, error);
+    return true;
+}
+
+} // namespace
+
+ShippingCommand::ShippingCommand(Session &session)
+    : Command(session, QStringLiteral("shipping"), QStringLiteral("ID KEY=VALUE..."),
+              QStringLiteral("Edit the shipping line (keys: ") + kKeys.join(QStringLiteral(", "))
+                  + QStringLiteral("); keys not given keep their values. The line is remembered for "
+                                   "later unless one with the same title and amount is."))
+{
+}
+
+int ShippingCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    int code = kExitOk;
+    if (!parse(parser, args, 1, -1, &code, true))
+        return code;
+    QStringList pos = parser.positionalArguments();
+    const QString id = pos.takeFirst();
+    KeyValues values;
+    if (!splitKeyValues(pos, kKeys, &values, &code))
+        return code;
+    if (!m_session.select(id))
+        return kExitFailure;
+    ItemCommands &items = m_session.controller().items();
+    ShippingFields fields = items.shippingFields();
+    QString error;
+    for (const auto &[key, value] : std::as_const(values))
+        if (!apply(fields, key, value, &error))
+            return failure(error);
+    if (!items.closeShippingPopover(fields, &error))
+        return failure(error);
+    return m_session.ui().errorPresented() ? kExitFailure : kExitOk;
+}
+
+} // namespace tabo::cli

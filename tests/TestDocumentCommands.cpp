@@ -1,0 +1,158 @@
+#include "TestSupport.h"
+
+#include "app/AppController.h"
+#include "app/DocumentCommands.h"
+#include "domain/Record.h"
+#include "prefs/Preferences.h"
+#include "store/Store.h"
+
+#include <QtTest>
+
+using namespace tabo;
+using P = Preferences;
+
+namespace {
+
+struct Fixture
+{
+    FixedClock clock{test::utc(2026, 3, 5, 9)};
+    test::TempHome home;
+    test::FakeInteraction ui;
+    Preferences prefs{home.configFile()};
+    AppController app{prefs, ui};
+    DocumentCommands &docs = app.documents();
+
+    Fixture()
+    {
+        Clock::setInstance(&clock);
+        prefs.setString(P::invPattern, QStringLiteral("RE-%COUNT%"));
+        prefs.setString(P::quotPattern, QStringLiteral("AN-%COUNT%"));
+        prefs.setInteger(P::invCount, 10);
+        prefs.setInteger(P::invDefaultDueDate, 14);
+        for (P::Key k : {P::invHaveNumber, P::quotHaveNumber, P::invHaveDueDate})
+            prefs.setBool(k, true);
+    }
+    ~Fixture() { Clock::setInstance(nullptr); }
+
+    Record *line(Record *doc, double price)
+    {
+        Record *item = app.managedObjectContext()->insert(EntityId::Item);
+        item->setNum(Item::baseAmount, price);
+        item->setNum(Item::unitCount, 1);
+        item->setToOne(Item::invoice, doc);
+        app.documentChanged(doc);
+        return item;
+    }
+};
+
+} // namespace
+
+class TestDocumentCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void deleteRefusalsConfirmationsAndCounter();
+    void convertQuote();
+    void duplicate();
+};
+
+void TestDocumentCommands::deleteRefusalsConfirmationsAndCounter()
+{
+    Fixture f;
+    QVERIFY(!f.docs.deleteInvoice()); // nothing selected: nothing asked
+    for (int i = 0; i < 3; ++i)
+        f.app.addInvoice();
+    Record *invoice = f.app.currentInvoice();
+    QCOMPARE(invoice->text(Invoice::number), QStringLiteral("RE-13"));
+    invoice->setInt(Invoice::status, 1);
+    QVERIFY(!f.docs.deleteInvoice());
+    QCOMPARE(f.ui.lastAlertText(), QStringLiteral("The selected invoice is marked as already sent. If you really need "
+                                                  "to delete it, please set its status back to 'Created' first."));
+
+    invoice->setInt(Invoice::status, 0);
+    f.ui.answers = {1};
+    QVERIFY(!f.docs.deleteInvoice());
+    QCOMPARE(f.ui.alerts.last().buttons, QStringList({QStringLiteral("Delete"), QStringLiteral("Cancel")}));
+    QCOMPARE(f.app.documentList().all().size(), 3);
+
+    f.ui.answers = {0, 0};
+    QVERIFY(f.docs.deleteInvoice());
+    QCOMPARE(f.ui.alerts[2].title, QStringLiteral("Delete Invoice"));
+    QCOMPARE(f.ui.alerts.last().buttons, QStringList({QStringLiteral("Adjust Counter"), QStringLiteral("Cancel")}));
+    QVERIFY(!f.app.currentInvoice());
+    QCOMPARE(f.app.managedObjectContext()->count(EntityId::Invoice), 2);
+    QCOMPARE(f.prefs.raw(QStringLiteral("invCount")), QVariant(QStringLiteral("11")));
+    // The next invoice gets the number it would have had before the deletion.
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE-14"));
+
+    // Quotes are never refused by the sent mark; declining the counter keeps it.
+    f.app.addQuote()->setInt(Invoice::status, 1);
+    f.ui.answers = {0, 1};
+    QVERIFY(f.docs.deleteInvoice());
+    QCOMPARE(f.ui.alerts[4].title, QStringLiteral("Delete Quote"));
+    QVERIFY(f.ui.lastAlertText().contains(QStringLiteral("your quote counter")));
+    QVERIFY(!f.prefs.contains(P::quotCount));
+}
+
+void TestDocumentCommands::convertQuote()
+{
+    Fixture f;
+    f.prefs.setString(P::locInvoice, QStringLiteral("Invoice"));
+    f.prefs.setString(P::tempQuotFooter, QStringLiteral("Quote footer"));
+    f.app.addInvoice();
+    QVERIFY(!f.docs.convertQuoteToInvoice());
+    QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Sorry!"));
+
+    f.app.addInvoice();
+    Record *quote = f.app.addQuote();
+    f.ui.answers = {1};
+    QVERIFY(!f.docs.convertQuoteToInvoice());
+    QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Convert Into Invoice"));
+    QCOMPARE(quote->integer(Invoice::kind), 0);
+
+    f.clock.advance(3600);
+    QVERIFY(f.docs.convertQuoteToInvoice());
+    QCOMPARE(quote->integer(Invoice::kind), 1);
+    QCOMPARE(quote->text(Invoice::number), QStringLiteral("RE-13")); // counts itself once, no second + 1
+    QCOMPARE(quote->date(Invoice::due), f.clock.now().addDays(14));
+    QCOMPARE(quote->text(Invoice::title), QStringLiteral("Invoice"));
+    QCOMPARE(quote->text(Invoice::footer), QString());
+    QVERIFY(!f.app.managedObjectContext()->hasChanges());
+}
+
+void TestDocumentCommands::duplicate()
+{
+    Fixture f;
+    Record *source = f.app.addInvoice();
+    Record *srcLine = f.line(source, 100);
+    source->setInt(Invoice::status, 3);
+    source->setText(Invoice::dispatchNumber, QStringLiteral("LS-1"));
+    f.app.documentChanged(source);
+    f.clock.advance(86400);
+    Record *copy = f.docs.duplicateInvoice();
+    QCOMPARE(f.app.currentInvoice(), copy);
+    QVERIFY(copy->text(Invoice::uniqueID) != source->text(Invoice::uniqueID));
+    QCOMPARE(copy->text(Invoice::number), QStringLiteral("RE-12"));
+    QCOMPARE(copy->integer(Invoice::status), 0);
+    QCOMPARE(copy->text(Invoice::dispatchNumber), QString());
+    QCOMPARE(copy->date(Invoice::sent), f.clock.now());
+    QCOMPARE(copy->date(Invoice::due), f.clock.now().addDays(14));
+
+    // Lines are copies: changing one side leaves the other alone.
+    Record *copyLine = copy->toMany(Invoice::items).value(0);
+    QVERIFY(copyLine && copyLine != srcLine);
+    copyLine->setNum(Item::baseAmount, 80);
+    f.app.documentChanged(copy);
+    QCOMPARE(source->num(Invoice::amount), 100.0);
+    QCOMPARE(copy->num(Invoice::amount), 80.0);
+
+    // A quote stays a quote but takes the invoice numbering.
+    f.app.addQuote();
+    Record *quoteCopy = f.docs.duplicateInvoice();
+    QCOMPARE(quoteCopy->integer(Invoice::kind), 0);
+    QCOMPARE(quoteCopy->text(Invoice::number), QStringLiteral("RE-13"));
+}
+
+QTEST_GUILESS_MAIN(TestDocumentCommands)
+#include "TestDocumentCommands.moc"

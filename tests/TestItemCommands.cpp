@@ -1,0 +1,174 @@
+#include "TestSupport.h"
+
+#include "app/AppController.h"
+#include "app/ItemCommands.h"
+#include "domain/Record.h"
+#include "prefs/Preferences.h"
+#include "store/Store.h"
+
+#include <QtTest>
+
+using namespace tabo;
+using P = Preferences;
+
+namespace {
+
+struct Fixture
+{
+    test::TempHome home;
+    test::FakeInteraction ui;
+    Preferences prefs{home.configFile()};
+    AppController app{prefs, ui};
+    ItemCommands &items = app.items();
+    Record *doc = nullptr;
+    QString error;
+
+    Fixture()
+    {
+        prefs.setReal(P::tax1Rate, 0.19);
+        prefs.setBool(P::tax1Enabled, true);
+        doc = app.addInvoice();
+    }
+    Record *add(const QString &title, const QString &price, const QString &sku = {}, bool tax2 = false)
+    {
+        return items.addItem({title, {}, {}, sku, {}, price, QStringLiteral("1"), true, tax2, false}, &error);
+    }
+    const QList<Record *> &all(EntityId e) { return app.managedObjectContext()->all(e); }
+};
+
+} // namespace
+
+class TestItemCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newLinesAndCatalogue();
+    void badNumbersAreRefused();
+    void deleteAndEditLines();
+    void shippingAndDiscount();
+    void sortOrders();
+};
+
+void TestItemCommands::newLinesAndCatalogue()
+{
+    Fixture f;
+    Record *line = f.add(QStringLiteral("Consulting"), QStringLiteral("100.1"), {}, true);
+    QCOMPARE(line->toOne(Item::invoice), f.doc);
+    QCOMPARE(line->num(Item::baseAmount), double(100.1f));
+    QCOMPARE(line->num(Item::tax1Percent), double(0.19f));
+    QCOMPARE(f.doc->num(Invoice::amount), 119.12); // recalculated and saved
+    QVERIFY(!f.app.managedObjectContext()->hasChanges());
+    // The catalogue entry takes the enabled taxes, not the line's boxes.
+    const Record *entry = f.all(EntityId::RecentItem).value(0);
+    QVERIFY(entry->boolean(RecentItem::isTax1Applied) && !entry->boolean(RecentItem::isTax2Applied));
+
+    f.add(QStringLiteral("Consulting"), QStringLiteral("100.1"));
+    QCOMPARE(f.all(EntityId::RecentItem).size(), 1);
+    f.add(QStringLiteral("Consulting"), QStringLiteral("120"));
+    f.add(QStringLiteral("Cable"), QStringLiteral("5"), QStringLiteral("A-1"));
+    f.add(QStringLiteral("Cable, blue"), QStringLiteral("6"), QStringLiteral("A-1"));
+    QCOMPARE(f.all(EntityId::RecentItem).size(), 3);
+
+    // Back into the popover: a box needs the entry's flag and the preference.
+    f.prefs.setBool(P::tax1Enabled, false);
+    const ItemFields fields = f.items.addItemRecent(*entry);
+    QCOMPARE(fields.price, QStringLiteral("100.1"));
+    QVERIFY(!fields.tax1);
+}
+
+void TestItemCommands::badNumbersAreRefused()
+{
+    Fixture f;
+    QVERIFY(!f.add(QStringLiteral("Consulting"), QStringLiteral("abc")));
+    QCOMPARE(f.error, QStringLiteral("The price “abc” is not a number."));
+    QVERIFY(!f.add(QStringLiteral("Consulting"), QString()));
+    QVERIFY(f.doc->toMany(Invoice::items).isEmpty() && f.all(EntityId::RecentItem).isEmpty());
+    QCOMPARE(f.app.managedObjectContext()->count(EntityId::Item), 0);
+
+    double v = 0;
+    QLocale::setDefault(QLocale::c());
+    for (const char *bad : {"", "nan", "inf", "1e400", "12abc", "12,5"})
+        QVERIFY2(!ItemCommands::parseNumber(QString::fromLatin1(bad), &v), bad);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    QVERIFY(ItemCommands::parseNumber(QStringLiteral(" 12.5 "), &v) && v == 12.5);
+    QVERIFY(ItemCommands::parseNumber(QStringLiteral("1.234,5"), &v) && v == 1234.5);
+    QLocale::setDefault(QLocale::c());
+}
+
+void TestItemCommands::deleteAndEditLines()
+{
+    Fixture f;
+    Record *keep = f.add(QStringLiteral("Design"), QStringLiteral("50"));
+    Record *line = f.add(QStringLiteral("Consulting"), QStringLiteral("100"));
+    f.doc->setInt(Invoice::status, 1);
+    QVERIFY(!f.items.deleteItem(line));
+    QVERIFY(!f.items.editItem(line, QStringLiteral("unitCount"), 3, &f.error));
+    QCOMPARE(f.ui.alerts.size(), 2);
+    QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Error!"));
+    QVERIFY(f.ui.lastAlertText().endsWith(QStringLiteral("resend the modified invoice.")));
+
+    f.doc->setInt(Invoice::status, 0);
+    QVERIFY(!f.items.editItem(line, QStringLiteral("colour"), 3, &f.error));
+    QVERIFY(!f.items.editItem(line, QStringLiteral("unitCount"), QStringLiteral("nan"), &f.error));
+    QCOMPARE(line->num(Item::unitCount), 1.0);
+    QVERIFY(f.items.editItem(line, QStringLiteral("unitCount"), QStringLiteral("3"), &f.error));
+    QCOMPARE(f.doc->num(Invoice::subAmount), 350.0);
+
+    f.ui.answers = {1};
+    QVERIFY(!f.items.deleteItem(line));
+    QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Delete Item"));
+    QCOMPARE(f.ui.alerts.last().buttons, QStringList({QStringLiteral("Delete"), QStringLiteral("Cancel")}));
+    QVERIFY(f.items.deleteItem(line));
+    QCOMPARE(f.doc->toMany(Invoice::items), QList<Record *>{keep});
+    QCOMPARE(f.doc->num(Invoice::subAmount), 50.0);
+}
+
+void TestItemCommands::shippingAndDiscount()
+{
+    Fixture f;
+    ShippingFields ship{true, QStringLiteral("Courier"), QStringLiteral("next day"), true, QStringLiteral("12.5"),
+                        true, false, false, {}};
+    QVERIFY(f.items.closeShippingPopover(ship, &f.error));
+    QCOMPARE(f.doc->num(Invoice::amount), 14.88); // 12.5 plus 19 %, rounded
+    ship.subtitle = QStringLiteral("changed"); // not a new remembered line
+    QVERIFY(f.items.closeShippingPopover(ship, &f.error));
+    QCOMPARE(f.all(EntityId::RecentShipping).size(), 1);
+    ship.amount = QStringLiteral("15");
+    QVERIFY(f.items.closeShippingPopover(ship, &f.error));
+    QCOMPARE(f.all(EntityId::RecentShipping).size(), 2);
+    ship.amount = QStringLiteral("free");
+    QVERIFY(!f.items.closeShippingPopover(ship, &f.error));
+    QCOMPARE(f.items.shippingFields().amount, QStringLiteral("15"));
+
+    Record *other = f.app.addInvoice();
+    f.items.selectRecentShipping(*f.all(EntityId::RecentShipping).first());
+    QVERIFY(other->boolean(Invoice::isShippingEnabled) && other->boolean(Invoice::hasShippingSubtitle));
+    QCOMPARE(other->text(Invoice::shippingSubtitle), QStringLiteral("next day"));
+    QCOMPARE(other->num(Invoice::amount), 14.88);
+
+    DiscountFields disc{true, 1, {}, QStringLiteral("10"), QStringLiteral("Loyalty"), {}, false};
+    QVERIFY(f.items.closeDiscountPopover(disc, &f.error));
+    QCOMPARE(other->num(Invoice::discountPercent), 0.1);
+    QCOMPARE(f.items.discountFields().percent, QStringLiteral("10"));
+    QVERIFY(other->num(Invoice::amount) < 14.88);
+    disc.kind = 0; // a fixed discount needs its amount
+    QVERIFY(!f.items.closeDiscountPopover(disc, &f.error));
+    QCOMPARE(other->integer(Invoice::discountKind), 1);
+}
+
+void TestItemCommands::sortOrders()
+{
+    Fixture f;
+    Record *b = f.add(QStringLiteral("beta"), QStringLiteral("30"));
+    Record *a = f.add(QStringLiteral("Alpha"), QStringLiteral("10"));
+    Record *c = f.add(QStringLiteral("Gamma"), QStringLiteral("20"));
+    const QList<QList<Record *>> expected = {{a, b, c}, {b, a, c}, {c, a, b}, {b, c, a}, {b, a, c}};
+    for (int order = 0; order < 5; ++order) {
+        f.prefs.setInteger(P::itemSortOrder, order);
+        QCOMPARE(f.items.sortedItems(*f.doc), expected[order]);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestItemCommands)
+#include "TestItemCommands.moc"
