@@ -221,8 +221,9 @@ bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &va
     Record *doc = documentOf(*item);
     // A sent invoice must not change silently, whichever way a line is touched.
     if (doc && doc->integer(Invoice::status) != 0) {
+        // The alert is the message: *error stays empty so it is not shown twice.
         m_app.ui().alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
-        setError(error, kSentText);
+        setError(error, QString());
         return false;
     }
     const AttrType type = item->desc().attributes[attr].type;

@@ -67,7 +67,8 @@ public:
     // nothing was deleted.
     bool deleteItem(Record *item);
     // Editing a line: one attribute by key (value parsed by its type), then
-    // calculateInvoice: and a save. False with *error when refused.
+    // calculateInvoice: and a save. False when refused, with *error set, or
+    // empty when the refusal was already shown as an alert (a sent document).
     bool editItem(Record *item, const QString &key, const QVariant &value, QString *error);
 
     // closeShippingPopover: stores the fields, recalculates, remembers the

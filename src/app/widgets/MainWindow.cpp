@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include "DocumentActions.h"
+#include "DocumentEditor.h"
 #include "DocumentListPane.h"
 #include "FilterButton.h"
 #include "SummaryBar.h"
@@ -10,6 +12,8 @@
 #include <QFrame>
 #include <QIcon>
 #include <QMenuBar>
+#include <QSplitter>
+#include <QTableView>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -20,18 +24,28 @@ MainWindow::MainWindow(AppController &app, QWidget *parent)
     , m_app(app)
 {
     setWindowTitle(QStringLiteral("Tabo"));
-    resize(980, 620);
+    resize(1280, 800);
 
     auto *central = new QWidget(this);
     auto *layout = new QVBoxLayout(central);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    m_list = new DocumentListPane(m_app, central);
+    // The list above, the editor below: both get the full width their
+    // columns need.
+    auto *split = new QSplitter(Qt::Vertical, central);
+    split->setChildrenCollapsible(false);
+    m_list = new DocumentListPane(m_app, split);
+    m_editor = new DocumentEditor(m_app, split);
+    split->addWidget(m_list);
+    split->addWidget(m_editor);
+    split->setStretchFactor(0, 2);
+    split->setStretchFactor(1, 5);
+    split->setSizes({ 220, 520 });
     auto *rule = new QFrame(central);
     rule->setFrameShape(QFrame::HLine);
     rule->setFrameShadow(QFrame::Sunken);
     m_summary = new SummaryBar(m_app, central);
-    layout->addWidget(m_list, 1);
+    layout->addWidget(split, 1);
     layout->addWidget(rule);
     layout->addWidget(m_summary);
     setCentralWidget(central);
@@ -40,6 +54,8 @@ MainWindow::MainWindow(AppController &app, QWidget *parent)
     createToolBar();
 
     connect(&m_app, &AppController::storeOpened, this, &MainWindow::updateCommands);
+    connect(&m_app, &AppController::storeOpened, this, &MainWindow::selectNewestDocument);
+    selectNewestDocument();
     connect(&m_app, &AppController::terminateRequested, this, &MainWindow::terminateNow);
     updateCommands();
     // The upgrade was declined while the list opened the store: the window
@@ -53,12 +69,12 @@ void MainWindow::createActions()
     m_newInvoice = new QAction(QIcon::fromTheme(QStringLiteral("document-new")), tr("New Invoice"), this);
     m_newInvoice->setObjectName(QStringLiteral("actionNewInvoice"));
     m_newInvoice->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
-    connect(m_newInvoice, &QAction::triggered, &m_app, &AppController::addInvoice);
+    connect(m_newInvoice, &QAction::triggered, this, [this] { newDocument(true); });
 
     m_newQuote = new QAction(QIcon::fromTheme(QStringLiteral("document-new")), tr("New Quote"), this);
     m_newQuote->setObjectName(QStringLiteral("actionNewQuote"));
     m_newQuote->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N));
-    connect(m_newQuote, &QAction::triggered, &m_app, &AppController::addQuote);
+    connect(m_newQuote, &QAction::triggered, this, [this] { newDocument(false); });
 
     m_quit = new QAction(QIcon::fromTheme(QStringLiteral("application-exit")), tr("Quit"), this);
     m_quit->setObjectName(QStringLiteral("actionQuit"));
@@ -66,11 +82,35 @@ void MainWindow::createActions()
     m_quit->setMenuRole(QAction::QuitRole);
     connect(m_quit, &QAction::triggered, this, &QWidget::close);
 
+    m_actions = new DocumentActions(m_app, m_editor, this);
+    m_actions->attachDeleteKey(m_list->view());
+
     QMenu *file = menuBar()->addMenu(tr("&File"));
     file->addAction(m_quit);
     QMenu *documents = menuBar()->addMenu(tr("&Documents"));
     documents->addAction(m_newInvoice);
     documents->addAction(m_newQuote);
+    documents->addAction(m_actions->duplicate());
+    documents->addAction(m_actions->convert());
+    documents->addSeparator();
+    documents->addAction(m_actions->remove());
+    QMenu *items = menuBar()->addMenu(tr("&Items"));
+    items->addAction(m_actions->addItem());
+    items->addAction(m_actions->deleteItem());
+}
+
+void MainWindow::newDocument(bool invoice)
+{
+    if (invoice ? m_app.addInvoice() : m_app.addQuote())
+        m_editor->beginNewDocument();
+}
+
+void MainWindow::selectNewestDocument()
+{
+    // Opening on the latest document shows where the person left off.
+    const auto &shown = m_app.documentList().arranged();
+    if (!m_app.currentInvoice() && !shown.isEmpty())
+        m_app.setCurrentInvoice(shown.first());
 }
 
 void MainWindow::createToolBar()
@@ -83,6 +123,12 @@ void MainWindow::createToolBar()
     bar->setIconSize(QSize(22, 22));
     bar->addAction(m_newInvoice);
     bar->addAction(m_newQuote);
+    bar->addAction(m_actions->duplicate());
+    bar->addAction(m_actions->convert());
+    bar->addAction(m_actions->remove());
+    bar->addSeparator();
+    bar->addAction(m_actions->addItem());
+    bar->addAction(m_actions->deleteItem());
     auto *spacer = new QWidget(bar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(spacer);
@@ -103,6 +149,7 @@ void MainWindow::updateCommands()
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     if (!m_quitDecided) {
+        m_editor->commitPending();
         if (m_app.applicationShouldTerminate() == AppController::TerminateReply::Cancel) {
             event->ignore();
             return;

@@ -7,12 +7,15 @@ class QAction;
 namespace tabo {
 
 class AppController;
+class DocumentActions;
+class DocumentEditor;
 class DocumentListPane;
 class FilterButton;
 class SummaryBar;
 
-// The main window: the document list with its filter button and summary. Every
-// command goes to the controller; the window redraws on its signals.
+// The main window: the document list with its filter button and summary, and
+// the editor of the selected document under it. Every command goes to the
+// controller; the window redraws on its signals.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -22,6 +25,8 @@ public:
     explicit MainWindow(AppController &app, QWidget *parent = nullptr);
 
     DocumentListPane *documentList() const { return m_list; }
+    DocumentEditor *editor() const { return m_editor; }
+    DocumentActions *documentActions() const { return m_actions; }
     FilterButton *filterButton() const { return m_filterButton; }
     QAction *newInvoiceAction() const { return m_newInvoice; }
     QAction *newQuoteAction() const { return m_newQuote; }
@@ -36,10 +41,14 @@ private:
     void createToolBar();
     void terminateNow();
     void updateCommands();
+    void newDocument(bool invoice);
+    void selectNewestDocument();
 
     AppController &m_app;
     DocumentListPane *m_list = nullptr;
     SummaryBar *m_summary = nullptr;
+    DocumentEditor *m_editor = nullptr;
+    DocumentActions *m_actions = nullptr;
     FilterButton *m_filterButton = nullptr;
     QAction *m_newInvoice = nullptr;
     QAction *m_newQuote = nullptr;
