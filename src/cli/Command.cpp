@@ -1,6 +1,8 @@
 #include "cli/Command.h"
 
+#include "cli/CliInteraction.h"
 #include "cli/Console.h"
+#include "cli/Session.h"
 
 #include <QCommandLineParser>
 
@@ -85,6 +87,31 @@ bool Command::splitKeyValues(const QStringList &words, const QStringList &keys, 
 QCommandLineOption Command::yesOption()
 {
     return QCommandLineOption(QStringLiteral("yes"), QStringLiteral("Confirm the questions the command asks."));
+}
+
+bool Command::selectDocumentWithPairs(const QStringList &args, const QStringList &keys, QStringList *rest,
+                                      int *exitCode)
+{
+    QCommandLineParser parser;
+    *exitCode = kExitOk;
+    if (!parse(parser, args, 1, -1, exitCode, true))
+        return false;
+    QStringList pos = parser.positionalArguments();
+    const QString id = pos.takeFirst();
+    KeyValues values;
+    if (!splitKeyValues(pos, keys, &values, exitCode))
+        return false;
+    if (!m_session.select(id)) {
+        *exitCode = kExitFailure;
+        return false;
+    }
+    *rest = pos;
+    return true;
+}
+
+int Command::popoverResult() const
+{
+    return m_session.ui().errorPresented() ? kExitFailure : kExitOk;
 }
 
 } // namespace tabo::cli

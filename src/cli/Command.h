@@ -49,9 +49,37 @@ protected:
     // --yes: confirm the questions the command asks.
     static QCommandLineOption yesOption();
 
+    // "ID KEY=VALUE...": selects the document, starts from the popover's
+    // current fields, applies each pair and confirms the popover.
+    template <typename Fields, typename Current, typename Apply, typename Confirm>
+    int editPopoverFields(const QStringList &args, const QStringList &keys, Current current, Apply apply,
+                          Confirm confirm)
+    {
+        int code = 0;
+        QStringList pos;
+        if (!selectDocumentWithPairs(args, keys, &pos, &code))
+            return code;
+        KeyValues values;
+        splitKeyValues(pos, keys, &values, &code);
+        Fields fields = current();
+        QString error;
+        for (const auto &[key, value] : std::as_const(values))
+            if (!apply(fields, key, value, &error))
+                return failure(error);
+        if (!confirm(fields, &error))
+            return failure(error);
+        return popoverResult();
+    }
+
     Session &m_session;
 
 private:
+    // The shared first half of editPopoverFields: usage, pairs and document;
+    // `rest` receives the KEY=VALUE words.
+    bool selectDocumentWithPairs(const QStringList &args, const QStringList &keys, QStringList *rest,
+                                 int *exitCode);
+    int popoverResult() const;
+
     QString m_name;
     QString m_arguments;
     QString m_description;

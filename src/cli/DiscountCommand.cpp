@@ -52,26 +52,10 @@ DiscountCommand::DiscountCommand(Session &session)
 
 int DiscountCommand::execute(const QStringList &args)
 {
-    QCommandLineParser parser;
-    int code = kExitOk;
-    if (!parse(parser, args, 1, -1, &code, true))
-        return code;
-    QStringList pos = parser.positionalArguments();
-    const QString id = pos.takeFirst();
-    KeyValues values;
-    if (!splitKeyValues(pos, kKeys, &values, &code))
-        return code;
-    if (!m_session.select(id))
-        return kExitFailure;
     ItemCommands &items = m_session.controller().items();
-    DiscountFields fields = items.discountFields();
-    QString error;
-    for (const auto &[key, value] : std::as_const(values))
-        if (!apply(fields, key, value, &error))
-            return failure(error);
-    if (!items.closeDiscountPopover(fields, &error))
-        return failure(error);
-    return m_session.ui().errorPresented() ? kExitFailure : kExitOk;
+    return editPopoverFields<DiscountFields>(
+        args, kKeys, [&] { return items.discountFields(); }, apply,
+        [&](const DiscountFields &fields, QString *error) { return items.closeDiscountPopover(fields, error); });
 }
 
 } // namespace tabo::cli

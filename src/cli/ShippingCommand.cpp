@@ -51,26 +51,10 @@ ShippingCommand::ShippingCommand(Session &session)
 
 int ShippingCommand::execute(const QStringList &args)
 {
-    QCommandLineParser parser;
-    int code = kExitOk;
-    if (!parse(parser, args, 1, -1, &code, true))
-        return code;
-    QStringList pos = parser.positionalArguments();
-    const QString id = pos.takeFirst();
-    KeyValues values;
-    if (!splitKeyValues(pos, kKeys, &values, &code))
-        return code;
-    if (!m_session.select(id))
-        return kExitFailure;
     ItemCommands &items = m_session.controller().items();
-    ShippingFields fields = items.shippingFields();
-    QString error;
-    for (const auto &[key, value] : std::as_const(values))
-        if (!apply(fields, key, value, &error))
-            return failure(error);
-    if (!items.closeShippingPopover(fields, &error))
-        return failure(error);
-    return m_session.ui().errorPresented() ? kExitFailure : kExitOk;
+    return editPopoverFields<ShippingFields>(
+        args, kKeys, [&] { return items.shippingFields(); }, apply,
+        [&](const ShippingFields &fields, QString *error) { return items.closeShippingPopover(fields, error); });
 }
 
 } // namespace tabo::cli
