@@ -37,6 +37,7 @@ public:
     void presentError(const Error &e) override { std::fprintf(stderr, "error: %s\n", qPrintable(e.message())); }
     QString openFile(const FileRequest &) override { return {}; }
     QString saveFile(const FileRequest &) override { return {}; }
+    bool openWithDefaultApplication(const QString &) override { return false; }
 };
 
 double residentMiB()

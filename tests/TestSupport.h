@@ -44,6 +44,13 @@ public:
     void presentError(const Error &error) override;
     QString openFile(const FileRequest &request) override;
     QString saveFile(const FileRequest &request) override;
+    QStringList opened;        // paths handed to the desktop
+    bool openSucceeds = true;
+    bool openWithDefaultApplication(const QString &path) override
+    {
+        opened << path;
+        return openSucceeds;
+    }
 
     QString lastAlertTitle() const { return alerts.isEmpty() ? QString() : alerts.last().title; }
     QString lastAlertText() const { return alerts.isEmpty() ? QString() : alerts.last().text; }

@@ -1,6 +1,9 @@
 #include "app/AppController.h"
 
+#include "app/AccountingExport.h"
+#include "app/BackupCommands.h"
 #include "app/DocumentCommands.h"
+#include "app/FileCommands.h"
 #include "app/Interaction.h"
 #include "app/ItemCommands.h"
 #include "domain/Clock.h"
@@ -34,6 +37,9 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_documents(std::make_unique<DocumentCommands>(*this))
     , m_items(std::make_unique<ItemCommands>(*this))
     , m_templates(std::make_unique<TemplateCommands>(*this))
+    , m_files(std::make_unique<FileCommands>(*this))
+    , m_backups(std::make_unique<BackupCommands>(*this))
+    , m_accounting(std::make_unique<AccountingExport>(*this))
 {
 }
 
@@ -262,6 +268,27 @@ bool AppController::customPathChanged()
     Q_EMIT currentInvoiceChanged(nullptr);
     Q_EMIT listChanged();
     Q_EMIT summaryChanged();
+    return managedObjectContext() != nullptr;
+}
+
+Error AppController::closeStore()
+{
+    Error e;
+    if (m_store)
+        e = m_store->save();
+    m_current = nullptr;
+    m_list.clear();
+    m_store.reset();
+    Q_EMIT currentInvoiceChanged(nullptr);
+    Q_EMIT listChanged();
+    Q_EMIT summaryChanged();
+    return e;
+}
+
+bool AppController::reopenStore()
+{
+    closeStore();
+    m_storeTried = false;
     return managedObjectContext() != nullptr;
 }
 

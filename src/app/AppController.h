@@ -12,7 +12,10 @@
 
 namespace tabo {
 
+class AccountingExport;
+class BackupCommands;
 class DocumentCommands;
+class FileCommands;
 class Interaction;
 class ItemCommands;
 class Preferences;
@@ -117,6 +120,16 @@ public:
     DocumentCommands &documents() { return *m_documents; }
     ItemCommands &items() { return *m_items; }
     TemplateCommands &templates() { return *m_templates; }
+    FileCommands &files() { return *m_files; }
+    BackupCommands &backups() { return *m_backups; }
+    AccountingExport &accounting() { return *m_accounting; }
+
+    // Closes the store (saving first) and opens the file at storeURL again;
+    // used by the restores. False (with the error presented) when it cannot
+    // be opened.
+    bool reopenStore();
+    // Closes the store without reopening (the file can then be replaced).
+    Error closeStore();
 
     // The change observer: after any edit of a document (the editor sets
     // attributes directly), recalculate it, run the summary pass, keep the
@@ -154,6 +167,9 @@ private:
     std::unique_ptr<DocumentCommands> m_documents;
     std::unique_ptr<ItemCommands> m_items;
     std::unique_ptr<TemplateCommands> m_templates;
+    std::unique_ptr<FileCommands> m_files;
+    std::unique_ptr<BackupCommands> m_backups;
+    std::unique_ptr<AccountingExport> m_accounting;
     QString m_backupPath;
     QString m_pdfPath;
     QString m_pdfEmailPath;

@@ -34,6 +34,10 @@ public:
     // Open and save panels; an empty result means the person cancelled.
     virtual QString openFile(const FileRequest &request) = 0;
     virtual QString saveFile(const FileRequest &request) = 0;
+
+    // Hands a file to the program the desktop associates with it. False when
+    // nothing could open it.
+    virtual bool openWithDefaultApplication(const QString &path) = 0;
 };
 
 } // namespace tabo

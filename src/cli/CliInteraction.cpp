@@ -1,5 +1,7 @@
 #include "cli/CliInteraction.h"
 
+#include <QProcess>
+
 #include "cli/Console.h"
 
 namespace tabo::cli {
@@ -56,6 +58,13 @@ QString CliInteraction::openFile(const FileRequest &)
 QString CliInteraction::saveFile(const FileRequest &)
 {
     return m_panelPath;
+}
+
+bool CliInteraction::openWithDefaultApplication(const QString &path)
+{
+    if (!m_openFiles)
+        return true;
+    return QProcess::startDetached(QStringLiteral("xdg-open"), {path});
 }
 
 } // namespace tabo::cli

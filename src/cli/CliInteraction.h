@@ -30,6 +30,9 @@ public:
     void presentError(const Error &error) override;
     QString openFile(const FileRequest &request) override;
     QString saveFile(const FileRequest &request) override;
+    // xdg-open, unless opening was switched off (--no-open).
+    bool openWithDefaultApplication(const QString &path) override;
+    void setOpenFiles(bool open) { m_openFiles = open; }
 
     // The button that declines: "Cancel", a "Don't …" choice, else the last.
     static int decliningButton(const QStringList &buttons);
@@ -41,6 +44,7 @@ private:
     int m_messages = 0;
     QString m_panelPath;
     QHash<QString, bool> m_answers;
+    bool m_openFiles = true;
 };
 
 } // namespace tabo::cli

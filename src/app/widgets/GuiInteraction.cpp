@@ -1,5 +1,8 @@
 #include "GuiInteraction.h"
 
+#include <QDesktopServices>
+#include <QUrl>
+
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QList>
@@ -130,6 +133,11 @@ QString GuiInteraction::runFileDialog(const FileRequest &request, bool save)
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
     return dialog.selectedFiles().first();
+}
+
+bool GuiInteraction::openWithDefaultApplication(const QString &path)
+{
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 } // namespace tabo

@@ -22,6 +22,7 @@ public:
     void presentError(const Error &error) override;
     QString openFile(const FileRequest &request) override;
     QString saveFile(const FileRequest &request) override;
+    bool openWithDefaultApplication(const QString &path) override;
 
     // Answers the next alert or error box (the button index) without showing it.
     static void setNextAnswer(int answer);

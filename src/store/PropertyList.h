@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMetaType>
+#include <QString>
+#include <QVariant>
+
+namespace tabo::plist {
+
+// A property-list value is a QVariant holding one of: QString, qint64
+// (integer), double (real), bool, tabo::Date, QByteArray (data), QVariantList
+// (array), QVariantMap (dictionary) — or, inside keyed archives only, Uid.
+struct Uid
+{
+    quint64 value = 0;
+    friend bool operator==(const Uid &a, const Uid &b) { return a.value == b.value; }
+};
+
+enum class Format { Xml, Binary };
+
+// Encodes with libplist. Doubles and dates are written bit-exactly.
+QByteArray write(const QVariant &root, Format format, QString *error = nullptr);
+// Decodes XML or binary (detected from the data). Any malformed, truncated or
+// hostile input gives an invalid QVariant and a reason, never a crash or a
+// hang (nesting and sizes are bounded).
+QVariant read(const QByteArray &data, QString *error = nullptr);
+
+// Whole files; writing is atomic (the old file stays until the new one is
+// complete).
+bool writeFile(const QString &path, const QVariant &root, Format format, QString *error = nullptr);
+QVariant readFile(const QString &path, QString *error = nullptr);
+
+} // namespace tabo::plist
+
+Q_DECLARE_METATYPE(tabo::plist::Uid)
