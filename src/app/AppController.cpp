@@ -41,6 +41,7 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_backups(std::make_unique<BackupCommands>(*this))
     , m_accounting(std::make_unique<AccountingExport>(*this))
 {
+    setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });
 }
 
 AppController::~AppController() = default;
@@ -110,6 +111,8 @@ void AppController::openStore()
         return;
     }
 
+    if (m_storeURL.isEmpty()) // once per start; a restore running here handles its own files
+        BackupCommands::recoverInterruptedRestore(storeFilePath());
     m_storeURL = storeFilePath();
     auto store = std::make_unique<Store>(m_storeURL);
     if (const Error e = store->open()) {

@@ -41,6 +41,11 @@ public:
     // Replaces the open store by the store in the default folder.
     bool restoreAutomaticallyFromSandbox();
 
+    // Finishes or undoes a restore that was interrupted (a crash, a kill)
+    // before the store at `storePath` is opened: the restored file stays when
+    // it opens, otherwise the previous one comes back.
+    static void recoverInterruptedRestore(const QString &storePath);
+
 private:
     AppController &m_app;
 };

@@ -10,7 +10,9 @@ namespace tabo::KeyedArchive {
 // "$archiver" = "NSKeyedArchiver", "$top" = {"root": UID}, "$objects"),
 // with dictionaries, arrays, strings, integers, reals, booleans, dates and
 // data and their class entries, so files are exchangeable with that format.
-QByteArray archive(const QVariant &root);
+// Empty, with a reason, for values no property list can hold or nesting
+// deeper than 256 levels.
+QByteArray archive(const QVariant &root, QString *error = nullptr);
 
 // Reads archives written by us or by the real archiver (binary or XML). Values
 // of classes it does not know (URLs, UUIDs, …) are skipped: a dictionary

@@ -18,7 +18,19 @@ struct Uid
 
 enum class Format { Xml, Binary };
 
-// Encodes with libplist. Doubles and dates are written bit-exactly.
+// What a value is written as. Besides the types above this accepts their
+// usual Qt relatives (other integer widths, float, QStringList, QVariantHash,
+// QDateTime as a Date); Unsupported for anything else.
+enum class Kind { Unsupported, String, Integer, Real, Boolean, Date, Data, Array, Dictionary, Uid };
+Kind kindOf(const QVariant &value);
+// The value in the type of its kind (qint64, double, bool, QString,
+// tabo::Date, QByteArray, QVariantList, QVariantMap, Uid); invalid when
+// unsupported. Nested values are left as they are.
+QVariant canonical(const QVariant &value);
+
+// Reals are written bit-exactly in both formats, dates in the binary one. An
+// XML <date> holds whole seconds only (the format's convention): the fraction
+// is dropped there, so exact times belong in reals.
 QByteArray write(const QVariant &root, Format format, QString *error = nullptr);
 // Decodes XML or binary (detected from the data). Any malformed, truncated or
 // hostile input gives an invalid QVariant and a reason, never a crash or a

@@ -549,8 +549,86 @@ void Store::faultText(Record *r)
 
 void Store::loadFully(const QList<Record *> &records)
 {
+    if (records.isEmpty())
+        return;
+    // Whole records: their lines too, since every bulk reader walks them.
+    const EntityDesc &owner = records.first()->desc();
+    for (int rel = 0; rel < int(owner.relations.size()); ++rel)
+        if (owner.relations[rel].toMany)
+            prefetchToMany(records, rel);
+    if (owner.id != EntityId::Invoice)
+        return; // only documents are read in part
+    constexpr qsizetype kOneByOne = 64;
+    if (records.size() <= kOneByOne || !m_db) {
+        for (Record *r : records)
+            faultText(r);
+        return;
+    }
+    // Many records: one pass over the table beats a query per record.
+    const EntityState &st = *m_entities[int(EntityId::Invoice)];
+    const EntityDesc &d = entityDesc(EntityId::Invoice);
+    sqlite3_stmt *stmt = prepare(st.fullSelect);
+    if (!stmt)
+        return;
+    while (sqlite3_step(stmt) == SQLITE_ROW) {
+        Record *r = st.map.value(sqlite3_column_int64(stmt, 0));
+        if (!r || r->m_textLoaded)
+            continue;
+        for (int a = 0; a < int(d.attributes.size()); ++a) {
+            const AttributeDesc &ad = d.attributes[a];
+            if (ad.isText() && !((d.listTextMask >> ad.slot) & 1U) && !r->m_changed.test(a))
+                r->m_text[ad.slot] = textFromColumn(stmt, a + 1);
+        }
+        r->m_textLoaded = true;
+    }
+    sqlite3_reset(stmt);
     for (Record *r : records)
-        faultText(r);
+        faultText(r); // anything the pass did not meet
+}
+
+void Store::prefetchToMany(const QList<Record *> &owners, int rel)
+{
+    if (owners.size() <= 64 || !m_db) {
+        for (Record *o : owners)
+            o->toMany(rel);
+        return;
+    }
+    const RelationDesc &rd = owners.first()->desc().relations[rel];
+    const EntityDesc &target = entityDesc(rd.target);
+    const int inverse = target.relationIndex(rd.inverseName);
+    int fkSlot = 0;
+    for (int i = 0; i < inverse; ++i)
+        fkSlot += target.relations[i].toMany ? 0 : 1;
+    QHash<qint64, QList<Record *> *> pending;
+    for (Record *o : owners) {
+        if (o->m_inserted || (o->m_toMany && o->m_toMany[rel]))
+            continue;
+        if (!o->m_toMany)
+            o->m_toMany.reset(new std::unique_ptr<QList<Record *>>[o->desc().relations.size()]);
+        o->m_toMany[rel] = std::make_unique<QList<Record *>>();
+        pending.insert(o->m_id, o->m_toMany[rel].get());
+    }
+    const EntityState &st = *m_entities[int(rd.target)];
+    sqlite3_stmt *stmt = prepare(st.fullSelect + QStringLiteral(" WHERE %1 IS NOT NULL ORDER BY \"id\"").arg(schema::quoted(rd.inverseName)));
+    if (!stmt)
+        return;
+    while (sqlite3_step(stmt) == SQLITE_ROW) {
+        bool created = false;
+        Record *r = adopt(rd.target, sqlite3_column_int64(stmt, 0), &created);
+        if (created)
+            readRow(r, stmt, 1, false);
+        if (r->m_deleted)
+            continue;
+        if (QList<Record *> *list = pending.value(r->m_fk[fkSlot]))
+            list->append(r);
+    }
+    sqlite3_reset(stmt);
+    // Lines attached in memory but not saved yet.
+    for (Record *r : std::as_const(m_dirty))
+        if (r->m_entity == rd.target && !r->m_deleted)
+            if (QList<Record *> *list = pending.value(r->m_fk[fkSlot]))
+                if (!list->contains(r))
+                    list->append(r);
 }
 
 QList<Record *> *Store::loadToMany(const Record *owner, int rel)

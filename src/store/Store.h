@@ -53,8 +53,12 @@ public:
     // The last read failure (damaged file), cleared by the next successful open.
     Error lastError() const { return m_lastError; }
 
-    // Reads the remaining texts of many records in one pass (bulk readers).
+    // Reads the remaining texts of many documents (bulk readers): one query
+    // per record for a few, one pass over the table for many.
     void loadFully(const QList<Record *> &records);
+    // Reads the to-many relationship `rel` of many owners (of one entity) in
+    // one pass over the related table instead of a query per owner.
+    void prefetchToMany(const QList<Record *> &owners, int rel);
 
     sqlite3 *handle() const { return m_db; }
 

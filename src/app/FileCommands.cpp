@@ -1,0 +1,245 @@
+#include "app/FileCommands.h"
+
+#include "app/AppController.h"
+#include "app/Interaction.h"
+#include "domain/Record.h"
+#include "prefs/Preferences.h"
+#include "store/KeyedArchive.h"
+#include "store/ObjectDictionary.h"
+#include "store/PropertyList.h"
+#include "store/Store.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace tabo {
+
+namespace {
+
+using P = Preferences;
+namespace OD = ObjectDictionary;
+
+const QString kTaboDic = QStringLiteral("taboDic");
+const QString kDesignDic = QStringLiteral("designDic");
+const QString kDatabaseTitle = QStringLiteral("Export Tabo Database As XML");
+
+bool writeAtomically(const QString &path, const QByteArray &data, QString *error)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.commit()) {
+        if (error)
+            *error = QStringLiteral("The file “%1” could not be written: %2").arg(path, file.errorString());
+        return false;
+    }
+    return true;
+}
+
+bool writeArchive(const QString &path, const QVariantMap &root, QString *error)
+{
+    QString reason;
+    const QByteArray data = KeyedArchive::archive(root, &reason);
+    if (data.isEmpty()) {
+        if (error)
+            *error = QStringLiteral("The archive could not be built: %1").arg(reason);
+        return false;
+    }
+    return writeAtomically(path, data, error);
+}
+
+// Each record is its own top-level walk, so each carries its own copies of
+// whatever it shares with the others.
+QVariantList dictionaries(Store &store, const QList<Record *> &records)
+{
+    store.loadFully(records);
+    QVariantList list;
+    list.reserve(records.size());
+    for (const Record *r : records)
+        list.append(OD::toDictionary(*r));
+    return list;
+}
+
+// The dictionary stored under `key` in an archive, or an empty map with a
+// reason.
+QVariantMap archivedDictionary(const QByteArray &data, const QString &key, QString *error)
+{
+    QString reason;
+    const QVariant root = KeyedArchive::unarchive(data, &reason);
+    if (!root.isValid()) {
+        if (error)
+            *error = QStringLiteral("Not an archive: %1").arg(reason);
+        return {};
+    }
+    const QVariant value = root.toMap().value(key);
+    if (root.metaType() != QMetaType::fromType<QVariantMap>() || value.metaType() != QMetaType::fromType<QVariantMap>()
+        || value.toMap().isEmpty()) {
+        if (error)
+            *error = QStringLiteral("The archive holds no “%1”.").arg(key);
+        return {};
+    }
+    return value.toMap();
+}
+
+} // namespace
+
+bool FileCommands::exportInvoice(int exportFormat)
+{
+    const Record *invoice = m_app.currentInvoice();
+    if (!invoice || (exportFormat != 0 && exportFormat != 1))
+        return false;
+    Interaction::FileRequest request;
+    request.title = exportFormat == 0 ? QStringLiteral("Export As Tabo Document") : QStringLiteral("Export As XML Document");
+    request.extensions = {exportFormat == 0 ? QStringLiteral("tabo") : QStringLiteral("xml")};
+    // A slash cannot stand in a file name here; numbers such as "2026/17" are common.
+    request.suggestedName = QStringLiteral("%1 | %2 | %3")
+                                .arg(m_app.prefs().string(P::prefsName), invoice->text(Invoice::title),
+                                     invoice->text(Invoice::number))
+                                .replace(QLatin1Char('/'), QLatin1Char('-'));
+    request.canCreateFolders = true;
+    const QString path = m_app.ui().saveFile(request);
+    if (path.isEmpty())
+        return false;
+    return writeInvoiceFile(*invoice, exportFormat, path, nullptr);
+}
+
+bool FileCommands::writeInvoiceFile(const Record &invoice, int exportFormat, const QString &path, QString *error)
+{
+    const QVariantMap dictionary = OD::toDictionary(invoice);
+    if (exportFormat == 0)
+        return writeArchive(path, {{kTaboDic, dictionary}}, error);
+    if (exportFormat == 1)
+        return plist::writeFile(path, dictionary, plist::Format::Xml, error);
+    if (error)
+        *error = QStringLiteral("Unknown export format %1.").arg(exportFormat);
+    return false;
+}
+
+bool FileCommands::exportItems()
+{
+    Interaction::FileRequest request;
+    request.title = kDatabaseTitle;
+    request.extensions = {QStringLiteral("xml")};
+    request.canCreateFolders = true;
+    const QString path = m_app.ui().saveFile(request);
+    return !path.isEmpty() && writeItemsXml(true, path, nullptr);
+}
+
+bool FileCommands::exportTaboDataXML()
+{
+    Interaction::FileRequest request;
+    request.title = kDatabaseTitle;
+    request.extensions = {QStringLiteral("xml")};
+    request.suggestedName = QStringLiteral("Tabo Database");
+    request.canCreateFolders = true;
+    const QString path = m_app.ui().saveFile(request);
+    return !path.isEmpty() && writeItemsXml(false, path, nullptr);
+}
+
+bool FileCommands::exportAsInvoiceFile()
+{
+    m_app.saveContext();
+    Interaction::FileRequest request;
+    request.title = QStringLiteral("Export As Invoices Dump");
+    request.extensions = {QStringLiteral("invdump")};
+    request.suggestedName = QStringLiteral("Invoices Dump");
+    request.canCreateFolders = true;
+    const QString path = m_app.ui().saveFile(request);
+    return !path.isEmpty() && writeInvoiceDump(path, nullptr);
+}
+
+bool FileCommands::writeItemsXml(bool arrangedOnly, const QString &path, QString *error)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store) {
+        if (error)
+            *error = QStringLiteral("There is no database.");
+        return false;
+    }
+    const QList<Record *> &records = arrangedOnly ? m_app.documentList().arranged() : store->all(EntityId::Invoice);
+    return plist::writeFile(path, dictionaries(*store, records), plist::Format::Xml, error);
+}
+
+bool FileCommands::writeInvoiceDump(const QString &path, QString *error)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store) {
+        if (error)
+            *error = QStringLiteral("There is no database.");
+        return false;
+    }
+    const QVariantMap root = {
+        {QStringLiteral("invoices"), dictionaries(*store, store->all(EntityId::Invoice))},
+        {QStringLiteral("items"), dictionaries(*store, store->all(EntityId::RecentItem))},
+        {QStringLiteral("designs"), dictionaries(*store, store->all(EntityId::Design))},
+        {QStringLiteral("addresses"), dictionaries(*store, store->all(EntityId::Address))},
+        {QStringLiteral("shippings"), dictionaries(*store, store->all(EntityId::RecentShipping))},
+        {QStringLiteral("templates"), dictionaries(*store, store->all(EntityId::Template))},
+    };
+    return writeArchive(path, root, error);
+}
+
+Record *FileCommands::importInvoice()
+{
+    Interaction &ui = m_app.ui();
+    const int answer = ui.alert(
+        QStringLiteral("Warning!"),
+        QStringLiteral("The integrity of your data is your responsibility, and yours alone. Tabo is just a stupid App "
+                       "and by design it can't know or care about duplicate invoices, messed up numbers, or if you're "
+                       "having a bad hair day. So please, do yourself a favor and check what you are doing here. Do "
+                       "you still want to import the invoice?"),
+        {QStringLiteral("Import…"), QStringLiteral("Cancel")});
+    if (answer != 0)
+        return nullptr;
+    Interaction::FileRequest request;
+    request.title = QStringLiteral("Import Tabo Document");
+    request.extensions = {QStringLiteral("tabo")};
+    const QString path = ui.openFile(request);
+    if (path.isEmpty())
+        return nullptr;
+    Record *invoice = importInvoiceFile(path, nullptr);
+    if (!invoice && m_app.managedObjectContext())
+        ui.alert(QStringLiteral("Error!"),
+                 QStringLiteral("The file “%1” is not a Tabo document.").arg(QFileInfo(path).fileName()),
+                 {QStringLiteral("OK")});
+    return invoice;
+}
+
+Record *FileCommands::importInvoiceFile(const QString &path, QString *error)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store) {
+        if (error)
+            *error = QStringLiteral("There is no database.");
+        return nullptr;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = QStringLiteral("The file “%1” could not be read: %2").arg(path, file.errorString());
+        return nullptr;
+    }
+    QVariantMap dictionary = archivedDictionary(file.readAll(), kTaboDic, error);
+    if (dictionary.isEmpty())
+        return nullptr;
+    dictionary.insert(OD::kClassKey, QStringLiteral("Invoice"));
+    Record *invoice = OD::createManagedObjectFromDictionary(dictionary, *store);
+    m_app.documentCreated(invoice);
+    return invoice;
+}
+
+QByteArray FileCommands::designFileData(const Record &design)
+{
+    QVariantMap dictionary = OD::toDictionary(design);
+    dictionary.insert(OD::kClassKey, QStringLiteral("Design"));
+    return KeyedArchive::archive(QVariantMap{{kDesignDic, dictionary}});
+}
+
+QVariantMap FileCommands::readDesignFile(const QByteArray &data, QString *error)
+{
+    QVariantMap dictionary = archivedDictionary(data, kDesignDic, error);
+    if (!dictionary.isEmpty())
+        dictionary.insert(OD::kClassKey, QStringLiteral("Design"));
+    return dictionary;
+}
+
+} // namespace tabo
