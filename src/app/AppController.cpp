@@ -12,6 +12,7 @@
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
+#include "store/StoreFile.h"
 #include "templates/TemplateCommands.h"
 
 #include <QDebug>
@@ -112,7 +113,7 @@ void AppController::openStore()
     }
 
     if (m_storeURL.isEmpty()) // once per start; a restore running here handles its own files
-        BackupCommands::recoverInterruptedRestore(storeFilePath());
+        StoreFile::recoverInterruptedRestore(storeFilePath());
     m_storeURL = storeFilePath();
     auto store = std::make_unique<Store>(m_storeURL);
     if (const Error e = store->open()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+
 #include <QString>
 
 namespace tabo {
@@ -40,11 +41,6 @@ public:
     bool restoreFromBackup();
     // Replaces the open store by the store in the default folder.
     bool restoreAutomaticallyFromSandbox();
-
-    // Finishes or undoes a restore that was interrupted (a crash, a kill)
-    // before the store at `storePath` is opened: the restored file stays when
-    // it opens, otherwise the previous one comes back.
-    static void recoverInterruptedRestore(const QString &storePath);
 
 private:
     AppController &m_app;

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace tabo {
+
+class Store;
+
+// A working copy of a store file, made beside the store so that putting it in
+// place is one rename on the same file system, and the other file steps of a
+// restore. The file a restore replaces stays as "<store>.previous" until the
+// new one is open, so an interruption leaves the old or the new data.
+class StoreFile
+{
+public:
+    // Reserves the working file; path() is empty when none could be made.
+    explicit StoreFile(const QString &storePath);
+    ~StoreFile(); // removes the working file unless it was put in place
+    StoreFile(const StoreFile &) = delete;
+    StoreFile &operator=(const StoreFile &) = delete;
+
+    QString path() const { return m_path; }
+    bool copyFrom(const QString &source, QString *reason);
+    // Whether the copy is a complete, undamaged store of ours.
+    bool isUsable(QString *reason) const;
+    // Puts the checked copy in place of the store. The callbacks close and
+    // open the store the application uses; on failure the previous store is
+    // open again.
+    bool swapIn(const std::function<void()> &closeStore, const std::function<bool()> &reopenStore,
+                QString *reason);
+
+    // Finishes or undoes a restore that was interrupted (a crash, a kill)
+    // before the store at `storePath` is opened: the restored file stays when
+    // it opens, otherwise the previous one comes back.
+    static void recoverInterruptedRestore(const QString &storePath);
+    // Writes a consistent single-file copy of the open store to `target`.
+    static bool writeCopy(Store &store, const QString &target, QString *error);
+
+    // Test hook: with TABO_TEST_RESTORE_PAUSE_MS set, a restore waits that long
+    // between its file steps, so that a test can kill it in every window.
+    static void pauseForTest();
+
+private:
+    QString m_storePath;
+    QString m_path;
+    bool m_kept = false;
+};
+
+} // namespace tabo
