@@ -1,5 +1,7 @@
+#include "cli/AccountingExportCommand.h"
 #include "cli/AddItemCommand.h"
 #include "cli/AddressCommand.h"
+#include "cli/BackupCommand.h"
 #include "cli/CalcCommand.h"
 #include "cli/CatalogueCommand.h"
 #include "cli/Console.h"
@@ -7,10 +9,15 @@
 #include "cli/DeleteCommand.h"
 #include "cli/DeleteItemCommand.h"
 #include "cli/DiscountCommand.h"
+#include "cli/DumpCommand.h"
 #include "cli/DuplicateCommand.h"
+#include "cli/ExportCommand.h"
+#include "cli/ExportXmlCommand.h"
+#include "cli/ImportCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/NewCommand.h"
 #include "cli/PrefsCommand.h"
+#include "cli/RestoreCommand.h"
 #include "cli/Session.h"
 #include "cli/SetCommand.h"
 #include "cli/ShippingCommand.h"
@@ -47,7 +54,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("tabo-cli"));
     // The core's diagnostics would break the one-line-per-failure contract on
     // stderr; QT_LOGGING_RULES still turns them back on.
-    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false\n*.warning=false"));
 
     Session session;
     std::vector<std::unique_ptr<Command>> commands;
@@ -67,6 +74,13 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<CalcCommand>(session));
     commands.push_back(std::make_unique<ListCommand>(session));
     commands.push_back(std::make_unique<ShowCommand>(session));
+    commands.push_back(std::make_unique<ExportCommand>(session));
+    commands.push_back(std::make_unique<ImportCommand>(session));
+    commands.push_back(std::make_unique<ExportXmlCommand>(session));
+    commands.push_back(std::make_unique<DumpCommand>(session));
+    commands.push_back(std::make_unique<BackupCommand>(session));
+    commands.push_back(std::make_unique<RestoreCommand>(session));
+    commands.push_back(std::make_unique<AccountingExportCommand>(session));
 
     QStringList args = QCoreApplication::arguments().mid(1);
     if (args.isEmpty()) {

@@ -249,6 +249,74 @@ run 0 template list
 expect "templates left" "$OUT" ""
 run 1 template delete Monthly
 
+# --- document files, backups, accounting export --------------------------------
+# pcheck FILE PYTHON_CONDITION: evaluated on the property list in FILE, bound to d.
+pcheck() {
+    if python3 -c "import plistlib,sys; d=plistlib.load(open(sys.argv[1],'rb')); sys.exit(0 if ($2) else 1)" "$1" 2>/dev/null; then
+        pass=$((pass + 1))
+    else
+        bad "$2 on $1"
+    fi
+}
+# jval PYTHON_EXPRESSION: printed from the JSON in $OUT, bound to d.
+jval() { printf '%s' "$OUT" | python3 -c "import json,sys; d=json.load(sys.stdin); print($1)"; }
+KEYS='[d[k] for k in ("kind", "status", "number", "customerName", "amount", "date", "shippingAmount")] + [(i["title"], i["amount"]) for i in d["items"]]'
+
+run 0 show "$E" --json; WANT=$(jval "$KEYS")
+run 0 export "$E" --tabo "$T/e.tabo"
+run 0 export "$E" --xml "$T/e.xml"
+pcheck "$T/e.xml" 'd["class"] == "Invoice" and d["customerName"] == "Erika Muster" and "dAtEaTtr:date" in d'
+run 2 export "$E"
+run 1 import "$T/e.tabo" # the warning needs consent
+grep -q "^Warning!: The integrity of your data is your responsibility" "$T/err" || bad "import warns first"
+XDG_DATA_HOME=$T/fresh run 1 import "$T/e.xml" --yes
+XDG_DATA_HOME=$T/fresh run 0 import "$T/e.tabo" --yes
+XDG_DATA_HOME=$T/fresh run 0 show "$OUT" --json
+expect "imported document" "$(jval "$KEYS")" "$WANT"
+
+run 0 list --json; ALL=$(jval 'len(d["documents"])')
+run 0 list --filter 3 --json; PAID=$(jval 'len(d["documents"])')
+run 0 export-xml "$T/all.xml"
+pcheck "$T/all.xml" "len(d) == $ALL"
+run 0 export-xml "$T/paid.xml" --filter 3
+pcheck "$T/paid.xml" "len(d) == $PAID > 0 and all(e['status'] == 3 for e in d)"
+run 0 dump "$T/all.invdump"
+pcheck "$T/all.invdump" 'sorted(d["$objects"][u.data] for u in d["$objects"][d["$top"]["root"].data]["NS.keys"]) == ["addresses", "designs", "invoices", "items", "shippings", "templates"]'
+
+# A complete backup comes back whole; a file that is not one changes nothing.
+mkdir -p "$T/bk"
+run 0 list --json; BEFORE=$OUT
+run 0 backup database "$T/bk/Tabo 2 Database.mbdb"
+expect "backup file" "$OUT" "$T/bk/Tabo 2 Database.tabo2db"
+[ -s "$OUT" ] && [ ! -e "$T/bk/Tabo 2 Database.mbdb" ] && pass=$((pass + 1)) || bad "only the .tabo2db stays"
+run 0 new invoice
+run 1 restore database "$T/bk/Tabo 2 Database.tabo2db"
+run 0 restore database "$T/bk/Tabo 2 Database.tabo2db" --yes
+run 0 list --json
+expect "restored database" "$OUT" "$BEFORE"
+printf 'not a database\n' >"$T/bk/fake.tabo2db"
+run 1 restore database "$T/bk/fake.tabo2db" --yes
+run 1 restore invoices "$T/bk/fake.tabo2db" --yes
+run 0 list --json
+expect "store after refused restores" "$OUT" "$BEFORE"
+run 0 backup invoices "$T/bk/all.taboinvoices"
+run 0 restore invoices "$T/bk/all.taboinvoices" --yes
+run 0 list --json
+expect "documents after their restore" "$(jval 'len(d["documents"])')" "$ALL"
+run 2 restore auto extra
+
+run 0 list --json; SENT=$(jval 'sum(1 for x in d["documents"] if x["kind"] == 1 and x["status"] != 0)')
+run 0 accounting-export vorlux --no-open --kind 0 --items-kind 0
+expect "exported invoices" "$(sed -n 2p <<<"$OUT")" "$SENT"
+pcheck "$(head -n 1 <<<"$OUT")" "len(d) == $SENT and all(len(e['items']) == 1 and 'title' in e['items'][0] for e in d)"
+run 0 accounting-export quandrella --no-open --kind 1 --from 2000-01-01 --to 2100-01-01
+[[ $(head -n 1 <<<"$OUT") == *.quandrtabo ]] && pass=$((pass + 1)) || bad "quandrella file: $OUT"
+pcheck "$(head -n 1 <<<"$OUT")" "len(d) == $PAID"
+run 0 accounting-export vorlux --no-open --kind 0 --from 2100-01-01
+pcheck "$(head -n 1 <<<"$OUT")" 'd == []'
+run 2 accounting-export vorlux --kind 3
+run 2 accounting-export vorlux --to soon
+
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
 printf 'not a database, just text\n' >"$T/other/data/Tabo/Tabo.mbdb"

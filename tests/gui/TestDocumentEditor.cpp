@@ -270,6 +270,16 @@ void TestDocumentEditor::documentCommandsFollowTheSelection()
     QVERIFY(!actions->remove()->isEnabled());
     QTest::keyClick(view, Qt::Key_Delete);
     QCOMPARE(list->rowCount(), 1);
+
+    // A date changed outside the editor is shown, never written back stale
+    // when the selection moves on.
+    Record *first = list->recordAt(0);
+    f.app.setCurrentInvoice(first);
+    const Date moved = first->date(Invoice::date).addDays(-40);
+    first->setDate(Invoice::date, moved);
+    f.app.documentChanged(first);
+    f.window->newInvoiceAction()->trigger();
+    QCOMPARE(first->date(Invoice::date), moved);
 }
 
 void TestDocumentEditor::addressFromContactsAndRecents()

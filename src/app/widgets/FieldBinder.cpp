@@ -17,6 +17,8 @@ namespace tabo {
 
 namespace {
 
+constexpr const char *kPendingDate = "taboPendingDate";
+
 QDate localDate(const Date &date)
 {
     return date.isValid() ? date.toDateTime().toLocalTime().date() : QDate();
@@ -86,6 +88,12 @@ void FieldBinder::bindDate(QDateEdit *edit, int attr)
     // A day picked in the calendar is finished at once.
     connect(edit, &QDateEdit::editingFinished, this, [this, edit] { commit(*bindingOf(edit)); });
     connect(edit->calendarWidget(), &QCalendarWidget::clicked, this, [this, edit] { commit(*bindingOf(edit)); });
+    // Only what the person changed is pending: a date that differs because the
+    // record changed elsewhere must be refreshed, not written back.
+    connect(edit, &QDateEdit::dateChanged, this, [this, edit] {
+        if (!m_loading)
+            edit->setProperty(kPendingDate, true);
+    });
 }
 
 void FieldBinder::bindCheck(QCheckBox *box, int attr)
@@ -133,6 +141,7 @@ void FieldBinder::show(const Binding &b, bool force)
         if (!day.isValid())
             day = localDate(now());
         static_cast<QDateEdit *>(b.widget)->setDate(day);
+        b.widget->setProperty(kPendingDate, false);
         break;
     }
     case Kind::Check:
@@ -150,7 +159,8 @@ bool FieldBinder::isPending(const Binding &b) const
     case Kind::PlainText:
         return static_cast<PlainTextField *>(b.widget)->isModified();
     case Kind::DateField:
-        return m_doc && static_cast<QDateEdit *>(b.widget)->date() != localDate(m_doc->date(b.attr));
+        return m_doc && b.widget->property(kPendingDate).toBool()
+               && static_cast<QDateEdit *>(b.widget)->date() != localDate(m_doc->date(b.attr));
     case Kind::Check:
         break;
     }
@@ -203,6 +213,7 @@ void FieldBinder::commit(const Binding &b)
     }
     case Kind::DateField: {
         const QDate day = static_cast<QDateEdit *>(b.widget)->date();
+        b.widget->setProperty(kPendingDate, false);
         if (day == localDate(m_doc->date(b.attr)))
             return;
         value = QVariant::fromValue(withDay(m_doc->date(b.attr), day));

@@ -3,6 +3,7 @@
 #include "DocumentActions.h"
 #include "DocumentEditor.h"
 #include "DocumentListPane.h"
+#include "FileMenu.h"
 #include "FilterButton.h"
 #include "SummaryBar.h"
 #include "app/AppController.h"
@@ -85,8 +86,8 @@ void MainWindow::createActions()
     m_actions = new DocumentActions(m_app, m_editor, this);
     m_actions->attachDeleteKey(m_list->view());
 
-    QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(m_quit);
+    m_fileMenu = new FileMenu(m_app, m_editor, this);
+    m_fileMenu->populate(menuBar()->addMenu(tr("&File")), m_quit);
     QMenu *documents = menuBar()->addMenu(tr("&Documents"));
     documents->addAction(m_newInvoice);
     documents->addAction(m_newQuote);

@@ -10,6 +10,7 @@ class AppController;
 class DocumentActions;
 class DocumentEditor;
 class DocumentListPane;
+class FileMenu;
 class FilterButton;
 class SummaryBar;
 
@@ -27,6 +28,7 @@ public:
     DocumentListPane *documentList() const { return m_list; }
     DocumentEditor *editor() const { return m_editor; }
     DocumentActions *documentActions() const { return m_actions; }
+    FileMenu *fileMenu() const { return m_fileMenu; }
     FilterButton *filterButton() const { return m_filterButton; }
     QAction *newInvoiceAction() const { return m_newInvoice; }
     QAction *newQuoteAction() const { return m_newQuote; }
@@ -49,6 +51,7 @@ private:
     SummaryBar *m_summary = nullptr;
     DocumentEditor *m_editor = nullptr;
     DocumentActions *m_actions = nullptr;
+    FileMenu *m_fileMenu = nullptr;
     FilterButton *m_filterButton = nullptr;
     QAction *m_newInvoice = nullptr;
     QAction *m_newQuote = nullptr;

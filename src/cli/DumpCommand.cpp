@@ -1,0 +1,33 @@
+#include "cli/DumpCommand.h"
+
+#include "app/AppController.h"
+#include "app/FileCommands.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+DumpCommand::DumpCommand(Session &session)
+    : Command(session, QStringLiteral("dump"), QStringLiteral("FILE"),
+              QStringLiteral("Write documents, catalogue, designs, addresses, shipping lines and templates to an "
+                             "invoices dump (a keyed archive; nothing reads it back)."))
+{
+}
+
+int DumpCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    int code = kExitOk;
+    if (!parse(parser, args, 1, 1, &code))
+        return code;
+    if (!m_session.store())
+        return kExitFailure;
+    QString error;
+    if (!m_session.controller().files().writeInvoiceDump(parser.positionalArguments().constFirst(), &error))
+        return failure(error);
+    return kExitOk;
+}
+
+} // namespace tabo::cli

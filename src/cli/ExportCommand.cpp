@@ -1,0 +1,43 @@
+#include "cli/ExportCommand.h"
+
+#include "app/AppController.h"
+#include "app/FileCommands.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+ExportCommand::ExportCommand(Session &session)
+    : Command(session, QStringLiteral("export"), QStringLiteral("ID --tabo FILE | --xml FILE"),
+              QStringLiteral("Write a document as a Tabo document (the form import reads) or as an XML property "
+                             "list."))
+{
+}
+
+int ExportCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption tabo(QStringLiteral("tabo"), QStringLiteral("Tabo document to write."),
+                                  QStringLiteral("FILE"));
+    const QCommandLineOption xml(QStringLiteral("xml"), QStringLiteral("XML file to write."), QStringLiteral("FILE"));
+    parser.addOptions({tabo, xml});
+    int code = kExitOk;
+    if (!parse(parser, args, 1, 1, &code))
+        return code;
+    if (parser.isSet(tabo) == parser.isSet(xml))
+        return usageError(QStringLiteral("Give one of --tabo and --xml."));
+    const Record *doc = m_session.document(parser.positionalArguments().constFirst());
+    if (!doc)
+        return kExitFailure;
+    // The values of the `exportFormat` preference.
+    const int format = parser.isSet(tabo) ? 0 : 1;
+    QString error;
+    if (!m_session.controller().files().writeInvoiceFile(*doc, format, parser.value(parser.isSet(tabo) ? tabo : xml),
+                                                         &error))
+        return failure(error);
+    return kExitOk;
+}
+
+} // namespace tabo::cli

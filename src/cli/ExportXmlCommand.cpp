@@ -1,0 +1,44 @@
+#include "cli/ExportXmlCommand.h"
+
+#include "app/AppController.h"
+#include "app/FileCommands.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+ExportXmlCommand::ExportXmlCommand(Session &session)
+    : Command(session, QStringLiteral("export-xml"), QStringLiteral("FILE [--filter TAG]"),
+              QStringLiteral("Write every document, or those the list shows under a filter tag (as in list), "
+                             "to an XML property list."))
+{
+}
+
+int ExportXmlCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption filter(QStringLiteral("filter"), QStringLiteral("Filter tag."), QStringLiteral("TAG"));
+    parser.addOption(filter);
+    int code = kExitOk;
+    if (!parse(parser, args, 1, 1, &code))
+        return code;
+    bool ok = true;
+    const unsigned tag = parser.isSet(filter) ? parser.value(filter).toUInt(&ok) : 0;
+    if (!ok)
+        return usageError(QStringLiteral("“%1” is not a filter tag.").arg(parser.value(filter)));
+    if (!m_session.store())
+        return kExitFailure;
+    AppController &app = m_session.controller();
+    if (parser.isSet(filter)) {
+        app.setFilterTag(tag);
+        app.setFilterPredicate();
+    }
+    QString error;
+    if (!app.files().writeItemsXml(parser.isSet(filter), parser.positionalArguments().constFirst(), &error))
+        return failure(error);
+    return kExitOk;
+}
+
+} // namespace tabo::cli

@@ -1,0 +1,141 @@
+#include "AccountingExportSheet.h"
+#include "FileMenu.h"
+#include "GuiInteraction.h"
+#include "MainWindow.h"
+#include "TestSupport.h"
+
+#include "app/AccountingExport.h"
+#include "app/AppController.h"
+#include "app/FileCommands.h"
+#include "domain/Record.h"
+#include "prefs/Preferences.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QFileInfo>
+#include <QLabel>
+#include <QtTest>
+
+#include <memory>
+
+using namespace tabo;
+
+namespace {
+
+struct Fixture
+{
+    test::TempHome home;
+    Preferences prefs { home.configFile() };
+    GuiInteraction ui;
+    AppController app { prefs, ui };
+    std::unique_ptr<MainWindow> window;
+
+    Fixture()
+    {
+        window = std::make_unique<MainWindow>(app);
+        app.awakeFromNib();
+        app.applicationDidFinishLaunching();
+    }
+
+    // Set behind the editor's back: it must not hold the document meanwhile.
+    Record *invoice(const Date &date, int status)
+    {
+        Record *doc = app.addInvoice();
+        app.setCurrentInvoice(nullptr);
+        doc->setDate(Invoice::date, date);
+        doc->setDate(Invoice::due, date.addDays(14));
+        doc->setInt(Invoice::status, status);
+        app.documentChanged(doc);
+        return doc;
+    }
+};
+
+} // namespace
+
+class TestFileMenu : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
+    void accountingSheetCountFollowsControls();
+    void exportedDocumentImportsAgain();
+};
+
+void TestFileMenu::accountingSheetCountFollowsControls()
+{
+    Fixture f;
+    f.invoice(test::utc(2024, 1, 10), 3);
+    f.invoice(test::utc(2024, 2, 10), 2);
+    f.invoice(test::utc(2024, 3, 10), 0);
+    Record *quote = f.app.addQuote();
+    f.app.setCurrentInvoice(nullptr);
+    quote->setDate(Invoice::date, test::utc(2024, 2, 12));
+    quote->setInt(Invoice::status, 3);
+    f.app.documentChanged(quote);
+    f.prefs.setInteger(Preferences::prefsVorluxExportKind, 0);
+
+    FileMenu *menu = f.window->fileMenu();
+    menu->sendToVorlux()->trigger();
+    AccountingExportSheet *sheet = menu->accountingSheet();
+    QVERIFY(sheet->isVisible());
+    QCOMPARE(sheet->findChild<QLabel *>(QStringLiteral("sheetLabel"))->text(), QStringLiteral("Send Invoices To Vorlux"));
+    // The range covers every invoice shown; created ones and quotes stay out.
+    QCOMPARE(sheet->beginDateEdit()->date(), QDate(2024, 1, 10));
+    QCOMPARE(sheet->endDateEdit()->date(), QDate(2024, 3, 10));
+    QCOMPARE(sheet->countLabel()->text(), QStringLiteral("2 invoices will be sent."));
+
+    sheet->kindCombo()->setCurrentIndex(1);
+    QCOMPARE(f.prefs.integer(Preferences::prefsVorluxExportKind), 1);
+    QCOMPARE(sheet->countLabel()->text(), QStringLiteral("1 invoice will be sent."));
+    QCOMPARE(f.app.accounting().vorluxArray().first()->integer(Invoice::status), 3);
+    sheet->kindCombo()->setCurrentIndex(0);
+    sheet->beginDateEdit()->setDate(QDate(2024, 2, 1));
+    QCOMPARE(sheet->countLabel()->text(), QStringLiteral("1 invoice will be sent."));
+    sheet->endDateEdit()->setDate(QDate(2024, 1, 31));
+    QCOMPARE(sheet->countLabel()->text(), QStringLiteral("0 invoices will be sent."));
+    sheet->itemsKindCombo()->setCurrentIndex(1);
+    QCOMPARE(f.prefs.integer(Preferences::prefsVorluxExportItemsKind), 1);
+    sheet->reject();
+    QVERIFY(!sheet->isVisible());
+
+    // Opening again starts from the shown invoices, for the other program.
+    menu->sendToQuandrella()->trigger();
+    QCOMPARE(sheet->findChild<QLabel *>(QStringLiteral("sheetLabel"))->text(),
+        QStringLiteral("Send Invoices To quandrella"));
+    QCOMPARE(sheet->countLabel()->text(), QStringLiteral("2 invoices will be sent."));
+    QCOMPARE(sheet->itemsKindCombo()->currentIndex(), 1);
+    sheet->reject();
+}
+
+void TestFileMenu::exportedDocumentImportsAgain()
+{
+    Fixture f;
+    QAction *exportAction = f.window->fileMenu()->exportDocument();
+    Record *doc = f.invoice(test::utc(2024, 5, 2), 1);
+    doc->setText(Invoice::customerName, QStringLiteral("Atelier Nord"));
+    f.app.documentChanged(doc);
+    QVERIFY(!exportAction->isEnabled());
+    f.app.setCurrentInvoice(doc);
+    QVERIFY(exportAction->isEnabled());
+    QCOMPARE(exportAction->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_E));
+
+    f.prefs.setInteger(Preferences::exportFormat, 0);
+    const QString path = f.home.path() + QStringLiteral("/one.tabo");
+    GuiInteraction::setNextFileName(path);
+    exportAction->trigger();
+    QVERIFY(QFileInfo(path).isFile());
+
+    QString error;
+    Record *copy = f.app.files().importInvoiceFile(path, &error);
+    QVERIFY2(copy, qPrintable(error));
+    QVERIFY(copy != doc);
+    QCOMPARE(copy->text(Invoice::customerName), QStringLiteral("Atelier Nord"));
+    QCOMPARE(copy->text(Invoice::number), doc->text(Invoice::number));
+    QCOMPARE(copy->date(Invoice::date), doc->date(Invoice::date));
+    QCOMPARE(f.app.documentList().all().size(), 2);
+}
+
+QTEST_MAIN(TestFileMenu)
+#include "TestFileMenu.moc"
