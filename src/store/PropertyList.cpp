@@ -514,7 +514,8 @@ private:
 QByteArray escaped(const QString &text)
 {
     QByteArray out = text.toUtf8();
-    out.replace('&', "&amp;").replace('<', "&lt;").replace('>', "&gt;");
+    // A raw CR would come back as LF from XML readers that normalise line ends.
+    out.replace('&', "&amp;").replace('<', "&lt;").replace('>', "&gt;").replace('\r', "&#13;");
     return out;
 }
 
