@@ -17,12 +17,8 @@ using P = Preferences;
 
 namespace {
 
-struct Fixture
+struct Fixture : test::ControllerFixture
 {
-    test::TempHome home;
-    test::FakeInteraction ui;
-    Preferences prefs{home.configFile()};
-    AppController app{prefs, ui};
     AccountingExport &exp = app.accounting();
 
     Record *document(const QString &number, int kind, int status, Date date)

@@ -18,12 +18,8 @@ using P = Preferences;
 
 namespace {
 
-struct Fixture
+struct Fixture : test::ControllerFixture
 {
-    test::TempHome home;
-    test::FakeInteraction ui;
-    Preferences prefs{home.configFile()};
-    AppController app{prefs, ui};
 };
 
 } // namespace

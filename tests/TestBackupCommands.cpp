@@ -73,12 +73,8 @@ QStringList leftovers(const QString &folder)
     return names;
 }
 
-struct Fixture
+struct Fixture : test::ControllerFixture
 {
-    test::TempHome home;
-    test::FakeInteraction ui;
-    Preferences prefs{home.configFile()};
-    AppController app{prefs, ui};
     BackupCommands &backups = app.backups();
     QString error;
 };

@@ -20,12 +20,8 @@ namespace OD = ObjectDictionary;
 
 namespace {
 
-struct Fixture
+struct Fixture : test::ControllerFixture
 {
-    test::TempHome home;
-    test::FakeInteraction ui;
-    Preferences prefs{home.configFile()};
-    AppController app{prefs, ui};
     FileCommands &files = app.files();
     Store &store = *app.managedObjectContext();
 

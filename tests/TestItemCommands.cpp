@@ -13,12 +13,8 @@ using P = Preferences;
 
 namespace {
 
-struct Fixture
+struct Fixture : test::ControllerFixture
 {
-    test::TempHome home;
-    test::FakeInteraction ui;
-    Preferences prefs{home.configFile()};
-    AppController app{prefs, ui};
     ItemCommands &items = app.items();
     Record *doc = nullptr;
     QString error;

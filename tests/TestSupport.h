@@ -1,6 +1,8 @@
 #pragma once
 
+#include "app/AppController.h"
 #include "app/Interaction.h"
+#include "prefs/Preferences.h"
 #include "domain/Clock.h"
 
 #include <QList>
@@ -54,6 +56,16 @@ public:
 
     QString lastAlertTitle() const { return alerts.isEmpty() ? QString() : alerts.last().title; }
     QString lastAlertText() const { return alerts.isEmpty() ? QString() : alerts.last().text; }
+};
+
+// A controller on a fresh temporary home with scripted answers: the common
+// ground of the command tests.
+struct ControllerFixture
+{
+    TempHome home;
+    FakeInteraction ui;
+    Preferences prefs{home.configFile()};
+    AppController app{prefs, ui};
 };
 
 // Seconds since 2001-01-01 UTC for a UTC calendar time, for readable fixtures.

@@ -13,13 +13,9 @@ using P = Preferences;
 
 namespace {
 
-struct Fixture
+struct Fixture : test::ControllerFixture
 {
     FixedClock clock{test::utc(2026, 3, 5, 9)};
-    test::TempHome home;
-    test::FakeInteraction ui;
-    Preferences prefs{home.configFile()};
-    AppController app{prefs, ui};
     TemplateCommands &templates = app.templates();
 
     Fixture() { Clock::setInstance(&clock); }

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace tabo::plist::detail {
+
+inline constexpr int kMaxDepth = 256;
+
+inline void setError(QString *error, const QString &text)
+{
+    if (error)
+        *error = text;
+}
+
+inline QString tooDeep()
+{
+    return QStringLiteral("nested deeper than %1 levels").arg(kMaxDepth);
+}
+
+} // namespace tabo::plist::detail
