@@ -109,6 +109,17 @@ bool Command::selectDocumentWithPairs(const QStringList &args, const QStringList
     return true;
 }
 
+bool Command::parseConfirmed(QCommandLineParser &parser, const QStringList &args, int minPositional,
+                             int maxPositional, int *exitCode) const
+{
+    const QCommandLineOption yes = yesOption();
+    parser.addOption(yes);
+    if (!parse(parser, args, minPositional, maxPositional, exitCode))
+        return false;
+    m_session.ui().setConfirm(parser.isSet(yes));
+    return true;
+}
+
 int Command::popoverResult() const
 {
     return m_session.ui().errorPresented() ? kExitFailure : kExitOk;

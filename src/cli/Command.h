@@ -48,6 +48,10 @@ protected:
     bool splitKeyValues(const QStringList &words, const QStringList &keys, KeyValues *out, int *exitCode) const;
     // --yes: confirm the questions the command asks.
     static QCommandLineOption yesOption();
+    // parse() with --yes added (after any options already on the parser);
+    // the answer goes to the command-line interaction.
+    bool parseConfirmed(QCommandLineParser &parser, const QStringList &args, int minPositional, int maxPositional,
+                        int *exitCode) const;
 
     // "ID KEY=VALUE...": selects the document, starts from the popover's
     // current fields, applies each pair and confirms the popover.

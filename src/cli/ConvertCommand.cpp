@@ -20,12 +20,9 @@ ConvertCommand::ConvertCommand(Session &session)
 int ConvertCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption yes = yesOption();
-    parser.addOption(yes);
     int code = kExitOk;
-    if (!parse(parser, args, 1, 1, &code))
+    if (!parseConfirmed(parser, args, 1, 1, &code))
         return code;
-    m_session.ui().setConfirm(parser.isSet(yes));
     if (!m_session.select(parser.positionalArguments().constFirst()))
         return kExitFailure;
     return m_session.controller().documents().convertQuoteToInvoice() ? kExitOk : kExitFailure;

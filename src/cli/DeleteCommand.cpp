@@ -20,15 +20,13 @@ DeleteCommand::DeleteCommand(Session &session)
 int DeleteCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption yes = yesOption();
     const QCommandLineOption adjust(QStringLiteral("adjust-counter"),
                                     QStringLiteral("Answer “Adjust Counter” after the deletion."));
-    parser.addOptions({yes, adjust});
+    parser.addOption(adjust);
     int code = kExitOk;
-    if (!parse(parser, args, 1, 1, &code))
+    if (!parseConfirmed(parser, args, 1, 1, &code))
         return code;
     CliInteraction &ui = m_session.ui();
-    ui.setConfirm(parser.isSet(yes));
     ui.setAnswer(QStringLiteral("Adjust Counter"), parser.isSet(adjust));
     if (!m_session.select(parser.positionalArguments().constFirst()))
         return kExitFailure;

@@ -20,17 +20,14 @@ DeleteItemCommand::DeleteItemCommand(Session &session)
 int DeleteItemCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption yes = yesOption();
-    parser.addOption(yes);
     int code = kExitOk;
-    if (!parse(parser, args, 2, 2, &code))
+    if (!parseConfirmed(parser, args, 2, 2, &code))
         return code;
     const QStringList pos = parser.positionalArguments();
     bool ok = false;
     const int n = pos.at(1).toInt(&ok);
     if (!ok || n < 1)
         return usageError(QStringLiteral("“%1” is not a line number.").arg(pos.at(1)));
-    m_session.ui().setConfirm(parser.isSet(yes));
     Record *doc = m_session.select(pos.at(0));
     if (!doc)
         return kExitFailure;

@@ -21,10 +21,8 @@ ImportCommand::ImportCommand(Session &session)
 int ImportCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption yes = yesOption();
-    parser.addOption(yes);
     int code = kExitOk;
-    if (!parse(parser, args, 1, 1, &code))
+    if (!parseConfirmed(parser, args, 1, 1, &code))
         return code;
     const QString path = parser.positionalArguments().constFirst();
     if (!QFileInfo(path).isFile())
@@ -34,7 +32,6 @@ int ImportCommand::execute(const QStringList &args)
     // The application's own command: its warning, then the file as the
     // open panel's answer.
     CliInteraction &ui = m_session.ui();
-    ui.setConfirm(parser.isSet(yes));
     ui.setPanelPath(path);
     const Record *doc = m_session.controller().files().importInvoice();
     if (!doc) {

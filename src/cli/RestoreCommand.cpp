@@ -19,10 +19,8 @@ RestoreCommand::RestoreCommand(Session &session)
 int RestoreCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption yes = yesOption();
-    parser.addOption(yes);
     int code = kExitOk;
-    if (!parse(parser, args, 1, 2, &code))
+    if (!parseConfirmed(parser, args, 1, 2, &code))
         return code;
     const QStringList pos = parser.positionalArguments();
     const QString &what = pos.constFirst();
@@ -40,7 +38,6 @@ int RestoreCommand::execute(const QStringList &args)
                                   : QStringLiteral("The automatic backup has its own place."));
 
     CliInteraction &ui = m_session.ui();
-    ui.setConfirm(parser.isSet(yes));
     if (!m_session.store())
         return kExitFailure;
     if (!restore)

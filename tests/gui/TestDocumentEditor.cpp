@@ -13,6 +13,7 @@
 #include "MainWindow.h"
 #include "PlainTextField.h"
 #include "TestSupport.h"
+#include "WindowFixture.h"
 
 #include "app/AppController.h"
 #include "domain/Record.h"
@@ -38,13 +39,8 @@ using namespace tabo;
 
 namespace {
 
-struct Fixture
+struct Fixture : test::WindowFixture
 {
-    test::TempHome home;
-    Preferences prefs { home.configFile() };
-    GuiInteraction ui;
-    AppController app { prefs, ui };
-    std::unique_ptr<MainWindow> window;
 
     Fixture()
     {

@@ -3,6 +3,7 @@
 #include "GuiInteraction.h"
 #include "MainWindow.h"
 #include "TestSupport.h"
+#include "WindowFixture.h"
 
 #include "app/AccountingExport.h"
 #include "app/AppController.h"
@@ -23,13 +24,8 @@ using namespace tabo;
 
 namespace {
 
-struct Fixture
+struct Fixture : test::WindowFixture
 {
-    test::TempHome home;
-    Preferences prefs { home.configFile() };
-    GuiInteraction ui;
-    AppController app { prefs, ui };
-    std::unique_ptr<MainWindow> window;
 
     Fixture()
     {

@@ -6,6 +6,7 @@
 #include "GuiInteraction.h"
 #include "MainWindow.h"
 #include "TestSupport.h"
+#include "WindowFixture.h"
 
 #include "app/AppController.h"
 #include "domain/Record.h"
@@ -70,13 +71,8 @@ private:
     QTimer m_timer;
 };
 
-struct Fixture
+struct Fixture : test::WindowFixture
 {
-    test::TempHome home;
-    Preferences prefs { home.configFile() };
-    GuiInteraction ui;
-    AppController app { prefs, ui };
-    std::unique_ptr<MainWindow> window;
 
     void start()
     {

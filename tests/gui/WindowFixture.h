@@ -1,0 +1,25 @@
+#pragma once
+
+#include "GuiInteraction.h"
+#include "MainWindow.h"
+#include "TestSupport.h"
+
+#include "app/AppController.h"
+#include "prefs/Preferences.h"
+
+#include <memory>
+
+namespace tabo::test {
+
+// A controller with real dialogs on a fresh temporary home; the window is
+// built by each test when its preferences are set.
+struct WindowFixture
+{
+    TempHome home;
+    Preferences prefs{home.configFile()};
+    GuiInteraction ui;
+    AppController app{prefs, ui};
+    std::unique_ptr<MainWindow> window;
+};
+
+} // namespace tabo::test
