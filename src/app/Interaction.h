@@ -7,6 +7,16 @@
 
 namespace tabo {
 
+// What the print dialog settles: the job goes to `printer` (empty: the
+// system's default) with CUPS options such as "sides=two-sided-long-edge".
+struct PrintRequest
+{
+    QString jobTitle;
+    QString printer;
+    int copies = 1;
+    QStringList options; // "key=value" for lp -o
+};
+
 // Everything a command needs from the person goes through here. The GUI
 // answers with real dialogs, the command line with its options and flags, the
 // tests with a scripted fake; so every command runs the same way everywhere.
@@ -38,6 +48,10 @@ public:
     // Hands a file to the program the desktop associates with it. False when
     // nothing could open it.
     virtual bool openWithDefaultApplication(const QString &path) = 0;
+
+    // The print dialog: the person picks printer and settings, which are
+    // written into `request`. False when they cancelled.
+    virtual bool printDialog(PrintRequest &request) = 0;
 };
 
 } // namespace tabo

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "render/PageRenderer.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+namespace tabo {
+
+class AppController;
+class Formatters;
+class PdfEngine;
+class Record;
+
+// Preview, PDF, print and e-mail of the current document. Every output goes
+// one way: the page is rendered into the working PDF (`pdfPath`), and that
+// file is shown, printed, saved or mailed. Views listen to the signals; what
+// the person decides goes through Interaction.
+class OutputCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum ExportKind { Print = 0, SavePdf = 1, Email = 2, ExportDocument = 3 };
+
+    explicit OutputCommands(AppController &app);
+    ~OutputCommands() override;
+
+    // The page of the current invoice through the current design, in the
+    // current letter mode.
+    QString invoiceHTMLString() const;
+    QString itemsList() const;
+    // "%@ | %@ | %@": company name, document title, document number.
+    QString jobTitle(const Record &invoice) const;
+    const Formatters &formatters() const { return *m_formatters; }
+    const PageRenderer &renderer() const { return *m_renderer; }
+
+    // The letter mode of the next renderings.
+    const LetterMode &letterMode() const { return m_mode; }
+    bool isReminderAction() const { return m_mode.isReminderAction; }
+    bool isSlipAction() const { return m_mode.isSlipAction; }
+
+    // "Error!" "No design available. …" when there is no design; false then.
+    bool checkDesignsAvailable();
+
+    // `showPreview:` / `generatePreview`: clears the letter flags and renders
+    // the main preview; previewReady follows. False when refused.
+    bool showPreview();
+    void generatePreview();
+
+    // `openReminderSheet:` / `openSlipSheet:`: the sheet's four fields,
+    // filled from the preferences.
+    LetterTexts openReminderSheet() const;
+    LetterTexts openSlipSheet() const;
+    // `generateReminder:` / `generateSlip:`: the preview in that letter mode.
+    void generateReminder(const LetterTexts &texts);
+    void generateSlip(const LetterTexts &texts);
+
+    // `printInvoice:` (0), `pdfInvoice:` (1), `emailInvoice:` (2) and the
+    // document export (3): sets `exportKind`, renders into the export sheet
+    // (`loadExportPDF`); exportReady follows. False when refused.
+    bool openExport(int kind);
+    int exportKind() const { return m_exportKind; }
+    static QString exportSheetTitle(int kind);
+    void loadExportPDF();
+    // `exportCommand:`, the export sheet's OK: performs `exportKind`, then
+    // marks an invoice as sent when `markInvoiceAsSent` is on, on every path.
+    void exportCommand();
+    // `cancelExport:`
+    void cancelExport();
+
+    // `selectDesign:`: makes the design at `index` (of the library's list)
+    // the stored choice and renders it; designPreviewReady follows.
+    void selectDesign(int index);
+
+    // `sendEmail`: a new message with the attachment at `pdfEmailPath`.
+    bool sendEmail();
+
+    // Sets the status of an invoice to sent when `markInvoiceAsSent` is on,
+    // then re-arranges the list and recalculates.
+    void markInvoiceAsSent(Record *document);
+
+    // Renders the current page into `path` and waits (command line).
+    bool renderCurrentToFile(const QString &path);
+
+    // True while a rendering runs.
+    bool isBusy() const { return m_busy; }
+    PdfEngine &engine();
+
+Q_SIGNALS:
+    void busyChanged(bool busy);
+    // The main preview's PDF is ready to be shown (`createPDF`).
+    void previewReady(const QString &pdfPath);
+    // The export sheet's PDF is ready; OK may be enabled (`setOKEnabled`).
+    void exportReady(const QString &pdfPath, const QString &sheetTitle);
+    // The export sheet ended (OK or cancel): empty its view.
+    void exportFinished();
+    // The design-choice sheet's PDF is ready (`createTemplatePDF`).
+    void designPreviewReady(const QString &pdfPath);
+
+private:
+    enum class Target { Preview, Export, DesignChoice };
+    void renderInto(Target target);
+    void finishRender(Target target, bool ok);
+
+    AppController &m_app;
+    std::unique_ptr<Formatters> m_formatters;
+    std::unique_ptr<PageRenderer> m_renderer;
+    std::unique_ptr<PdfEngine> m_engine;
+    LetterMode m_mode;
+    int m_exportKind = 0;
+    bool m_busy = false;
+};
+
+} // namespace tabo

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QList>
+
+#include <memory>
+
+namespace tabo {
+
+class Preferences;
+class Record;
+
+// The made-up document of the design preview: a standalone invoice (never
+// stored) with the sample client, numbers and lines, totalled like a real one.
+// Taxes are 10, 5 and 1 percent, each only when enabled in the preferences;
+// line tax titles fall back to "Federal Tax", "State Tax" and "Third Tax".
+class SampleDocument
+{
+public:
+    explicit SampleDocument(const Preferences &prefs);
+    ~SampleDocument();
+
+    const Record &invoice() const { return *m_invoice; }
+    const QList<Record *> &items() const { return m_items; }
+
+private:
+    std::unique_ptr<Record> m_invoice;
+    QList<Record *> m_items; // owned
+};
+
+} // namespace tabo

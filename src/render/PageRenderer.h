@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace tabo {
+
+class Formatters;
+class Preferences;
+class Record;
+
+// The four texts of the reminder and delivery-slip sheets.
+struct LetterTexts
+{
+    QString title;
+    QString conditions;
+    QString misc;
+    QString footer;
+};
+
+// The letter mode of one rendering. Reminder wins when both are set; the
+// confirmation flag does not change the page.
+struct LetterMode
+{
+    bool isReminderAction = false;
+    bool isSlipAction = false;
+    bool isConfirmationAction = false;
+    LetterTexts reminder;
+    LetterTexts slip;
+};
+
+// Fills a design's page and row templates with a document. Keeps no state
+// between calls; the same code renders real documents and the sample
+// document of the design preview.
+class PageRenderer
+{
+public:
+    PageRenderer(const Preferences &prefs, const Formatters &formatters);
+
+    // `invoiceHTMLString`: the whole page. `items` are the document's lines
+    // in the editor's order. A design without page HTML or stylesheet (or no
+    // design) gives the failure text.
+    QString invoiceHTMLString(const Record *design, const Record &invoice, const QList<Record *> &items,
+                              const LetterMode &mode = {}) const;
+    // `itemsList`: the rows of the item table, joined without separator.
+    QString itemsList(const Record *design, const Record &invoice, const QList<Record *> &items) const;
+
+    // The value of "%LOGO%": writes the logo of `prefsLogo` as PNG to
+    // logoPath() and returns its image tag, or the hint when there is none.
+    QString logoValue() const;
+    // $XDG_DATA_HOME/Tabo/Logo.png
+    static QString logoPath();
+    static QString failureText();
+
+    // How often itemsList ran (the page calls it only for "%ITEMSLIST%").
+    int itemsListCalls() const { return m_itemsListCalls; }
+
+private:
+    const Preferences &m_prefs;
+    const Formatters &m_formatters;
+    mutable int m_itemsListCalls = 0;
+};
+
+} // namespace tabo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QString>
+
+namespace tabo {
+
+class Preferences;
+
+// Paper and margins of every rendering, from `tempPaperSize` and
+// `printBorderless`.
+struct PageSetup
+{
+    QString paperName = QStringLiteral("na-letter"); // the print system's name
+    QMarginsF margins{40, 40, 40, 60};               // points: left, top, right, bottom
+    bool centred = true;
+
+    // 0 "na-letter", 1 "na-legal", 2 "iso-a4", 3 "jis-b4", 4 "jis-b5"; any other "na-letter".
+    static QString paperNameForSize(qint64 tempPaperSize);
+    static QPageSize pageSizeForName(const QString &paperName);
+    // Borderless: all zero; otherwise 40 top, left, right and 60 bottom.
+    static QMarginsF marginsFor(bool borderless);
+    static PageSetup fromPreferences(const Preferences &prefs);
+
+    QPageSize pageSize() const { return pageSizeForName(paperName); }
+    QPageLayout pageLayout() const;
+};
+
+} // namespace tabo

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace tabo {
+
+struct PrintRequest;
+
+// Sends a PDF file itself (never a screen bitmap) to the print system
+// through CUPS' `lp`, with the job title and the chosen printer's options.
+class PrintSystem
+{
+public:
+    static QStringList lpArguments(const QString &pdfPath, const PrintRequest &request);
+    // False with a one-line reason when `lp` is missing or refuses the job.
+    static bool printFile(const QString &pdfPath, const PrintRequest &request, QString *error);
+};
+
+} // namespace tabo
