@@ -3,6 +3,8 @@
 #include "app/AccountingExport.h"
 #include "app/BackupCommands.h"
 #include "app/DocumentCommands.h"
+#include "app/OutputCommands.h"
+#include "designs/DesignLibrary.h"
 #include "app/FileCommands.h"
 #include "app/Interaction.h"
 #include "app/ItemCommands.h"
@@ -41,11 +43,26 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_files(std::make_unique<FileCommands>(*this))
     , m_backups(std::make_unique<BackupCommands>(*this))
     , m_accounting(std::make_unique<AccountingExport>(*this))
+    , m_designs(std::make_unique<DesignLibrary>(*this))
+    , m_outputs(std::make_unique<OutputCommands>(*this))
 {
     setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });
 }
 
-AppController::~AppController() = default;
+AppController::~AppController()
+{
+    // A short-lived process (the command line) must not lose the design
+    // whose flag is already set.
+    installPendingTabo2Template();
+}
+
+void AppController::installPendingTabo2Template()
+{
+    if (!m_tabo2TemplatePending || !m_store)
+        return;
+    m_tabo2TemplatePending = false;
+    m_designs->loadTabo2Template();
+}
 
 QString AppController::applicationFilesDirectory()
 {
@@ -121,8 +138,11 @@ void AppController::openStore()
         return;
     }
     m_store = std::move(store);
-    // The later built-in design is installed here once the design library
-    // exists; its flag `isTabo2TemplateLoadingDone` stays untouched until then.
+    if (!m_prefs.boolean(P::isTabo2TemplateLoadingDone)) {
+        m_prefs.setBool(P::isTabo2TemplateLoadingDone, true);
+        m_tabo2TemplatePending = true;
+        QTimer::singleShot(1300, this, [this] { installPendingTabo2Template(); });
+    }
     m_list.reload(m_store.get());
     m_list.calculateDatabase(now());
     Q_EMIT storeOpened();
@@ -156,9 +176,19 @@ void AppController::awakeFromNib()
     m_prefs.setBool(P::isiCloudAvailable, false);
     m_prefs.setBool(P::ubiquityStoreManagerALLOWED, true);
     createBackupPath();
-    const QString temp = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
-    m_pdfPath = temp + QStringLiteral("/Invoice.pdf");
-    m_pdfEmailPath = temp + QStringLiteral("/PDFInvoice.pdf");
+    m_pdfPath = applicationFilesDirectory() + QStringLiteral("/Invoice.pdf");
+    m_pdfEmailPath = applicationFilesDirectory() + QStringLiteral("/PDFInvoice.pdf");
+}
+
+QString AppController::pdfPath() const
+{
+    return m_pdfPath.isEmpty() ? applicationFilesDirectory() + QStringLiteral("/Invoice.pdf") : m_pdfPath;
+}
+
+QString AppController::pdfEmailPath() const
+{
+    return m_pdfEmailPath.isEmpty() ? applicationFilesDirectory() + QStringLiteral("/PDFInvoice.pdf")
+                                    : m_pdfEmailPath;
 }
 
 void AppController::createBackupPath()
@@ -188,8 +218,10 @@ bool AppController::needsFirstStartAssistant() const
 
 bool AppController::firstAssiTabAction(qint64 languageDefaults)
 {
-    // The built-in designs are installed here once the design library exists
-    // (`isFirstStoreLoadEverDone` stays untouched until then).
+    if (!m_prefs.boolean(P::isFirstStoreLoadEverDone) && managedObjectContext()) {
+        m_designs->loadTemplates();
+        m_prefs.setBool(P::isFirstStoreLoadEverDone, true);
+    }
     m_prefs.setInteger(P::languageDefaults, languageDefaults);
     const bool installed = m_prefs.installLanguageDefaults();
     m_prefs.setBool(P::firstStartEverDone, true);
@@ -277,6 +309,7 @@ bool AppController::customPathChanged()
 
 Error AppController::closeStore()
 {
+    installPendingTabo2Template();
     Error e;
     if (m_store)
         e = m_store->save();

@@ -14,6 +14,8 @@ namespace tabo {
 
 class AccountingExport;
 class BackupCommands;
+class DesignLibrary;
+class OutputCommands;
 class DocumentCommands;
 class FileCommands;
 class Interaction;
@@ -78,8 +80,10 @@ public:
     bool needsFirstStartAssistant() const;
 
     QString backupPath() const { return m_backupPath; }
-    QString pdfPath() const { return m_pdfPath; }
-    QString pdfEmailPath() const { return m_pdfEmailPath; }
+    // The working PDF of every rendering and the e-mail attachment, in the
+    // application's data folder (set in awakeFromNib, or on first use).
+    QString pdfPath() const;
+    QString pdfEmailPath() const;
     void createBackupPath();
     // Files handed to us from outside are refused: always false.
     bool applicationOpenFile(const QString &path);
@@ -123,6 +127,8 @@ public:
     FileCommands &files() { return *m_files; }
     BackupCommands &backups() { return *m_backups; }
     AccountingExport &accounting() { return *m_accounting; }
+    DesignLibrary &designs() { return *m_designs; }
+    OutputCommands &outputs() { return *m_outputs; }
 
     // Closes the store (saving first) and opens the file at storeURL again;
     // used by the restores. False (with the error presented) when it cannot
@@ -153,6 +159,7 @@ Q_SIGNALS:
 
 private:
     Record *newDocument(bool invoice);
+    void installPendingTabo2Template();
     void openStore();
 
     Preferences &m_prefs;
@@ -170,6 +177,9 @@ private:
     std::unique_ptr<FileCommands> m_files;
     std::unique_ptr<BackupCommands> m_backups;
     std::unique_ptr<AccountingExport> m_accounting;
+    std::unique_ptr<DesignLibrary> m_designs;
+    std::unique_ptr<OutputCommands> m_outputs;
+    bool m_tabo2TemplatePending = false;
     QString m_backupPath;
     QString m_pdfPath;
     QString m_pdfEmailPath;
