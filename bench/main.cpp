@@ -38,6 +38,7 @@ public:
     QString openFile(const FileRequest &) override { return {}; }
     QString saveFile(const FileRequest &) override { return {}; }
     bool openWithDefaultApplication(const QString &) override { return false; }
+    bool printDialog(PrintRequest &) override { return false; }
 };
 
 double residentMiB()

@@ -54,6 +54,16 @@ public:
         return openSucceeds;
     }
 
+    QList<PrintRequest> printRequests; // print dialogs shown
+    bool printAnswer = true;           // false: the dialog is cancelled
+    QString chosenPrinter;
+    bool printDialog(PrintRequest &request) override
+    {
+        printRequests << request;
+        request.printer = chosenPrinter;
+        return printAnswer;
+    }
+
     QString lastAlertTitle() const { return alerts.isEmpty() ? QString() : alerts.last().title; }
     QString lastAlertText() const { return alerts.isEmpty() ? QString() : alerts.last().text; }
 };

@@ -60,6 +60,13 @@ QString CliInteraction::saveFile(const FileRequest &)
     return m_panelPath;
 }
 
+// There is no dialog on the command line: the options chose the printer.
+bool CliInteraction::printDialog(PrintRequest &request)
+{
+    request.printer = m_printer;
+    return true;
+}
+
 bool CliInteraction::openWithDefaultApplication(const QString &path)
 {
     if (!m_openFiles)

@@ -18,6 +18,8 @@ public:
     // `confirm` silently and declining it is no failure.
     void setAnswer(const QString &title, bool confirm) { m_answers.insert(title, confirm); }
     void setPanelPath(const QString &path) { m_panelPath = path; }
+    // The printer of `--printer` (empty: the system's default).
+    void setPrinter(const QString &printer) { m_printer = printer; }
 
     // A question was refused for want of --yes; its text is already on stderr.
     bool refused() const { return m_refused; }
@@ -32,6 +34,7 @@ public:
     QString saveFile(const FileRequest &request) override;
     // xdg-open, unless opening was switched off (--no-open).
     bool openWithDefaultApplication(const QString &path) override;
+    bool printDialog(PrintRequest &request) override;
     void setOpenFiles(bool open) { m_openFiles = open; }
 
     // The button that declines: "Cancel", a "Don't …" choice, else the last.
@@ -43,6 +46,7 @@ private:
     bool m_errorPresented = false;
     int m_messages = 0;
     QString m_panelPath;
+    QString m_printer;
     QHash<QString, bool> m_answers;
     bool m_openFiles = true;
 };
