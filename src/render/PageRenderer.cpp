@@ -1,0 +1,345 @@
+#include "render/PageRenderer.h"
+
+#include "app/AppController.h"
+#include "domain/Numbering.h"
+#include "domain/Record.h"
+#include "prefs/Preferences.h"
+#include "render/Formatters.h"
+#include "render/Placeholders.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFile>
+#include <QImage>
+
+#include <array>
+#include <cmath>
+
+namespace tabo {
+
+namespace {
+
+using P = Preferences;
+
+// Old designs rely on this name and on its value being wrong (see the rows).
+constexpr QStringView kGrossPrice = u"%IKNOWITSWRONGBUTILIVEINTHEPASTITEMSINGLEGROSSAMOUNT%";
+
+struct TaxFields
+{
+    QStringView title, amount, rate;
+    P::Key enabled, titleKey;
+    Invoice::Attr amountAttr, percentAttr;
+};
+
+constexpr std::array<TaxFields, 3> kPageTaxes { {
+    { u"%TAX1TITLE%", u"%TAX1%", u"%TAX1RATE%", P::tax1Enabled, P::tax1Title, Invoice::tax1Amount,
+        Invoice::tax1Percent },
+    { u"%TAX2TITLE%", u"%TAX2%", u"%TAX2RATE%", P::tax2Enabled, P::tax2Title, Invoice::tax2Amount,
+        Invoice::tax2Percent },
+    { u"%TAX3TITLE%", u"%TAX3%", u"%TAX3RATE%", P::tax3Enabled, P::tax3Title, Invoice::tax3Amount,
+        Invoice::tax3Percent },
+} };
+
+struct ItemTaxFields
+{
+    QStringView title, percent, amount;
+    Item::Attr applied, titleAttr, percentAttr, amountAttr;
+};
+
+constexpr std::array<ItemTaxFields, 3> kRowTaxes { {
+    { u"%ITEMSTAX1TITLE%", u"%ITEMSTAX1PERCENT%", u"%ITEMSTAX1AMOUNT%", Item::isTax1Applied, Item::tax1Title,
+        Item::tax1Percent, Item::tax1Amount },
+    { u"%ITEMSTAX2TITLE%", u"%ITEMSTAX2PERCENT%", u"%ITEMSTAX2AMOUNT%", Item::isTax2Applied, Item::tax2Title,
+        Item::tax2Percent, Item::tax2Amount },
+    { u"%ITEMSTAX3TITLE%", u"%ITEMSTAX3PERCENT%", u"%ITEMSTAX3AMOUNT%", Item::isTax3Applied, Item::tax3Title,
+        Item::tax3Percent, Item::tax3Amount },
+} };
+
+// Labels that page and rows share, in the rows' order after the taxes.
+struct Label
+{
+    QStringView placeholder;
+    P::Key key;
+};
+
+// "%DISCOUNTKINDCHAR%" follows the first of them.
+constexpr std::array<Label, 12> kRowLabels { {
+    { u"%LOCDISCOUNT%", P::locDiscount },
+    { u"%LOCSUBTOTAL%", P::locSubtotal },
+    { u"%LOCSHIPPING%", P::locShipping },
+    { u"%LOCTOTAL%", P::locTotal },
+    { u"%LOCSHORTNUMBER%", P::locNo },
+    { u"%LOCUNIT%", P::locUnit },
+    { u"%LOCUNITPRICE%", P::locUnitPrice },
+    { u"%LOCNET%", P::locNet },
+    { u"%LOCSKUNUMBER%", P::locSKUNumber },
+    { u"%LOCDESCRIPTION%", P::locDescription },
+    { u"%LOCQUANTITY%", P::locQuantity },
+    { u"%LOCTAXES%", P::locTaxes },
+} };
+
+constexpr std::array<Label, 16> kLateLabels { {
+    { u"%LOCINVOICE%", P::locInvoice },
+    { u"%LOCDUE%", P::locQuote }, // only what later values brought in is left
+    { u"%LOCEXPIRATION%", P::locExpiration },
+    { u"%LOCQUOTENUMBER%", P::locQuoteNumber },
+    { u"%LOCREMINDER%", P::locReminder },
+    { u"%LOCOVERDUE%", P::locOverdue },
+    { u"%LOCINVOICENUMBER%", P::locInvoiceNumber },
+    { u"%LOCTAXES%", P::locTaxes },
+    { u"%WINDOW%", P::prefsLetterbox },
+    { u"%LOCSHORTNUMBER%", P::locNo },
+    { u"%LOCUNIT%", P::locUnit },
+    { u"%LOCUNITPRICE%", P::locUnitPrice },
+    { u"%LOCNET%", P::locNet },
+    { u"%LOCSKUNUMBER%", P::locSKUNumber },
+    { u"%LOCDESCRIPTION%", P::locDescription },
+    { u"%LOCQUANTITY%", P::locQuantity },
+} };
+
+QString withSubtitle(const QString &title, const QString &subtitle)
+{
+    return title % QLatin1String("<br /><small>") % subtitle % QLatin1String("</small>");
+}
+
+} // namespace
+
+PageRenderer::PageRenderer(const Preferences &prefs, const Formatters &formatters)
+    : m_prefs(prefs)
+    , m_formatters(formatters)
+{
+}
+
+QString PageRenderer::invoiceHTMLString(
+    const Record *design, const Record &invoice, const QList<Record *> &items, const LetterMode &mode) const
+{
+    if (!design || design->isNull(Design::invoice) || design->isNull(Design::css))
+        return failureText();
+
+    const auto pref = [this](P::Key key) { return [this, key] { return m_prefs.string(key); }; };
+    const auto money = [&](int attr) {
+        return
+            [&, attr] { return invoice.isNull(attr) ? QString() : m_formatters.stringFromNumber(invoice.num(attr)); };
+    };
+    const auto date = [&](int attr) {
+        return [&, attr] { return Numbering::getPatternDateStringFromDate(m_prefs, invoice.date(attr)); };
+    };
+    const bool reminder = mode.isReminderAction;
+    const bool slip = !reminder && mode.isSlipAction;
+    const LetterTexts *letter = reminder ? &mode.reminder : slip ? &mode.slip : nullptr;
+    const auto letterText = [&](QString LetterTexts::*field, int attr) {
+        return [&, field, attr] {
+            return letter ? Formatters::htmlLineBreakStringFromString(letter->*field) : invoice.text(attr);
+        };
+    };
+
+    Placeholders page(design->text(Design::invoice));
+    page.replace(u"%CSS%", design->text(Design::css));
+    page.replace(u"%COMPANY%", pref(P::prefsName));
+    page.replace(u"%SLOGAN%", pref(P::prefsSlogan));
+    page.replace(u"%COMPANYCONTACT%",
+        [&] { return Formatters::htmlLineBreakStringFromString(m_prefs.string(P::prefsContact)); });
+    page.replace(u"%LETTERTITLE%", letter ? letter->title : invoice.text(Invoice::title));
+    page.replace(
+        u"%CLIENTADDRESS%", [&] { return Formatters::htmlLineBreakStringFromString(invoice.text(Invoice::address)); });
+    page.replace(u"%CONDITIONS%", letterText(&LetterTexts::conditions, Invoice::conditions));
+    page.replace(u"%MISCELLANEOUS%", letterText(&LetterTexts::misc, Invoice::misc1));
+    page.replace(u"%FOOTER%", letterText(&LetterTexts::footer, Invoice::footer));
+    page.replace(u"%DISPATCHED%", invoice.text(Invoice::dispatchNumber));
+    page.replace(u"%DATE%", date(Invoice::date));
+    page.replace(u"%DUEDATE%", date(slip ? Invoice::dispatched : Invoice::due));
+    page.replace(u"%NUMBER%", invoice.text(Invoice::number));
+    page.replace(u"%CLIENTNUMBER%", invoice.text(Invoice::clientNumber));
+    page.replace(u"%CLIENTNAME%", invoice.text(Invoice::customerName));
+    page.replace(u"%CLIENTVATID%", invoice.text(Invoice::customerVATID));
+    page.replace(u"%LOCDATE%", pref(P::locDate));
+    const P::Key dueLabel = invoice.integer(Invoice::kind) == 0 ? P::locExpiration
+        : reminder                                              ? P::locOverdue
+        : slip                                                  ? P::locDispatched
+                                                                : P::locDue;
+    page.replace(u"%LOCDUE%", pref(dueLabel));
+    page.replace(u"%LOCNUMBER%", pref(P::locNumber));
+    page.replace(u"%LOCCLIENTNUMBER%", pref(P::locClientNumber));
+    page.replace(u"%LOCDISPATCHED%", pref(P::locDispatched));
+    page.replace(u"%CURRENCY%", invoice.text(Invoice::currency));
+    page.replace(u"%SUBJECT%", invoice.text(Invoice::subject));
+    page.replace(u"%SUBTOTAL%", money(Invoice::subAmount));
+    page.replace(u"%TOTAL%", money(Invoice::amount));
+    page.replace(u"%LOCSUBTOTAL%", pref(P::locSubtotal));
+    page.replace(u"%PAIDAMOUNT%", money(Invoice::paidAmount));
+
+    if (invoice.boolean(Invoice::isDiscountEnabled)) {
+        const bool isAmount = invoice.integer(Invoice::discountKind) == 0;
+        page.replace(u"%LOCDISCOUNT%", [&] {
+            const QString title = invoice.text(Invoice::discountTitle);
+            return invoice.boolean(Invoice::hasDiscountSubtitle)
+                ? withSubtitle(title, invoice.text(Invoice::discountSubtitle))
+                : title;
+        });
+        page.replace(u"%DISCOUNTKINDCHAR%", isAmount ? QStringLiteral("-") : QStringLiteral("%"));
+        page.replace(u"%DISCOUNT%", [&] {
+            if (isAmount)
+                return money(Invoice::discountAmount)();
+            if (invoice.isNull(Invoice::discountPercent))
+                return QString();
+            return m_formatters.decimalStringFromNumber(invoice.single(Invoice::discountPercent) * 100.0f);
+        });
+    } else {
+        page.replace(u"%LOCDISCOUNT%", QString());
+        page.replace(u"%DISCOUNTKINDCHAR%", QString());
+        page.replace(u"%DISCOUNT%", QString());
+    }
+
+    if (invoice.boolean(Invoice::isShippingEnabled)) {
+        page.replace(u"%SHIPPING%", money(Invoice::shippingAmount));
+        page.replace(u"%LOCSHIPPING%", [&] {
+            const QString title = invoice.text(Invoice::shippingTitle);
+            return invoice.boolean(Invoice::hasShippingSubtitle)
+                ? withSubtitle(title, invoice.text(Invoice::shippingSubtitle))
+                : title;
+        });
+    } else {
+        page.replace(u"%SHIPPING%", QString());
+        page.replace(u"%LOCSHIPPING%", QString());
+    }
+
+    page.replace(u"%LOCTOTAL%", pref(P::locTotal));
+
+    for (const TaxFields &tax : kPageTaxes) {
+        const bool enabled = m_prefs.boolean(tax.enabled);
+        page.replace(tax.title, [&] { return enabled ? m_prefs.string(tax.titleKey) : QString(); });
+        page.replace(tax.amount, [&] { return enabled ? money(tax.amountAttr)() : QString(); });
+        page.replace(tax.rate, [&] {
+            const double percent = invoice.num(tax.percentAttr) * 100.0;
+            if (!enabled || invoice.isNull(tax.percentAttr) || !std::isfinite(percent))
+                return QString();
+            return QString::asprintf("%.02f", percent);
+        });
+    }
+
+    page.replace(u"%ITEMSLIST%", [&] { return itemsList(design, invoice, items); });
+    for (const Label &label : kLateLabels)
+        page.replace(label.placeholder, pref(label.key));
+    page.replace(u"%LOGO%", [this] { return logoValue(); });
+    return page.text();
+}
+
+QString PageRenderer::itemsList(const Record *design, const Record &invoice, const QList<Record *> &items) const
+{
+    ++m_itemsListCalls;
+    if (!design || design->isNull(Design::item))
+        return failureText();
+    const Placeholders rowTemplate(design->text(Design::item));
+
+    const bool useSKU = m_prefs.boolean(P::tempUseSKU);
+    const bool showSubAmount = m_prefs.boolean(P::showItemSubAmount);
+    const bool showTaxAmounts = m_prefs.boolean(P::showSingleTaxAmounts);
+    std::array<QString, kRowLabels.size()> labels;
+    for (std::size_t i = 0; i < kRowLabels.size(); ++i)
+        labels[i] = m_prefs.string(kRowLabels[i].key);
+    // A row knows no discount kind.
+    const QString discountKindChar = QStringLiteral("%");
+    const QString currency = invoice.text(Invoice::currency);
+
+    QString list;
+    // Rows grow by their values; one reservation keeps appending linear.
+    list.reserve(items.size() * (rowTemplate.text().size() + 256));
+    int number = 1;
+    for (const Record *item : items) {
+        if (!item)
+            continue;
+        const auto money = [&](int attr) {
+            return
+                [&, attr] { return item->isNull(attr) ? QString() : m_formatters.stringFromNumber(item->num(attr)); };
+        };
+        const auto decimal = [&](int attr) {
+            return [&, attr] {
+                return item->isNull(attr) ? QString() : m_formatters.decimalStringFromNumber(item->num(attr));
+            };
+        };
+        Placeholders row = rowTemplate;
+        row.replace(u"%ITEMNUMBER%", [&] { return m_formatters.decimalStringFromNumber(number); });
+        row.replace(u"%ITEMSQUANTITY%", decimal(Item::unitCount));
+        row.replace(u"%ITEMSUNIT%", item->text(Item::unit));
+        row.replace(u"%ITEMSBASEAMOUNT%", money(Item::baseAmount));
+        row.replace(u"%ITEMSSKU%", useSKU ? item->text(Item::sku) : QString());
+        row.replace(u"%ITEMSSUBAMOUNT%", [&] { return showSubAmount ? money(Item::subAmount)() : QString(); });
+        row.replace(u"%ITEMSTITLE%", item->text(Item::title));
+        row.replace(
+            u"%ITEMSSUBTITLE%", [&] { return Formatters::htmlLineBreakStringFromString(item->text(Item::subtitle)); });
+        row.replace(u"%ITEMSAMOUNT%", money(Item::amount));
+
+        for (const ItemTaxFields &tax : kRowTaxes) {
+            if (!item->boolean(tax.applied)) {
+                row.replace(tax.title, QString());
+                row.replace(tax.percent, QString());
+                row.replace(tax.amount, QString());
+                continue;
+            }
+            // Single precision and only the first applied tax: printed
+            // prices of old designs must not change.
+            row.replace(kGrossPrice, [&] {
+                if (item->isNull(Item::baseAmount))
+                    return QString();
+                const float base = item->single(Item::baseAmount);
+                const float gross = base + base * item->single(tax.percentAttr);
+                return m_formatters.stringFromNumber(gross);
+            });
+            row.replace(tax.title, item->text(tax.titleAttr));
+            row.replace(tax.percent, [&] {
+                if (item->isNull(tax.percentAttr))
+                    return QString();
+                return m_formatters.decimalStringFromNumber(item->single(tax.percentAttr) * 100.0f);
+            });
+            row.replace(tax.amount, [&] { return showTaxAmounts ? money(tax.amountAttr)() : QString(); });
+        }
+
+        row.replace(kRowLabels[0].placeholder, labels[0]);
+        row.replace(u"%DISCOUNTKINDCHAR%", discountKindChar);
+        for (std::size_t i = 1; i < kRowLabels.size(); ++i)
+            row.replace(kRowLabels[i].placeholder, labels[i]);
+        row.replace(u"%CURRENCY%", currency);
+        list += row.text();
+        ++number;
+    }
+    return list;
+}
+
+QString PageRenderer::logoValue() const
+{
+    const QByteArray data = m_prefs.data(P::prefsLogo);
+    if (data.isEmpty())
+        return QStringLiteral("<small><small>Please provide a 'Logo Image' in the Preferences<br />or remove the "
+                              "'LOGO' substitute from the design/template.</small></small>");
+    const QString path = logoPath();
+    // The web engine does not read TIFF, so the logo is written as PNG.
+    QByteArray png;
+    QImage image;
+    if (image.loadFromData(data)) {
+        QBuffer buffer(&png);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "PNG");
+    }
+    if (png.isEmpty()) {
+        // An earlier logo must not stand in for one that cannot be read.
+        QFile::remove(path);
+    } else {
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+            file.write(png);
+    }
+    return QLatin1String("<img src=\"file://") % path % QLatin1String("\" alt=\"logo\">");
+}
+
+QString PageRenderer::logoPath()
+{
+    return AppController::applicationFilesDirectory() + QStringLiteral("/Logo.png");
+}
+
+QString PageRenderer::failureText()
+{
+    return QCoreApplication::translate("tabo::PageRenderer",
+        "FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!");
+}
+
+} // namespace tabo
