@@ -1,15 +1,400 @@
 #include "app/OutputCommands.h"
 
+#include "app/AppController.h"
+#include "app/FileCommands.h"
+#include "app/Interaction.h"
+#include "app/ItemCommands.h"
+#include "designs/DesignLibrary.h"
+#include "domain/Record.h"
+#include "prefs/Preferences.h"
 #include "render/Formatters.h"
+#include "render/MailHandoff.h"
+#include "render/PageSetup.h"
 #include "render/PdfEngine.h"
+#include "render/PrintSystem.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QSaveFile>
 
 namespace tabo {
 
+using P = Preferences;
+
+namespace {
+
+const QString kOK = QStringLiteral("OK");
+
+// What the PDF view would accept: a file that starts like a PDF.
+bool isPdfFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(5) == "%PDF-";
+}
+
+// The whole file or nothing at `to`: an existing file is only replaced once
+// the copy is complete.
+bool copyPdf(const QString &from, const QString &to, QString *error)
+{
+    QFile source(from);
+    if (!isPdfFile(from) || !source.open(QIODevice::ReadOnly)) {
+        *error = QStringLiteral("The PDF file “%1” could not be read.").arg(from);
+        return false;
+    }
+    QSaveFile target(to);
+    if (!target.open(QIODevice::WriteOnly) || target.write(source.readAll()) != source.size() || !target.commit()) {
+        *error = QStringLiteral("The PDF file “%1” could not be written: %2").arg(to, target.errorString());
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
 OutputCommands::OutputCommands(AppController &app)
     : m_app(app)
+    , m_formatters(std::make_unique<Formatters>(app.prefs()))
+    , m_renderer(std::make_unique<PageRenderer>(app.prefs(), *m_formatters))
 {
 }
 
 OutputCommands::~OutputCommands() = default;
+
+const Record *OutputCommands::renderDesign() const
+{
+    return m_designOverride ? m_designOverride : m_app.designs().currentDesign();
+}
+
+QString OutputCommands::invoiceHTMLString() const
+{
+    const Record *invoice = m_app.currentInvoice();
+    if (!invoice)
+        return PageRenderer::failureText();
+    return m_renderer->invoiceHTMLString(renderDesign(), *invoice, m_app.items().sortedItems(*invoice), m_mode);
+}
+
+QString OutputCommands::itemsList() const
+{
+    const Record *invoice = m_app.currentInvoice();
+    if (!invoice)
+        return QString();
+    return m_renderer->itemsList(renderDesign(), *invoice, m_app.items().sortedItems(*invoice));
+}
+
+QString OutputCommands::jobTitle(const Record &invoice) const
+{
+    return QStringLiteral("%1 | %2 | %3")
+        .arg(m_app.prefs().string(P::prefsName), invoice.text(Invoice::title), invoice.text(Invoice::number));
+}
+
+bool OutputCommands::checkDesignsAvailable()
+{
+    if (!m_app.designs().designs().isEmpty())
+        return true;
+    m_app.ui().alert(QStringLiteral("Error!"), QStringLiteral("No design available. Please download or create a design."),
+                     {kOK});
+    return false;
+}
+
+bool OutputCommands::showPreview()
+{
+    if (!m_app.currentInvoice() || !checkDesignsAvailable())
+        return false;
+    generatePreview();
+    return true;
+}
+
+void OutputCommands::generatePreview()
+{
+    m_mode.isReminderAction = false;
+    m_mode.isSlipAction = false;
+    m_app.prefs().setBool(P::isMainPreviewAction, true);
+    renderInto(Target::Preview, renderDesign());
+}
+
+LetterTexts OutputCommands::openReminderSheet() const
+{
+    const Preferences &prefs = m_app.prefs();
+    return {prefs.string(P::locReminder), prefs.string(P::tempRemConditions), prefs.string(P::tempRemMisc),
+            prefs.string(P::tempRemFooter)};
+}
+
+LetterTexts OutputCommands::openSlipSheet() const
+{
+    const Preferences &prefs = m_app.prefs();
+    return {prefs.string(P::locSlip), prefs.string(P::tempSlipConditions), prefs.string(P::tempSlipMisc),
+            prefs.string(P::tempSlipFooter)};
+}
+
+void OutputCommands::generateReminder(const LetterTexts &texts)
+{
+    m_mode.isReminderAction = true;
+    m_mode.isSlipAction = false;
+    m_mode.reminder = texts;
+    m_app.prefs().setBool(P::isMainPreviewAction, true);
+    renderInto(Target::Preview, renderDesign());
+}
+
+void OutputCommands::generateSlip(const LetterTexts &texts)
+{
+    m_mode.isSlipAction = true;
+    m_mode.isReminderAction = false;
+    m_mode.slip = texts;
+    m_app.prefs().setBool(P::isMainPreviewAction, true);
+    renderInto(Target::Preview, renderDesign());
+}
+
+QString OutputCommands::exportSheetTitle(int kind)
+{
+    switch (kind) {
+    case Print:
+        return QStringLiteral("Print Invoice");
+    case SavePdf:
+        return QStringLiteral("Export Invoice As PDF File");
+    case Email:
+        return QStringLiteral("Send Invoice As Email Attachment");
+    case ExportDocument:
+        return QStringLiteral("Export Invoice As Document");
+    default:
+        return QString();
+    }
+}
+
+bool OutputCommands::openExport(int kind)
+{
+    const Record *invoice = m_app.currentInvoice();
+    if (!invoice || !checkDesignsAvailable())
+        return false;
+    m_exportKind = kind;
+    if (kind == Print)
+        m_app.prefs().setString(P::currentPrintJobTitle, jobTitle(*invoice));
+    loadExportPDF();
+    return true;
+}
+
+void OutputCommands::loadExportPDF()
+{
+    renderInto(Target::Export, renderDesign());
+}
+
+void OutputCommands::cancelExport()
+{
+    Q_EMIT exportFinished();
+}
+
+void OutputCommands::exportCommand()
+{
+    // OK is only enabled once the sheet's PDF is there; the command line
+    // presses it at once.
+    waitUntilIdle();
+    Q_EMIT exportFinished();
+    Record *invoice = m_app.currentInvoice();
+    if (invoice) {
+        switch (m_exportKind) {
+        case Print:
+            printWorkingPdf(*invoice);
+            break;
+        case SavePdf:
+            savePdf(*invoice);
+            break;
+        case Email:
+            emailPdf(*invoice);
+            break;
+        case ExportDocument:
+            m_app.files().exportInvoice(int(m_app.prefs().integer(P::exportFormat)));
+            break;
+        default:
+            break;
+        }
+    }
+    markInvoiceAsSent(invoice);
+}
+
+bool OutputCommands::printWorkingPdf(const Record &invoice)
+{
+    PrintRequest request;
+    request.jobTitle = jobTitle(invoice);
+    request.printer = m_printer;
+    if (m_app.prefs().integer(P::printBehavior) == 1 && !m_app.ui().printDialog(request))
+        return false;
+    QString error;
+    if (PrintSystem::printFile(m_app.pdfPath(), request, &error))
+        return true;
+    m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
+    return false;
+}
+
+bool OutputCommands::savePdf(const Record &invoice)
+{
+    Interaction::FileRequest request;
+    request.title = QStringLiteral("Export As PDF File");
+    request.extensions = {QStringLiteral("pdf")};
+    // A slash cannot stand in a file name; numbers such as "2026/17" are common.
+    request.suggestedName = jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-'));
+    request.canCreateFolders = true;
+    QString path = m_app.ui().saveFile(request);
+    if (path.isEmpty())
+        return false;
+    if (QFileInfo(path).suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive) != 0)
+        path += QStringLiteral(".pdf");
+    QString error;
+    if (copyPdf(m_app.pdfPath(), path, &error))
+        return true;
+    m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
+    return false;
+}
+
+bool OutputCommands::emailPdf(const Record &invoice)
+{
+    QString error;
+    if (!copyPdf(m_app.pdfPath(), m_app.pdfEmailPath(), &error)) {
+        m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
+        return false;
+    }
+    return sendEmail();
+}
+
+bool OutputCommands::sendEmail()
+{
+    const Record *invoice = m_app.currentInvoice();
+    if (!invoice)
+        return false;
+    MailMessage message;
+    const QString body = m_app.prefs().string(P::tempEmailBody);
+    if (!body.isEmpty())
+        message.body = QStringLiteral("%1\n\n\n").arg(body) + QString(96, QLatin1Char('-')) + QStringLiteral("\n\n");
+    message.subject = jobTitle(*invoice);
+    message.attachment = m_app.pdfEmailPath();
+    message.recipient = invoice->text(Invoice::emailAddress);
+    QString error;
+    if (MailHandoff::compose(message, &error))
+        return true;
+    m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
+    return false;
+}
+
+void OutputCommands::markInvoiceAsSent(Record *document)
+{
+    if (!document || document->integer(Invoice::kind) != 1 || !m_app.prefs().boolean(P::markInvoiceAsSent))
+        return;
+    // A paid invoice sent again is open again.
+    document->setInt(Invoice::status, 1);
+    m_app.documentChanged(document);
+}
+
+void OutputCommands::selectDesign(int index)
+{
+    m_app.prefs().setInteger(P::selectedDesign, index);
+    if (!checkDesignsAvailable())
+        return;
+    const QList<Record *> designs = m_app.designs().designs();
+    if (index < 0 || index >= designs.size() || !m_app.currentInvoice()) {
+        failureAlert(Target::DesignChoice);
+        return;
+    }
+    renderInto(Target::DesignChoice, designs.at(index));
+}
+
+bool OutputCommands::renderCurrentToFile(const QString &path)
+{
+    if (!m_app.currentInvoice())
+        return false;
+    return renderHtmlToFile(invoiceHTMLString(), path);
+}
+
+bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path)
+{
+    if (!canRender())
+        return false;
+    setBusy(+1);
+    const bool ok = engine().renderAndWait(html, PageSetup::fromPreferences(m_app.prefs()), path) && isPdfFile(path);
+    setBusy(-1);
+    return ok;
+}
+
+PdfEngine &OutputCommands::engine()
+{
+    if (!m_engine) {
+        m_engine = std::make_unique<PdfEngine>();
+        m_engine->setAllowedLocalFile(PageRenderer::logoPath());
+    }
+    return *m_engine;
+}
+
+// The web engine cannot live without a GUI application; a core program that
+// got here anyway fails the rendering instead of aborting.
+bool OutputCommands::canRender()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
+}
+
+void OutputCommands::renderInto(Target target, const Record *design)
+{
+    const Record *invoice = m_app.currentInvoice();
+    if (!invoice || !canRender()) {
+        failureAlert(target);
+        return;
+    }
+    const QString html =
+        m_renderer->invoiceHTMLString(design, *invoice, m_app.items().sortedItems(*invoice), m_mode);
+    const QString path = m_app.pdfPath();
+    setBusy(+1);
+    engine().render(html, PageSetup::fromPreferences(m_app.prefs()), path,
+                    [this, target, path](bool ok) { finishRender(target, ok && isPdfFile(path)); });
+}
+
+void OutputCommands::finishRender(Target target, bool ok)
+{
+    setBusy(-1);
+    if (!ok) {
+        failureAlert(target);
+        return;
+    }
+    const QString path = m_app.pdfPath();
+    switch (target) {
+    case Target::Preview:
+        Q_EMIT previewReady(path);
+        break;
+    case Target::Export:
+        Q_EMIT exportReady(path, exportSheetTitle(m_exportKind));
+        break;
+    case Target::DesignChoice:
+        Q_EMIT designPreviewReady(path);
+        break;
+    }
+}
+
+void OutputCommands::failureAlert(Target target)
+{
+    m_app.ui().alert(QStringLiteral("Ooops!"),
+                     target == Target::DesignChoice
+                         ? QStringLiteral("Something went really wrong while creating the design preview.")
+                         : QStringLiteral("Something went really wrong while creating the preview."),
+                     {kOK});
+}
+
+void OutputCommands::setBusy(int delta)
+{
+    m_running = std::max(0, m_running + delta);
+    const bool busy = m_running > 0;
+    if (busy == m_busy)
+        return;
+    m_busy = busy;
+    Q_EMIT busyChanged(busy);
+}
+
+void OutputCommands::waitUntilIdle()
+{
+    if (!m_busy)
+        return;
+    QEventLoop loop;
+    connect(this, &OutputCommands::busyChanged, &loop, [&loop](bool busy) {
+        if (!busy)
+            loop.quit();
+    });
+    loop.exec();
+}
 
 } // namespace tabo

@@ -84,6 +84,22 @@ public:
 
     // Renders the current page into `path` and waits (command line).
     bool renderCurrentToFile(const QString &path);
+    // Renders any page into `path` and waits (the design preview of the
+    // command line).
+    bool renderHtmlToFile(const QString &html, const QString &path);
+    // Returns once no rendering is running any more.
+    void waitUntilIdle();
+
+    // The letter mode of the next renderings without rendering (command line).
+    void setLetterMode(const LetterMode &mode) { m_mode = mode; }
+    // Renders with this design instead of the library's default until reset
+    // with nullptr; the library itself is not changed.
+    void setDesignOverride(const Record *design) { m_designOverride = design; }
+    // The design pages are rendered with: the override, else the default.
+    const Record *renderDesign() const;
+    // The printer a job goes to unless the print dialog picks another
+    // (empty: the system's default).
+    void setPrinter(const QString &printer) { m_printer = printer; }
 
     // True while a rendering runs.
     bool isBusy() const { return m_busy; }
@@ -102,8 +118,14 @@ Q_SIGNALS:
 
 private:
     enum class Target { Preview, Export, DesignChoice };
-    void renderInto(Target target);
+    void renderInto(Target target, const Record *design);
     void finishRender(Target target, bool ok);
+    void setBusy(int delta);
+    bool canRender();
+    void failureAlert(Target target);
+    bool printWorkingPdf(const Record &invoice);
+    bool savePdf(const Record &invoice);
+    bool emailPdf(const Record &invoice);
 
     AppController &m_app;
     std::unique_ptr<Formatters> m_formatters;
@@ -112,6 +134,9 @@ private:
     LetterMode m_mode;
     int m_exportKind = 0;
     bool m_busy = false;
+    int m_running = 0;
+    const Record *m_designOverride = nullptr;
+    QString m_printer;
 };
 
 } // namespace tabo

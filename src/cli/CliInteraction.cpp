@@ -60,10 +60,12 @@ QString CliInteraction::saveFile(const FileRequest &)
     return m_panelPath;
 }
 
-// There is no dialog on the command line: the options chose the printer.
+// There is no dialog on the command line: the options chose the printer, or
+// the request keeps the one it came with.
 bool CliInteraction::printDialog(PrintRequest &request)
 {
-    request.printer = m_printer;
+    if (!m_printer.isEmpty())
+        request.printer = m_printer;
     return true;
 }
 

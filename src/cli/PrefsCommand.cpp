@@ -1,5 +1,6 @@
 #include "cli/PrefsCommand.h"
 
+#include "app/AppController.h"
 #include "cli/Console.h"
 #include "cli/Session.h"
 #include "prefs/Preferences.h"
@@ -56,13 +57,9 @@ int PrefsCommand::installLanguage(const QString &number)
     const qint64 n = number.toLongLong(&ok);
     if (!ok)
         return usageError(QStringLiteral("“%1” is not a number.").arg(number));
-    Preferences &prefs = m_session.prefs();
-    prefs.setInteger(Preferences::languageDefaults, n);
-    if (prefs.installLanguageDefaults()) {
-        prefs.sync();
+    // The assistant's first step: also installs the built-in designs once.
+    if (m_session.controller().firstAssiTabAction(n))
         return kExitOk;
-    }
-    prefs.sync();
     // The first-start assistant goes on without defaults; so do we.
     if (Preferences::languageDefaultsResource(n).isEmpty()) {
         printError(QStringLiteral("No language defaults for %1; nothing was installed.").arg(n));

@@ -8,23 +8,29 @@
 #include "cli/ConvertCommand.h"
 #include "cli/DeleteCommand.h"
 #include "cli/DeleteItemCommand.h"
+#include "cli/DesignCommand.h"
 #include "cli/DiscountCommand.h"
 #include "cli/DumpCommand.h"
 #include "cli/DuplicateCommand.h"
+#include "cli/EmailCommand.h"
 #include "cli/ExportCommand.h"
 #include "cli/ExportXmlCommand.h"
 #include "cli/ImportCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/NewCommand.h"
 #include "cli/PrefsCommand.h"
+#include "cli/PrintCommand.h"
+#include "cli/RenderCommand.h"
 #include "cli/RestoreCommand.h"
 #include "cli/Session.h"
 #include "cli/SetCommand.h"
 #include "cli/ShippingCommand.h"
 #include "cli/ShowCommand.h"
 #include "cli/TemplateCommand.h"
+#include "render/PdfEngine.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLoggingCategory>
 
 #include <memory>
@@ -46,15 +52,47 @@ QString usageText(const std::vector<std::unique_ptr<Command>> &commands)
     return lines.join(QLatin1Char('\n'));
 }
 
+// Only the commands that turn pages into PDF pay for the GUI application the
+// web engine needs; the others stay quick core programs.
+bool rendersPages(int argc, char *argv[])
+{
+    if (argc < 2)
+        return false;
+    const QByteArray name = argv[1];
+    if (name == "print" || name == "email")
+        return true;
+    QStringList rest;
+    for (int i = 2; i < argc; ++i)
+        rest << QString::fromLocal8Bit(argv[i]);
+    if (name == "design")
+        return DesignCommand::rendersPages(rest);
+    if (name != "render")
+        return false;
+    for (const QString &arg : std::as_const(rest)) {
+        if (arg == QLatin1String("--"))
+            break;
+        if (arg.startsWith(QLatin1String("--pdf")) || arg.startsWith(QLatin1String("--out")))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("tabo-cli"));
     // The core's diagnostics would break the one-line-per-failure contract on
-    // stderr; QT_LOGGING_RULES still turns them back on.
+    // stderr (the GUI application warns while it starts); QT_LOGGING_RULES
+    // still turns them back on.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false\n*.warning=false"));
+    std::unique_ptr<QCoreApplication> application;
+    if (rendersPages(argc, argv)) {
+        tabo::PdfEngine::prepareApplication();
+        application = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    QCoreApplication::setApplicationName(QStringLiteral("tabo-cli"));
 
     Session session;
     std::vector<std::unique_ptr<Command>> commands;
@@ -81,6 +119,10 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<BackupCommand>(session));
     commands.push_back(std::make_unique<RestoreCommand>(session));
     commands.push_back(std::make_unique<AccountingExportCommand>(session));
+    commands.push_back(std::make_unique<RenderCommand>(session));
+    commands.push_back(std::make_unique<PrintCommand>(session));
+    commands.push_back(std::make_unique<EmailCommand>(session));
+    commands.push_back(std::make_unique<DesignCommand>(session));
 
     QStringList args = QCoreApplication::arguments().mid(1);
     if (args.isEmpty()) {

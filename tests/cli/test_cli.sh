@@ -317,6 +317,98 @@ pcheck "$(head -n 1 <<<"$OUT")" 'd == []'
 run 2 accounting-export vorlux --kind 3
 run 2 accounting-export vorlux --to soon
 
+# --- designs, rendering, print and e-mail -------------------------------------
+# A library that has never been filled says how to fill it.
+XDG_DATA_HOME=$T/nodesign/data XDG_CONFIG_HOME=$T/nodesign/config run 1 design list
+grep -q "No design available. Please download or create a design. .*design add" "$T/err" || bad "empty library gives a hint"
+XDG_DATA_HOME=$T/nodesign/data XDG_CONFIG_HOME=$T/nodesign/config run 0 design list --json
+
+run 0 design list --json; NDES=$(jval 'len(d)'); CUR=$(jval '[x["title"] for x in d if x["current"]][0]')
+[ "$NDES" -ge 1 ] && pass=$((pass + 1)) || bad "designs installed with the store"
+run 0 design add Mine; DID=$OUT
+run 0 design list --json
+jcheck 'len(d) == '"$((NDES + 1))"' and [x["isDefault"] for x in d if x["title"] == "Mine"] == [False]'
+run 0 design default Mine
+run 0 design list
+grep -qx '\* Mine' <<<"$OUT" || bad "the default design is starred: $OUT"
+run 0 design export Mine "$T/mine.design"
+run 1 design delete Mine # not without consent
+run 0 design delete Mine --yes
+run 1 design export Mine "$T/gone.design"
+grep -q "Mine" "$T/err" || bad "unknown design named"
+run 0 design import "$T/mine.design"
+expect "imported design" "$OUT" "Mine"
+run 0 design list --json
+jcheck '[(x["uniqueID"], x["isDefault"]) for x in d if x["title"] == "Mine"] == [("'"$DID"'", False)] and not any(x["current"] for x in d)'
+run 0 design default "$CUR"
+run 1 design default Nope
+run 1 design import "$T/e.xml"
+run 2 design rename Mine
+run 2 design list --design Mine
+
+run 2 render "$E"
+run 2 render "$E" --html "$T/a" --pdf "$T/b"
+run 2 render "$E" --html "$T/a" --reminder --slip
+run 2 render --all --pdf "$T/x.pdf"
+run 2 render "$E" --filter 1 --out "$T/o"
+run 1 render "$E" --pdf "$T/x.pdf" --design Nope
+grep -q "Nope" "$T/err" && [ ! -e "$T/x.pdf" ] && pass=$((pass + 1)) || bad "unknown design refused"
+run 1 render NO-SUCH-DOCUMENT --html "$T/x.html"
+run 0 render "$E" --html "$T/e.html"
+grep -q "Erika Muster" "$T/e.html" || bad "page has the client"
+run 0 render "$E" --html "$T/mine.html" --design Mine
+cmp -s "$T/e.html" "$T/mine.html" && bad "--design renders another design" || pass=$((pass + 1))
+run 0 design list
+grep -qx "\* $CUR" <<<"$OUT" || bad "--design leaves the library's default"
+
+if command -v pdftotext >/dev/null; then
+    run 0 render "$E" --pdf "$T/e.pdf"
+    grep -q "Erika Muster" <(pdftotext "$T/e.pdf" -) || bad "PDF has the client"
+    run 0 prefs set locReminder "Second Reminder"
+    run 0 render "$E" --pdf "$T/r.pdf" --reminder
+    grep -q "Second Reminder" <(pdftotext "$T/r.pdf" -) || bad "reminder title in the PDF"
+    run 0 render "$E" --pdf "$T/s.pdf" --slip
+    grep -q "Delivery Slip" <(pdftotext "$T/s.pdf" -) || bad "slip title in the PDF"
+    run 0 design preview "$T/preview.pdf" --design Mine
+    grep -q "Lindqvist" <(pdftotext "$T/preview.pdf" -) || bad "design preview shows the sample client"
+    run 1 design preview "$T/preview.pdf" --design Nope
+
+    run 0 list --json; NDOC=$(jval 'len(d["documents"])')
+    run 0 render --all --out "$T/pdfs"
+    expect "files listed" "$(wc -l <<<"$OUT")" "$NDOC"
+    expect "files written" "$(find "$T/pdfs" -name '*.pdf' | wc -l)" "$NDOC"
+    run 0 render "$E" "$E" --out "$T/twice"
+    expect "same number, two names" "$(ls "$T/twice" | wc -l)" 2
+
+    # Stand-ins record what would go to the print system and the mail program.
+    mkdir -p "$T/bin"
+    for p in lp xdg-email; do
+        printf '#!/bin/sh\nprintf "%%s\\n" "$@" >"%s/%s.args"\n' "$T" "$p" >"$T/bin/$p"
+        chmod +x "$T/bin/$p"
+    done
+    run 0 prefs set markInvoiceAsSent 1
+    run 0 prefs set tempEmailBody "Hello"
+    run 0 new invoice; S=$OUT
+    run 0 add-item "$S" title=Print price=5 quantity=1
+    run 0 set "$S" emailAddress buyer@example.org
+    run 0 set "$S" title Invoice
+    run 0 prefs set prefsName Acme
+    PATH="$T/bin:$PATH" run 0 print "$S" --printer Office
+    grep -qx "Office" "$T/lp.args" && grep -qx "Acme | Invoice | .*" "$T/lp.args" || bad "lp got printer and title: $(tr '\n' ' ' <"$T/lp.args")"
+    run 0 show "$S" --json
+    jcheck 'd["status"] == 1'
+    run 0 set "$S" status 3
+    PATH="$T/bin:$PATH" run 0 email "$S"
+    grep -qx -- "-\{96\}" "$T/xdg-email.args" && grep -qx "buyer@example.org" "$T/xdg-email.args" \
+        && grep -q "PDFInvoice.pdf$" "$T/xdg-email.args" || bad "xdg-email got body, attachment and recipient"
+    run 0 show "$S" --json
+    jcheck 'd["status"] == 1'
+    printf '#!/bin/sh\necho "lp: The printer or class does not exist." >&2\nexit 1\n' >"$T/bin/lp"
+    PATH="$T/bin:$PATH" run 1 print "$S" --printer Nowhere
+    grep -q "does not exist" "$T/err" || bad "print failure told"
+    run 0 prefs set markInvoiceAsSent 0
+fi
+
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
 printf 'not a database, just text\n' >"$T/other/data/Tabo/Tabo.mbdb"

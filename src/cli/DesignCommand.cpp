@@ -1,0 +1,188 @@
+#include "cli/DesignCommand.h"
+
+#include "app/AppController.h"
+#include "app/OutputCommands.h"
+#include "cli/Console.h"
+#include "cli/JsonWriter.h"
+#include "cli/OutputRun.h"
+#include "cli/Session.h"
+#include "designs/DesignLibrary.h"
+#include "designs/SampleDocument.h"
+#include "domain/Record.h"
+
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+namespace {
+
+const QString kNoDesign = QStringLiteral("No design available. Please download or create a design.");
+
+} // namespace
+
+DesignCommand::DesignCommand(Session &session)
+    : Command(session, QStringLiteral("design"),
+              QStringLiteral("list [--json] | add [TITLE] | delete TITLE [--yes] | default TITLE | import FILE | "
+                             "export TITLE FILE | preview FILE.pdf [--design TITLE]"),
+              QStringLiteral("Manage the designs documents are rendered with; preview writes the sample document "
+                             "through a design (the default one unless --design) as a PDF. TITLE may also be a "
+                             "design's unique ID."))
+{
+}
+
+bool DesignCommand::rendersPages(const QStringList &args)
+{
+    return !args.isEmpty() && args.constFirst() == QLatin1String("preview");
+}
+
+int DesignCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
+    const QCommandLineOption design(QStringLiteral("design"), QStringLiteral("Design to preview."),
+                                    QStringLiteral("TITLE"));
+    parser.addOptions({json, design});
+    int code = kExitOk;
+    if (!parseConfirmed(parser, args, 1, 3, &code))
+        return code;
+    const QStringList pos = parser.positionalArguments();
+    const QString &action = pos.at(0);
+    const qsizetype n = pos.size();
+    if (parser.isSet(json) && action != QLatin1String("list"))
+        return usageError(QStringLiteral("--json belongs to “design list”."));
+    if (parser.isSet(design) && action != QLatin1String("preview"))
+        return usageError(QStringLiteral("--design belongs to “design preview”."));
+    if (action == QLatin1String("list") && n == 1)
+        return list(parser.isSet(json));
+    if (action == QLatin1String("add") && n <= 2)
+        return add(n == 2 ? pos.at(1) : QString());
+    if (action == QLatin1String("delete") && n == 2)
+        return remove(pos.at(1));
+    if (action == QLatin1String("default") && n == 2)
+        return makeDefault(pos.at(1));
+    if (action == QLatin1String("import") && n == 2)
+        return importFile(pos.at(1));
+    if (action == QLatin1String("export") && n == 3)
+        return exportFile(pos.at(1), pos.at(2));
+    if (action == QLatin1String("preview") && n == 2) {
+        const QString title = parser.value(design);
+        return preview(pos.at(1), parser.isSet(design) ? &title : nullptr);
+    }
+    return usageError();
+}
+
+int DesignCommand::list(bool json)
+{
+    if (!m_session.store())
+        return kExitFailure;
+    DesignLibrary &library = m_session.controller().designs();
+    const QList<Record *> designs = library.designs();
+    const Record *current = library.currentDesign();
+    if (json) {
+        QStringList entries;
+        for (const Record *d : designs)
+            entries << QStringLiteral("{\"title\": %1, \"uniqueID\": %2, \"isDefault\": %3, \"current\": %4}")
+                           .arg(JsonWriter::string(d->text(Design::title)),
+                                JsonWriter::string(d->text(Design::uniqueID)),
+                                d->boolean(Design::isDefault) ? QStringLiteral("true") : QStringLiteral("false"),
+                                d == current ? QStringLiteral("true") : QStringLiteral("false"));
+        printOut(QLatin1Char('[') + entries.join(QStringLiteral(",\n")) + QLatin1Char(']'));
+        return kExitOk;
+    }
+    if (designs.isEmpty())
+        return failure(kNoDesign
+                       + QStringLiteral(" Run “tabo-cli prefs install-language N” to install the built-in designs, "
+                                        "or “tabo-cli design add”."));
+    // The one pages are rendered with is starred.
+    QStringList lines;
+    for (const Record *d : designs)
+        lines << (d == current ? QStringLiteral("* ") : QStringLiteral("  ")) + d->text(Design::title);
+    printOut(lines.join(QLatin1Char('\n')));
+    return kExitOk;
+}
+
+int DesignCommand::add(const QString &title)
+{
+    if (!m_session.store())
+        return kExitFailure;
+    Record *design = m_session.controller().designs().addDesign();
+    if (!design)
+        return failure(QStringLiteral("The design could not be added."));
+    // The window starts editing the title here; the command line takes it as an argument.
+    if (!title.isEmpty()) {
+        design->setText(Design::title, title);
+        if (m_session.controller().saveContext())
+            return kExitFailure;
+    }
+    printOut(design->text(Design::uniqueID));
+    return kExitOk;
+}
+
+int DesignCommand::remove(const QString &title)
+{
+    QString error;
+    Record *design = OutputRun::design(m_session, title, &error);
+    if (!design)
+        return error.isEmpty() ? kExitFailure : failure(error);
+    return m_session.controller().designs().deleteDesign(design) ? kExitOk : kExitFailure;
+}
+
+int DesignCommand::makeDefault(const QString &title)
+{
+    QString error;
+    Record *design = OutputRun::design(m_session, title, &error);
+    if (!design)
+        return error.isEmpty() ? kExitFailure : failure(error);
+    m_session.controller().designs().makeDefaultDesign(design);
+    return m_session.controller().saveContext() ? kExitFailure : kExitOk;
+}
+
+int DesignCommand::importFile(const QString &path)
+{
+    if (!m_session.store())
+        return kExitFailure;
+    QString error;
+    Record *design = m_session.controller().designs().importDesignFile(path, &error);
+    if (!design)
+        return failure(error.isEmpty() ? QStringLiteral("“%1” is not a design file.").arg(path) : error);
+    if (m_session.controller().saveContext())
+        return kExitFailure;
+    printOut(design->text(Design::title));
+    return kExitOk;
+}
+
+int DesignCommand::exportFile(const QString &title, const QString &path)
+{
+    QString error;
+    const Record *design = OutputRun::design(m_session, title, &error);
+    if (!design)
+        return error.isEmpty() ? kExitFailure : failure(error);
+    if (!m_session.controller().designs().exportDesignFile(design, path, &error))
+        return failure(error.isEmpty() ? QStringLiteral("“%1” could not be written.").arg(path) : error);
+    return kExitOk;
+}
+
+int DesignCommand::preview(const QString &path, const QString *title)
+{
+    if (!m_session.store())
+        return kExitFailure;
+    OutputCommands &outputs = m_session.controller().outputs();
+    const Record *design = nullptr;
+    if (title) {
+        QString error;
+        design = OutputRun::design(m_session, *title, &error);
+        if (!design)
+            return failure(error);
+    } else {
+        if (!outputs.checkDesignsAvailable())
+            return kExitFailure;
+        design = m_session.controller().designs().currentDesign();
+    }
+    const SampleDocument sample(m_session.prefs());
+    const QString html = outputs.renderer().invoiceHTMLString(design, sample.invoice(), sample.items());
+    if (!outputs.renderHtmlToFile(html, path))
+        return failure(QStringLiteral("The PDF file “%1” could not be created.").arg(path));
+    return kExitOk;
+}
+
+} // namespace tabo::cli

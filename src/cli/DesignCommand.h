@@ -1,0 +1,29 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace tabo::cli {
+
+// design: the design library (list, add, delete, make default, import,
+// export) and a preview of a design filled with the sample document.
+class DesignCommand : public Command
+{
+public:
+    explicit DesignCommand(Session &session);
+    int execute(const QStringList &args) override;
+
+    // Whether `args` (the words after "design") ask for a rendering, which
+    // needs the GUI application.
+    static bool rendersPages(const QStringList &args);
+
+private:
+    int list(bool json);
+    int add(const QString &title);
+    int remove(const QString &title);
+    int makeDefault(const QString &title);
+    int importFile(const QString &path);
+    int exportFile(const QString &title, const QString &path);
+    int preview(const QString &path, const QString *title);
+};
+
+} // namespace tabo::cli

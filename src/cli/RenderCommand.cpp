@@ -1,0 +1,161 @@
+#include "cli/RenderCommand.h"
+
+#include "app/AppController.h"
+#include "app/OutputCommands.h"
+#include "cli/Console.h"
+#include "cli/OutputRun.h"
+#include "cli/Session.h"
+#include "domain/Record.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QSaveFile>
+#include <QSet>
+
+namespace tabo::cli {
+
+RenderCommand::RenderCommand(Session &session)
+    : Command(session, QStringLiteral("render"),
+              QStringLiteral("ID --html FILE | ID --pdf FILE | ID... --out DIR | --all [--filter TAG] --out DIR "
+                             "[--reminder | --slip] [--design TITLE]"),
+              QStringLiteral("Write a document's page as HTML or PDF (as a payment reminder or delivery slip with "
+                             "the sheet's default texts), or one PDF per document, named after its number, into a "
+                             "folder. --design renders through that design instead of the default one."))
+{
+}
+
+int RenderCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption html(QStringLiteral("html"), QStringLiteral("HTML file to write."), QStringLiteral("FILE"));
+    const QCommandLineOption pdf(QStringLiteral("pdf"), QStringLiteral("PDF file to write."), QStringLiteral("FILE"));
+    const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Folder for one PDF per document."),
+                                 QStringLiteral("DIR"));
+    const QCommandLineOption all(QStringLiteral("all"), QStringLiteral("Every document the list shows."));
+    const QCommandLineOption filter(QStringLiteral("filter"), QStringLiteral("Filter tag (with --all)."),
+                                    QStringLiteral("TAG"));
+    const QCommandLineOption reminder(QStringLiteral("reminder"), QStringLiteral("As a payment reminder."));
+    const QCommandLineOption slip(QStringLiteral("slip"), QStringLiteral("As a delivery slip."));
+    const QCommandLineOption design(QStringLiteral("design"), QStringLiteral("Design to render with."),
+                                    QStringLiteral("TITLE"));
+    parser.addOptions({html, pdf, out, all, filter, reminder, slip, design});
+    int code = kExitOk;
+    if (!parse(parser, args, 0, -1, &code))
+        return code;
+    const QStringList ids = parser.positionalArguments();
+    if (int(parser.isSet(html)) + int(parser.isSet(pdf)) + int(parser.isSet(out)) != 1)
+        return usageError(QStringLiteral("Give one of --html, --pdf and --out."));
+    if (parser.isSet(reminder) && parser.isSet(slip))
+        return usageError(QStringLiteral("Give at most one of --reminder and --slip."));
+    if (parser.isSet(filter) && !parser.isSet(all))
+        return usageError(QStringLiteral("--filter goes with --all."));
+    if (parser.isSet(all) && !ids.isEmpty())
+        return usageError(QStringLiteral("Give IDs or --all, not both."));
+    if (!parser.isSet(out) && (parser.isSet(all) || ids.size() != 1))
+        return usageError(QStringLiteral("--html and --pdf write one document; use --out DIR for several."));
+    if (parser.isSet(out) && ids.isEmpty() && !parser.isSet(all))
+        return usageError(QStringLiteral("Missing argument."));
+    bool ok = true;
+    const unsigned tag = parser.isSet(filter) ? parser.value(filter).toUInt(&ok) : 0;
+    if (!ok)
+        return usageError(QStringLiteral("“%1” is not a filter tag.").arg(parser.value(filter)));
+
+    if (!m_session.store())
+        return kExitFailure;
+    AppController &app = m_session.controller();
+    OutputCommands &outputs = app.outputs();
+    if (parser.isSet(design)) {
+        QString error;
+        const Record *chosen = OutputRun::design(m_session, parser.value(design), &error);
+        if (!chosen)
+            return failure(error);
+        outputs.setDesignOverride(chosen);
+    } else if (!outputs.checkDesignsAvailable()) {
+        return kExitFailure;
+    }
+    LetterMode mode;
+    mode.isReminderAction = parser.isSet(reminder);
+    mode.isSlipAction = parser.isSet(slip);
+    if (mode.isReminderAction)
+        mode.reminder = outputs.openReminderSheet();
+    if (mode.isSlipAction)
+        mode.slip = outputs.openSlipSheet();
+    outputs.setLetterMode(mode);
+
+    QList<Record *> documents;
+    if (parser.isSet(all)) {
+        app.setFilterTag(tag);
+        app.setFilterPredicate();
+        documents = app.documentList().arranged();
+    } else {
+        // Every ID is checked before anything is written.
+        for (const QString &id : ids) {
+            Record *doc = m_session.document(id);
+            if (!doc)
+                return kExitFailure;
+            documents << doc;
+        }
+    }
+    if (parser.isSet(html))
+        return writeHtml(documents.constFirst(), parser.value(html));
+    if (parser.isSet(pdf))
+        return writePdf(documents.constFirst(), parser.value(pdf));
+    return writeFolder(documents, parser.value(out));
+}
+
+int RenderCommand::writeHtml(Record *document, const QString &path)
+{
+    m_session.controller().setCurrentInvoice(document);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(m_session.controller().outputs().invoiceHTMLString().toUtf8()) < 0
+        || !file.commit())
+        return failure(QStringLiteral("“%1” could not be written: %2").arg(path, file.errorString()));
+    return kExitOk;
+}
+
+int RenderCommand::writePdf(Record *document, const QString &path)
+{
+    m_session.controller().setCurrentInvoice(document);
+    if (!m_session.controller().outputs().renderCurrentToFile(path))
+        return failure(QStringLiteral("The PDF file “%1” could not be created.").arg(path));
+    return kExitOk;
+}
+
+int RenderCommand::writeFolder(const QList<Record *> &documents, const QString &dir)
+{
+    if (!QDir().mkpath(dir))
+        return failure(QStringLiteral("The folder “%1” could not be created.").arg(dir));
+    QSet<QString> taken;
+    for (Record *doc : documents) {
+        const QString base = safeFileName(doc->text(Invoice::number), doc->text(Invoice::uniqueID));
+        QString name = base;
+        // Numbers need not be unique (a quote and an invoice, an edited pattern).
+        for (int n = 2; taken.contains(name.toLower()); ++n)
+            name = QStringLiteral("%1 (%2)").arg(base).arg(n);
+        taken.insert(name.toLower());
+        const QString path = QDir(dir).filePath(name + QStringLiteral(".pdf"));
+        if (const int code = writePdf(doc, path); code != kExitOk)
+            return code;
+        printOut(path);
+    }
+    return kExitOk;
+}
+
+QString RenderCommand::safeFileName(const QString &number, const QString &fallback)
+{
+    static const QString refused = QStringLiteral("/\\:*?\"<>|");
+    QString name = number;
+    for (QChar &c : name) {
+        if (refused.contains(c) || c.category() == QChar::Other_Control)
+            c = QLatin1Char('-');
+    }
+    name = name.trimmed();
+    while (name.startsWith(QLatin1Char('.')))
+        name.remove(0, 1);
+    name.truncate(200);
+    if (name.isEmpty())
+        return fallback.isEmpty() ? QStringLiteral("document") : safeFileName(fallback, QString());
+    return name;
+}
+
+} // namespace tabo::cli

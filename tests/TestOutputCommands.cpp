@@ -1,0 +1,308 @@
+// Preview, export sheet, print, PDF and e-mail of the current document, with
+// stand-ins for `lp` and `xdg-email` and the PDFs read back with poppler-utils.
+
+#include "TestSupport.h"
+
+#include "app/ItemCommands.h"
+#include "app/OutputCommands.h"
+#include "designs/DesignLibrary.h"
+#include "domain/Record.h"
+#include "render/Formatters.h"
+#include "render/PdfEngine.h"
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace tabo;
+using P = Preferences;
+
+namespace {
+
+QString tool(const QString &name, const QStringList &args)
+{
+    QProcess p;
+    p.start(name, args);
+    p.waitForFinished(30000);
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+QString pdfText(const QString &pdf)
+{
+    return tool(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")}).simplified();
+}
+
+struct Fixture : test::ControllerFixture
+{
+    FixedClock clock{test::utc(2026, 3, 1)};
+    OutputCommands &out = app.outputs();
+    Record *doc = nullptr;
+
+    explicit Fixture(bool designs = true)
+    {
+        Clock::setInstance(&clock);
+        app.managedObjectContext();
+        if (designs)
+            app.designs().loadTemplates();
+        prefs.setString(P::prefsName, QStringLiteral("Acme Studio"));
+        doc = app.addInvoice();
+        doc->setText(Invoice::customerName, QStringLiteral("Erika Muster"));
+        doc->setText(Invoice::title, QStringLiteral("Invoice"));
+        doc->setText(Invoice::emailAddress, QStringLiteral("erika@example.org"));
+        doc->setDate(Invoice::due, test::utc(2026, 4, 1));
+        QString error;
+        app.items().addItem({QStringLiteral("Consulting"), {}, {}, {}, {}, QStringLiteral("1234.5"),
+                             QStringLiteral("2"), false, false, false},
+                            &error);
+        app.documentChanged(doc);
+    }
+    ~Fixture() { Clock::setInstance(nullptr); }
+
+    // Renders for the export sheet of `kind` and presses OK.
+    bool exportAs(int kind)
+    {
+        QSignalSpy ready(&out, &OutputCommands::exportReady);
+        if (!out.openExport(kind) || (ready.isEmpty() && !ready.wait(60000)))
+            return false;
+        out.exportCommand();
+        return !out.isBusy();
+    }
+};
+
+} // namespace
+
+class TestOutputCommands : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_bin;
+
+    // The arguments of the last run of a stand-in, or empty when it did not run.
+    QStringList standInArgs(const QString &name)
+    {
+        QFile f(m_bin.filePath(name + QStringLiteral(".args")));
+        if (!f.open(QIODevice::ReadOnly))
+            return {};
+        QStringList args = QString::fromUtf8(f.readAll()).split(QChar(0));
+        args.removeLast();
+        f.remove();
+        return args;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (const char *name : {"lp", "xdg-email"}) {
+            QFile script(m_bin.filePath(name));
+            QVERIFY(script.open(QIODevice::WriteOnly));
+            script.write(QStringLiteral("#!/bin/sh\nprintf '%s\\0' \"$@\" > '%1.args'\n")
+                             .arg(m_bin.filePath(name))
+                             .toUtf8());
+            script.close();
+            script.setPermissions(script.permissions() | QFile::ExeOwner);
+        }
+        qputenv("PATH", m_bin.path().toUtf8() + ':' + qgetenv("PATH"));
+    }
+
+    void refusesWithoutDesigns()
+    {
+        Fixture f(false);
+        QVERIFY(!f.out.showPreview());
+        QVERIFY(!f.out.openExport(OutputCommands::Print));
+        QVERIFY(!f.out.openExport(OutputCommands::Email));
+        QCOMPARE(f.ui.alerts.size(), 3);
+        QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Error!"));
+        QCOMPARE(f.ui.lastAlertText(), QStringLiteral("No design available. Please download or create a design."));
+        QCOMPARE(f.ui.alerts.last().buttons, QStringList{QStringLiteral("OK")});
+        f.out.selectDesign(0);
+        QCOMPARE(f.ui.alerts.size(), 4);
+        QVERIFY(!QFile::exists(f.app.pdfPath()));
+        QVERIFY(!f.out.isBusy());
+    }
+
+    void previewAndLetters()
+    {
+        if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+            QSKIP("pdftotext (poppler-utils) is missing");
+        Fixture f;
+        f.prefs.setString(P::locReminder, QStringLiteral("Payment Reminder"));
+        f.prefs.setString(P::tempRemConditions, QStringLiteral("Please pay within seven days."));
+        f.prefs.setString(P::locSlip, QStringLiteral("Delivery Slip"));
+        f.prefs.setString(P::tempSlipFooter, QStringLiteral("Handle with care"));
+        QSignalSpy ready(&f.out, &OutputCommands::previewReady);
+
+        const LetterTexts reminder = f.out.openReminderSheet();
+        QCOMPARE(reminder.title, QStringLiteral("Payment Reminder"));
+        QCOMPARE(reminder.conditions, QStringLiteral("Please pay within seven days."));
+        f.out.generateReminder(reminder);
+        QVERIFY(f.out.isReminderAction() && !f.out.isSlipAction());
+        QVERIFY(ready.wait(60000));
+        QString text = pdfText(ready.last().at(0).toString());
+        QVERIFY2(text.contains(QStringLiteral("Payment Reminder")), qPrintable(text));
+        QVERIFY(text.contains(QStringLiteral("Please pay within seven days.")));
+
+        const LetterTexts slip = f.out.openSlipSheet();
+        QCOMPARE(slip.footer, QStringLiteral("Handle with care"));
+        f.out.generateSlip(slip);
+        QVERIFY(f.out.isSlipAction() && !f.out.isReminderAction());
+        QVERIFY(ready.wait(60000));
+        text = pdfText(f.app.pdfPath());
+        QVERIFY2(text.contains(QStringLiteral("Delivery Slip")) && text.contains(QStringLiteral("Handle with care")),
+                 qPrintable(text));
+
+        f.prefs.setBool(P::isMainPreviewAction, false);
+        QVERIFY(f.out.showPreview());
+        QVERIFY(!f.out.isReminderAction() && !f.out.isSlipAction());
+        QVERIFY(f.prefs.boolean(P::isMainPreviewAction));
+        QVERIFY(ready.wait(60000));
+        text = pdfText(f.app.pdfPath());
+        QVERIFY2(text.contains(QStringLiteral("Erika Muster")), qPrintable(text));
+        QVERIFY2(text.contains(f.out.formatters().stringFromNumber(2469)), qPrintable(text));
+        QVERIFY(!text.contains(QStringLiteral("Delivery Slip")));
+        QVERIFY(f.ui.alerts.isEmpty() && !f.out.isBusy());
+    }
+
+    void paperAndMargins()
+    {
+        if (QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty())
+            QSKIP("pdfinfo (poppler-utils) is missing");
+        Fixture f;
+        QSignalSpy ready(&f.out, &OutputCommands::previewReady);
+        auto render = [&](qint64 paper, bool borderless) {
+            f.prefs.setInteger(P::tempPaperSize, paper);
+            f.prefs.setBool(P::printBorderless, borderless);
+            f.out.generatePreview();
+            if (!ready.wait(60000))
+                return QString();
+            static const QRegularExpression size(QStringLiteral("Page size:\\s*(.*)"));
+            return size.match(tool(QStringLiteral("pdfinfo"), {f.app.pdfPath()})).captured(1).trimmed();
+        };
+        // The left edge of the leftmost word on page 1.
+        auto left = [&] {
+            const QString bbox = tool(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-l"),
+                                                                    QStringLiteral("1"), f.app.pdfPath(),
+                                                                    QStringLiteral("-")});
+            double x = 1e9;
+            const QRegularExpression re(QStringLiteral("<word xMin=\"([\\d.]+)\""));
+            for (auto it = re.globalMatch(bbox); it.hasNext();)
+                x = std::min(x, it.next().captured(1).toDouble());
+            return x;
+        };
+        // The engine rounds to whole pixels; pdfinfo still names the paper.
+        QVERIFY(render(2, false).endsWith(QStringLiteral("pts (A4)")));
+        const double framed = left();
+        QVERIFY(render(7, true).endsWith(QStringLiteral("pts (letter)")));
+        const double borderless = left();
+        QVERIFY2(qAbs(framed - borderless - 40) < 1.5, qPrintable(QStringLiteral("%1 %2").arg(framed).arg(borderless)));
+    }
+
+    void exportPathsMarkAsSent()
+    {
+        Fixture f;
+        f.prefs.setBool(P::markInvoiceAsSent, true);
+        f.prefs.setString(P::tempEmailBody, QStringLiteral("Dear Erika,\nplease find the invoice attached."));
+        const QString title = f.out.jobTitle(*f.doc);
+        QCOMPARE(title, QStringLiteral("Acme Studio | Invoice | %1").arg(f.doc->text(Invoice::number)));
+        auto reset = [&](int status) {
+            f.doc->setInt(Invoice::status, status);
+            f.app.documentChanged(f.doc);
+        };
+
+        reset(3); // paid: printing again opens it again
+        QVERIFY(f.exportAs(OutputCommands::Print));
+        QCOMPARE(f.prefs.string(P::currentPrintJobTitle), title);
+        const QStringList lp = standInArgs(QStringLiteral("lp"));
+        QVERIFY2(lp.contains(title) && lp.last() == f.app.pdfPath(), qPrintable(lp.join(u' ')));
+        QCOMPARE(f.doc->integer(Invoice::status), 1);
+
+        reset(0);
+        f.prefs.setInteger(P::printBehavior, 1);
+        f.ui.printAnswer = false;
+        QVERIFY(f.exportAs(OutputCommands::Print));
+        QCOMPARE(f.ui.printRequests.size(), 1);
+        QCOMPARE(f.ui.printRequests.last().jobTitle, title);
+        QVERIFY(standInArgs(QStringLiteral("lp")).isEmpty());
+        QCOMPARE(f.doc->integer(Invoice::status), 1);
+
+        reset(0);
+        QVERIFY(f.exportAs(OutputCommands::SavePdf)); // the panel is cancelled
+        QCOMPARE(f.ui.fileRequests.last().title, QStringLiteral("Export As PDF File"));
+        QCOMPARE(f.ui.fileRequests.last().extensions, QStringList{QStringLiteral("pdf")});
+        QVERIFY(f.ui.fileRequests.last().canCreateFolders);
+        QCOMPARE(f.doc->integer(Invoice::status), 1);
+
+        reset(0);
+        const QString saved = f.home.path() + QStringLiteral("/out/invoice.pdf");
+        QDir().mkpath(f.home.path() + QStringLiteral("/out"));
+        QFile old(saved);
+        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+        old.close();
+        f.ui.files << saved;
+        QVERIFY(f.exportAs(OutputCommands::SavePdf));
+        QFile pdf(saved);
+        QVERIFY(pdf.open(QIODevice::ReadOnly) && pdf.read(5) == "%PDF-");
+        QCOMPARE(f.doc->integer(Invoice::status), 1);
+
+        reset(0);
+        QVERIFY(f.exportAs(OutputCommands::Email));
+        const QStringList mail = standInArgs(QStringLiteral("xdg-email"));
+        const QString body = QStringLiteral("Dear Erika,\nplease find the invoice attached.\n\n\n")
+                             + QString(96, u'-') + QStringLiteral("\n\n");
+        QCOMPARE(mail, (QStringList{QStringLiteral("--subject"), title, QStringLiteral("--body"), body,
+                                    QStringLiteral("--attach"), f.app.pdfEmailPath(),
+                                    QStringLiteral("erika@example.org")}));
+        QVERIFY(QFile::exists(f.app.pdfEmailPath()));
+        QCOMPARE(f.doc->integer(Invoice::status), 1);
+
+        reset(0);
+        QVERIFY(f.exportAs(9));
+        QCOMPARE(f.doc->integer(Invoice::status), 1);
+        QVERIFY(f.ui.alerts.isEmpty());
+    }
+
+    void quotesAndSwitchedOffStayAsTheyAre()
+    {
+        Fixture f;
+        f.prefs.setBool(P::markInvoiceAsSent, true);
+        Record *quote = f.app.addQuote();
+        quote->setText(Invoice::emailAddress, QStringLiteral("q@example.org"));
+        QVERIFY(f.exportAs(OutputCommands::Email));
+        QCOMPARE(quote->integer(Invoice::status), 0);
+        // No body set: no body and no hyphen line.
+        const QStringList mail = standInArgs(QStringLiteral("xdg-email"));
+        QVERIFY(!mail.isEmpty() && !mail.contains(QStringLiteral("--body")));
+        QVERIFY(!mail.join(u' ').contains(QString(96, u'-')));
+
+        f.prefs.setBool(P::markInvoiceAsSent, false);
+        f.app.setCurrentInvoice(f.doc);
+        QVERIFY(f.exportAs(OutputCommands::Email));
+        QCOMPARE(f.doc->integer(Invoice::status), 0);
+    }
+
+    void designChoice()
+    {
+        Fixture f;
+        QSignalSpy ready(&f.out, &OutputCommands::designPreviewReady);
+        f.out.selectDesign(2);
+        QCOMPARE(f.prefs.integer(P::selectedDesign), 2);
+        QVERIFY(ready.wait(60000));
+        f.out.selectDesign(99);
+        QCOMPARE(f.ui.lastAlertText(), QStringLiteral("Something went really wrong while creating the design preview."));
+        QVERIFY(!f.out.isBusy());
+    }
+};
+
+int main(int argc, char **argv)
+{
+    tabo::PdfEngine::prepareApplication();
+    QGuiApplication app(argc, argv);
+    TestOutputCommands test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "TestOutputCommands.moc"
