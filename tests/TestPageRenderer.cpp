@@ -86,8 +86,16 @@ void TestPageRenderer::formatters()
     const Formatters german(f.prefs, QLocale(QLocale::German, QLocale::Germany));
     QCOMPARE(german.stringFromNumber(1234.5), u"1.234,50\u00a0€"_s);
     f.prefs.setString(P::prefsCurrency, QString());
-    QCOMPARE(f.fmt.stringFromNumber(-5), u"(5.00)"_s);
+    QCOMPARE(f.fmt.stringFromNumber(-5), u"-5.00"_s);
     QCOMPARE(german.stringFromNumber(1234.5), u"1.234,50"_s);
+
+    // Letter codes never touch the digits; without a locale the sign leads.
+    f.prefs.setString(P::prefsCurrency, u"EUR"_s);
+    const Formatters plain(f.prefs, QLocale::c());
+    QCOMPARE(plain.stringFromNumber(297.5), u"297.50 EUR"_s);
+    QCOMPARE(f.fmt.stringFromNumber(-297.5), u"-EUR 297.50"_s);
+    f.prefs.setString(P::prefsCurrency, u"$"_s);
+    QCOMPARE(plain.stringFromNumber(-680), u"-$680.00"_s);
 }
 
 void TestPageRenderer::pageValuesInOrder()

@@ -27,6 +27,21 @@ QString withoutMarker(const QString &text)
     return result;
 }
 
+// A currency code written in letters ("EUR", "CHF") must not touch the
+// digits: "297.50 EUR", not "297.50EUR".
+QString withCodeSpaced(QString text, const QString &sign)
+{
+    const qsizetype at = text.indexOf(sign);
+    if (at < 0)
+        return text;
+    const qsizetype end = at + sign.size();
+    if (sign.back().isLetter() && end < text.size() && text.at(end).isDigit())
+        text.insert(end, QLatin1Char(' '));
+    else if (sign.front().isLetter() && at > 0 && text.at(at - 1).isDigit())
+        text.insert(at, QLatin1Char(' '));
+    return text;
+}
+
 } // namespace
 
 Formatters::Formatters(const Preferences &prefs, const QLocale &locale)
@@ -39,10 +54,18 @@ QString Formatters::stringFromNumber(double value) const
 {
     if (!std::isfinite(value))
         return QString();
+    // Accounting brackets ("($5.00)") would read oddly on a credit note: the
+    // amount is laid out unsigned and the locale's minus put in front.
+    const double magnitude = std::fabs(value);
+    const QString minus = value < 0 && magnitude >= 0.005 ? m_locale.negativeSign() : QString();
     const QString sign = m_prefs.string(Preferences::prefsCurrency);
-    if (!sign.isEmpty())
-        return m_locale.toCurrencyString(value, sign, 2);
-    return withoutMarker(m_locale.toCurrencyString(value, QString(kSignMarker), 2));
+    if (sign.isEmpty())
+        return minus + withoutMarker(m_locale.toCurrencyString(magnitude, QString(kSignMarker), 2));
+    // The C locale (no LANG set) has no currency layout of its own; a sign
+    // goes first there, as most readers expect.
+    if (m_locale.language() == QLocale::C && !sign.front().isLetter())
+        return minus + sign + m_locale.toString(magnitude, 'f', 2);
+    return minus + withCodeSpaced(m_locale.toCurrencyString(magnitude, sign, 2), sign);
 }
 
 QString Formatters::decimalStringFromNumber(double value) const
