@@ -1,7 +1,9 @@
 #include "DocumentTableModel.h"
 
 #include "app/AppController.h"
+#include "app/OutputCommands.h"
 #include "domain/Record.h"
+#include "render/Formatters.h"
 
 #include <QColor>
 #include <QLocale>
@@ -111,13 +113,9 @@ QVariant DocumentTableModel::data(const QModelIndex &index, int role) const
             return doc->text(Invoice::customerName);
         case Title:
             return doc->text(Invoice::title);
-        case Total: {
-            // The currency is not a list column: reading it loads the rest of
-            // this one record, which is fine for the rows on screen.
-            const QString amount = QLocale().toString(doc->num(Invoice::amount), 'f', 2);
-            const QString currency = doc->text(Invoice::currency);
-            return currency.isEmpty() ? amount : amount + QLatin1Char(' ') + currency;
-        }
+        case Total:
+            // As the printed documents show it.
+            return m_app.outputs().formatters().stringFromNumber(doc->num(Invoice::amount));
         case Status:
             return statusText(*doc);
         }

@@ -1,13 +1,17 @@
 #include "GuiInteraction.h"
 
 #include <QDesktopServices>
-#include <QUrl>
-
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QList>
 #include <QMessageBox>
+#include <QPageRanges>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
+#include <QUrl>
+
+#include <algorithm>
 
 namespace tabo {
 
@@ -23,6 +27,52 @@ QStringList &nextFileNames()
 {
     static QStringList names;
     return names;
+}
+
+struct PrintAnswer
+{
+    bool accepted;
+    std::function<void(GuiInteraction::PrintSettings &)> settings;
+};
+
+QList<PrintAnswer> &nextPrintAnswers()
+{
+    static QList<PrintAnswer> answers;
+    return answers;
+}
+
+QString &lastAlert(int part)
+{
+    static QString texts[2];
+    return texts[part];
+}
+
+// One value per `lp` option: a new choice replaces what the request had.
+void setOption(QStringList &options, const QString &key, const QString &value)
+{
+    const QString prefix = key + QLatin1Char('=');
+    options.erase(std::remove_if(options.begin(), options.end(),
+                      [&prefix](const QString &option) { return option.startsWith(prefix); }),
+        options.end());
+    if (!value.isEmpty())
+        options << prefix + value;
+}
+
+QString sidesOption(const GuiInteraction::PrintSettings &settings)
+{
+    switch (settings.sides) {
+    case GuiInteraction::PrintSettings::LongEdge:
+        return QStringLiteral("two-sided-long-edge");
+    case GuiInteraction::PrintSettings::ShortEdge:
+        return QStringLiteral("two-sided-short-edge");
+    case GuiInteraction::PrintSettings::Automatic:
+        // Turning the sheet the way the page is read.
+        return settings.orientation == QPageLayout::Landscape ? QStringLiteral("two-sided-short-edge")
+                                                              : QStringLiteral("two-sided-long-edge");
+    case GuiInteraction::PrintSettings::OneSided:
+        break;
+    }
+    return QStringLiteral("one-sided");
 }
 
 QStringList nameFilters(const QStringList &extensions)
@@ -57,8 +107,25 @@ void GuiInteraction::setNextFileName(const QString &fileName)
     nextFileNames().append(fileName);
 }
 
+void GuiInteraction::setNextPrintAnswer(bool accepted, const std::function<void(PrintSettings &)> &settings)
+{
+    nextPrintAnswers().append({ accepted, settings });
+}
+
+QString GuiInteraction::lastAlertTitle()
+{
+    return lastAlert(0);
+}
+
+QString GuiInteraction::lastAlertText()
+{
+    return lastAlert(1);
+}
+
 int GuiInteraction::alert(const QString &title, const QString &text, const QStringList &buttons)
 {
+    lastAlert(0) = title;
+    lastAlert(1) = text;
     if (!nextAnswers().isEmpty())
         return nextAnswers().takeFirst();
 
@@ -138,6 +205,80 @@ QString GuiInteraction::runFileDialog(const FileRequest &request, bool save)
 bool GuiInteraction::openWithDefaultApplication(const QString &path)
 {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+bool GuiInteraction::printDialog(PrintRequest &request)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(request.jobTitle);
+    if (!request.printer.isEmpty())
+        printer.setPrinterName(request.printer);
+    printer.setCopyCount(qMax(1, request.copies));
+
+    if (!nextPrintAnswers().isEmpty()) {
+        const PrintAnswer answer = nextPrintAnswers().takeFirst();
+        PrintSettings settings = settingsFrom(printer);
+        // Without a print system the printer above falls back to a PDF file
+        // and forgets its name.
+        settings.printer = request.printer;
+        if (answer.settings)
+            answer.settings(settings);
+        if (answer.accepted)
+            applyPrintSettings(settings, request);
+        return answer.accepted;
+    }
+
+    QPrintDialog dialog(&printer, m_parent);
+    // The PDF is already laid out on its paper and goes to the print system
+    // as it is: printing into a file is what "Save as PDF" is for.
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, true);
+    dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, true);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    applyPrintSettings(settingsFrom(printer), request);
+    return true;
+}
+
+GuiInteraction::PrintSettings GuiInteraction::settingsFrom(const QPrinter &printer)
+{
+    PrintSettings settings;
+    settings.printer = printer.outputFormat() == QPrinter::NativeFormat ? printer.printerName() : QString();
+    settings.copies = printer.copyCount();
+    settings.collate = printer.collateCopies();
+    switch (printer.duplex()) {
+    case QPrinter::DuplexLongSide:
+        settings.sides = PrintSettings::LongEdge;
+        break;
+    case QPrinter::DuplexShortSide:
+        settings.sides = PrintSettings::ShortEdge;
+        break;
+    case QPrinter::DuplexAuto:
+        settings.sides = PrintSettings::Automatic;
+        break;
+    case QPrinter::DuplexNone:
+        settings.sides = PrintSettings::OneSided;
+        break;
+    }
+    settings.orientation = printer.pageLayout().orientation();
+    if (printer.printRange() == QPrinter::PageRange && !printer.pageRanges().isEmpty())
+        settings.pageRanges = printer.pageRanges().toString();
+    settings.grayscale = printer.colorMode() == QPrinter::GrayScale;
+    return settings;
+}
+
+void GuiInteraction::applyPrintSettings(const PrintSettings &settings, PrintRequest &request)
+{
+    request.printer = settings.printer;
+    request.copies = qMax(1, settings.copies);
+    setOption(request.options, QStringLiteral("sides"), sidesOption(settings));
+    setOption(request.options, QStringLiteral("page-ranges"), settings.pageRanges);
+    setOption(request.options, QStringLiteral("print-color-mode"),
+        settings.grayscale ? QStringLiteral("monochrome") : QString());
+    setOption(request.options, QStringLiteral("collate"),
+        request.copies > 1 ? QLatin1String(settings.collate ? "true" : "false") : QString());
 }
 
 } // namespace tabo

@@ -1,12 +1,18 @@
 #include "MainWindow.h"
 
+#include "DesignChoiceSheet.h"
 #include "DocumentActions.h"
 #include "DocumentEditor.h"
 #include "DocumentListPane.h"
+#include "ExportSheet.h"
 #include "FileMenu.h"
 #include "FilterButton.h"
+#include "LetterSheet.h"
+#include "PreviewWindow.h"
 #include "SummaryBar.h"
 #include "app/AppController.h"
+#include "app/OutputCommands.h"
+#include "domain/Record.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -95,9 +101,85 @@ void MainWindow::createActions()
     documents->addAction(m_actions->convert());
     documents->addSeparator();
     documents->addAction(m_actions->remove());
+    createOutputActions();
     QMenu *items = menuBar()->addMenu(tr("&Items"));
     items->addAction(m_actions->addItem());
     items->addAction(m_actions->deleteItem());
+}
+
+QAction *MainWindow::addOutputAction(
+    const QString &icon, const QString &text, const char *name, const QKeySequence &key)
+{
+    auto *action = new QAction(QIcon::fromTheme(icon), text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(key);
+    // The page shows what is typed, also what is still being typed.
+    connect(action, &QAction::triggered, m_editor, &DocumentEditor::commitPending);
+    m_outputActions << action;
+    return action;
+}
+
+void MainWindow::createOutputActions()
+{
+    m_preview = new PreviewWindow(m_app, this);
+    m_exportSheet = new ExportSheet(m_app, this);
+    m_letterSheet = new LetterSheet(m_app, m_preview, this);
+    m_designSheet = new DesignChoiceSheet(m_app, this);
+
+    m_previewAction = addOutputAction(QStringLiteral("document-print-preview"), tr("Preview"), "actionPreview",
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
+    m_printAction = addOutputAction(QStringLiteral("document-print"), tr("Print…"), "actionPrint", QKeySequence::Print);
+    m_savePdfAction = addOutputAction(QStringLiteral("document-save-as"), tr("Save as PDF…"), "actionSavePdf",
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    m_emailAction = addOutputAction(
+        QStringLiteral("mail-send"), tr("E-mail…"), "actionEmail", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M));
+    QAction *reminder = addOutputAction(QStringLiteral("appointment-soon"), tr("Reminder…"), "actionReminder",
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
+    QAction *slip = addOutputAction(QStringLiteral("mail-forward"), tr("Delivery Slip…"), "actionDeliverySlip",
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D));
+    QAction *design = addOutputAction(QStringLiteral("preferences-desktop-theme"), tr("Choose Design…"),
+        "actionChooseDesign", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G));
+
+    connect(m_previewAction, &QAction::triggered, m_preview, &PreviewWindow::showPreview);
+    connect(m_printAction, &QAction::triggered, this, [this] { openExport(OutputCommands::Print, this); });
+    connect(m_savePdfAction, &QAction::triggered, this, [this] { openExport(OutputCommands::SavePdf, this); });
+    connect(m_emailAction, &QAction::triggered, this, [this] { openExport(OutputCommands::Email, this); });
+    connect(reminder, &QAction::triggered, this, [this] { openLetter(true); });
+    connect(slip, &QAction::triggered, this, [this] { openLetter(false); });
+    connect(design, &QAction::triggered, m_designSheet, &DesignChoiceSheet::begin);
+    connect(m_preview, &PreviewWindow::exportRequested, this, [this](int kind) { openExport(kind, m_preview); });
+    connect(m_preview, &PreviewWindow::reminderRequested, this, [this] { openLetter(true); });
+    connect(m_preview, &PreviewWindow::slipRequested, this, [this] { openLetter(false); });
+
+    QMenu *output = menuBar()->addMenu(tr("&Output"));
+    output->addActions({ m_previewAction, m_printAction, m_savePdfAction, m_emailAction });
+    output->addSeparator();
+    output->addActions({ reminder, slip });
+    output->addSeparator();
+    output->addAction(design);
+
+    connect(&m_app, &AppController::currentInvoiceChanged, this, &MainWindow::updateOutputCommands);
+    connect(&m_app, &AppController::listChanged, this, &MainWindow::updateOutputCommands);
+    updateOutputCommands();
+}
+
+void MainWindow::openExport(int kind, QWidget *window)
+{
+    m_editor->commitPending();
+    m_exportSheet->begin(kind, window);
+}
+
+void MainWindow::openLetter(bool reminder)
+{
+    m_editor->commitPending();
+    m_letterSheet->begin(reminder ? LetterSheet::Mode::Reminder : LetterSheet::Mode::Slip);
+}
+
+void MainWindow::updateOutputCommands()
+{
+    const bool doc = m_app.currentInvoice();
+    for (QAction *action : std::as_const(m_outputActions))
+        action->setEnabled(doc);
 }
 
 void MainWindow::newDocument(bool invoice)
@@ -130,6 +212,8 @@ void MainWindow::createToolBar()
     bar->addSeparator();
     bar->addAction(m_actions->addItem());
     bar->addAction(m_actions->deleteItem());
+    bar->addSeparator();
+    bar->addActions({ m_previewAction, m_printAction, m_savePdfAction, m_emailAction });
     auto *spacer = new QWidget(bar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(spacer);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QMainWindow>
 
 class QAction;
@@ -7,11 +8,15 @@ class QAction;
 namespace tabo {
 
 class AppController;
+class DesignChoiceSheet;
 class DocumentActions;
 class DocumentEditor;
 class DocumentListPane;
+class ExportSheet;
 class FileMenu;
 class FilterButton;
+class LetterSheet;
+class PreviewWindow;
 class SummaryBar;
 
 // The main window: the document list with its filter button and summary, and
@@ -33,6 +38,10 @@ public:
     QAction *newInvoiceAction() const { return m_newInvoice; }
     QAction *newQuoteAction() const { return m_newQuote; }
     QAction *quitAction() const { return m_quit; }
+    PreviewWindow *previewWindow() const { return m_preview; }
+    ExportSheet *exportSheet() const { return m_exportSheet; }
+    LetterSheet *letterSheet() const { return m_letterSheet; }
+    DesignChoiceSheet *designChoiceSheet() const { return m_designSheet; }
 
 protected:
     // Every quit, from the menu or the window's close button, ends here.
@@ -41,6 +50,11 @@ protected:
 private:
     void createActions();
     void createToolBar();
+    void createOutputActions();
+    QAction *addOutputAction(const QString &icon, const QString &text, const char *name, const QKeySequence &key);
+    void openExport(int kind, QWidget *window);
+    void openLetter(bool reminder);
+    void updateOutputCommands();
     void terminateNow();
     void updateCommands();
     void newDocument(bool invoice);
@@ -56,6 +70,15 @@ private:
     QAction *m_newInvoice = nullptr;
     QAction *m_newQuote = nullptr;
     QAction *m_quit = nullptr;
+    QList<QAction *> m_outputActions;
+    QAction *m_previewAction = nullptr;
+    QAction *m_printAction = nullptr;
+    QAction *m_savePdfAction = nullptr;
+    QAction *m_emailAction = nullptr;
+    PreviewWindow *m_preview = nullptr;
+    ExportSheet *m_exportSheet = nullptr;
+    LetterSheet *m_letterSheet = nullptr;
+    DesignChoiceSheet *m_designSheet = nullptr;
     bool m_quitDecided = false;
 };
 

@@ -1,8 +1,11 @@
 #include "FirstStartAssistant.h"
 #include "GuiInteraction.h"
 #include "MainWindow.h"
+#include "PreviewWindow.h"
 #include "app/AppController.h"
+#include "app/OutputCommands.h"
 #include "prefs/Preferences.h"
+#include "render/PdfEngine.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -12,6 +15,8 @@ using namespace tabo;
 
 int main(int argc, char **argv)
 {
+    // The web engine's flags only count before the application object exists.
+    PdfEngine::prepareApplication();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tabo"));
     QApplication::setOrganizationName(QString());
@@ -23,6 +28,10 @@ int main(int argc, char **argv)
     QCommandLineOption screenshot(QStringLiteral("screenshot"), QString(), QStringLiteral("file"));
     screenshot.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(screenshot);
+    // The same for the preview of the newest document, once its PDF is shown.
+    QCommandLineOption screenshotPreview(QStringLiteral("screenshot-preview"), QString(), QStringLiteral("file"));
+    screenshotPreview.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(screenshotPreview);
     parser.addPositionalArgument(
         QStringLiteral("files"), QStringLiteral("Refused: open documents from the File menu."));
     parser.process(application);
@@ -40,7 +49,8 @@ int main(int argc, char **argv)
     controller.awakeFromNib();
     window.show();
     controller.applicationDidFinishLaunching();
-    if (controller.needsFirstStartAssistant() && !parser.isSet(screenshot)) {
+    const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview);
+    if (controller.needsFirstStartAssistant() && !grabbing) {
         QTimer::singleShot(350, &window, [&window, &controller] {
             FirstStartAssistant assistant(controller, &window);
             assistant.exec();
@@ -57,6 +67,23 @@ int main(int argc, char **argv)
             if (!window.grab().save(target))
                 qWarning("Could not write the screenshot to %s", qPrintable(target));
             window.close();
+        });
+    }
+    if (parser.isSet(screenshotPreview)) {
+        const QString target = parser.value(screenshotPreview);
+        PreviewWindow *preview = window.previewWindow();
+        auto grab = [preview, &window, target] {
+            // Time for the view to lay out and paint the page.
+            QTimer::singleShot(600, preview, [preview, &window, target] {
+                if (!preview->grab().save(target))
+                    qWarning("Could not write the screenshot to %s", qPrintable(target));
+                window.close();
+            });
+        };
+        QObject::connect(&controller.outputs(), &OutputCommands::previewReady, preview, grab, Qt::QueuedConnection);
+        QTimer::singleShot(400, &window, [preview, grab] {
+            if (!preview->showPreview())
+                grab();
         });
     }
     return application.exec();
