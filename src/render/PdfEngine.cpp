@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QPointer>
 #include <QSaveFile>
 #include <QTimer>
@@ -83,10 +84,8 @@ void PdfEngine::prepareApplication()
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags);
 
     // The engine reports its graphics set-up at every start; a command-line
-    // run has no use for it. The person's own rules for it still win.
-    QByteArray rules = qgetenv("QT_LOGGING_RULES");
-    if (!rules.contains("qt.webenginecontext"))
-        qputenv("QT_LOGGING_RULES", rules + (rules.isEmpty() ? "" : ";") + "qt.webenginecontext.info=false");
+    // run has no use for it. QT_LOGGING_RULES still wins over this rule.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.info=false"));
 
     PageSchemeHandler::registerScheme();
 }
