@@ -19,6 +19,8 @@
 #include <QGuiApplication>
 #include <QSaveFile>
 
+#include <functional>
+
 namespace tabo {
 
 using P = Preferences;
@@ -312,6 +314,45 @@ bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path)
     const bool ok = engine().renderAndWait(html, PageSetup::fromPreferences(m_app.prefs()), path) && isPdfFile(path);
     setBusy(-1);
     return ok;
+}
+
+QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &documents, const QStringList &paths)
+{
+    if (!canRender())
+        return paths;
+    const PageSetup setup = PageSetup::fromPreferences(m_app.prefs());
+    Record *const previous = m_app.currentInvoice();
+    QStringList failed;
+    QEventLoop loop;
+    qsizetype next = 0;
+    int inFlight = 0;
+    // A few pages ahead keep both engine lanes busy without holding every
+    // page of a large batch in memory.
+    std::function<void()> feed = [&] {
+        while (inFlight < 4 && next < documents.size()) {
+            const qsizetype i = next++;
+            m_app.setCurrentInvoice(documents.at(i));
+            const QString html = invoiceHTMLString();
+            ++inFlight;
+            engine().render(html, setup, paths.at(i), [&, i](bool ok) {
+                --inFlight;
+                if (!ok || !isPdfFile(paths.at(i)))
+                    failed << paths.at(i);
+                if (next < documents.size())
+                    feed();
+                else if (inFlight == 0)
+                    loop.quit();
+            });
+        }
+    };
+    setBusy(+1);
+    feed();
+    m_app.setCurrentInvoice(previous);
+    if (inFlight > 0)
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    m_app.setCurrentInvoice(previous);
+    setBusy(-1);
+    return failed;
 }
 
 PdfEngine &OutputCommands::engine()

@@ -87,6 +87,9 @@ public:
     // Renders any page into `path` and waits (the design preview of the
     // command line).
     bool renderHtmlToFile(const QString &html, const QString &path);
+    // Renders each document into the path of the same index, several at a
+    // time, and waits; returns the paths that failed.
+    QStringList renderDocumentsToFiles(const QList<Record *> &documents, const QStringList &paths);
     // Returns once no rendering is running any more.
     void waitUntilIdle();
 

@@ -126,6 +126,7 @@ int RenderCommand::writeFolder(const QList<Record *> &documents, const QString &
     if (!QDir().mkpath(dir))
         return failure(QStringLiteral("The folder “%1” could not be created.").arg(dir));
     QSet<QString> taken;
+    QStringList paths;
     for (Record *doc : documents) {
         const QString base = safeFileName(doc->text(Invoice::number), doc->text(Invoice::uniqueID));
         QString name = base;
@@ -133,11 +134,14 @@ int RenderCommand::writeFolder(const QList<Record *> &documents, const QString &
         for (int n = 2; taken.contains(name.toLower()); ++n)
             name = QStringLiteral("%1 (%2)").arg(base).arg(n);
         taken.insert(name.toLower());
-        const QString path = QDir(dir).filePath(name + QStringLiteral(".pdf"));
-        if (const int code = writePdf(doc, path); code != kExitOk)
-            return code;
-        printOut(path);
+        paths << QDir(dir).filePath(name + QStringLiteral(".pdf"));
     }
+    const QStringList failed = m_session.controller().outputs().renderDocumentsToFiles(documents, paths);
+    for (const QString &path : paths)
+        if (!failed.contains(path))
+            printOut(path);
+    if (!failed.isEmpty())
+        return failure(QStringLiteral("The PDF file “%1” could not be created.").arg(failed.constFirst()));
     return kExitOk;
 }
 

@@ -7,14 +7,17 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFile>
-#include <QLoggingCategory>
 #include <QPointer>
 #include <QSaveFile>
+#include <QThread>
 #include <QTimer>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
 
+#include <algorithm>
 #include <deque>
+#include <optional>
+#include <vector>
 
 #include <unistd.h>
 
@@ -47,22 +50,33 @@ struct Job
 
 } // namespace
 
-struct PdfEngine::Private
+// One off-screen page with its own profile, guard and scheme handler. A
+// second lane (its own renderer process) is opened only while documents
+// queue up, so a batch uses both cores: one page prints while the other
+// lays out the next document.
+struct Lane
 {
-    void startNext();
-    void pageLoaded(bool ok);
-    bool writeFile(const QByteArray &pdf) const;
-    void finishJob(bool ok);
-
-    PdfEngine *q = nullptr;
     QWebEngineProfile *profile = nullptr;
     PageGuard *guard = nullptr;
     PageSchemeHandler *handler = nullptr;
     GuardedPage *page = nullptr;
-    std::deque<Job> queue;
-    bool running = false;
+    std::optional<Job> job;
     quint64 generation = 0; // tells a late answer of an abandoned job apart
     QTimer watchdog;
+};
+
+struct PdfEngine::Private
+{
+    Lane *openLane();
+    void startNext();
+    void pageLoaded(Lane *lane, bool ok);
+    void finishJob(Lane *lane, bool ok);
+
+    PdfEngine *q = nullptr;
+    std::vector<std::unique_ptr<Lane>> lanes;
+    int maxLanes = 2;
+    QString allowedFile;
+    std::deque<Job> queue;
 };
 
 void PdfEngine::prepareApplication()
@@ -83,10 +97,6 @@ void PdfEngine::prepareApplication()
         appendFlag(flags, "--no-sandbox"); // the sandbox refuses to run as root
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags);
 
-    // The engine reports its graphics set-up at every start; a command-line
-    // run has no use for it. QT_LOGGING_RULES still wins over this rule.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.info=false"));
-
     PageSchemeHandler::registerScheme();
 }
 
@@ -96,17 +106,27 @@ PdfEngine::PdfEngine(QObject *parent)
 {
     d->q = this;
     PageSchemeHandler::registerScheme();
-    // No storage name: off the record, nothing written to disk.
-    d->profile = new QWebEngineProfile(this);
-    d->profile->setHttpCacheType(QWebEngineProfile::NoCache);
-    d->profile->setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
-    d->profile->setSpellCheckEnabled(false);
-    d->guard = new PageGuard(this);
-    d->profile->setUrlRequestInterceptor(d->guard);
-    d->handler = new PageSchemeHandler(*d->guard, this);
-    d->profile->installUrlSchemeHandler(PageSchemeHandler::schemeName(), d->handler);
+    d->maxLanes = std::clamp(QThread::idealThreadCount(), 1, 2);
+    d->openLane(); // the first page is made at once, warm for the first document
+}
 
-    QWebEngineSettings *s = d->profile->settings();
+Lane *PdfEngine::Private::openLane()
+{
+    auto lane = std::make_unique<Lane>();
+    Lane *l = lane.get();
+    // No storage name: off the record, nothing written to disk.
+    l->profile = new QWebEngineProfile(q);
+    l->profile->setHttpCacheType(QWebEngineProfile::NoCache);
+    l->profile->setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
+    l->profile->setSpellCheckEnabled(false);
+    l->guard = new PageGuard(q);
+    if (!allowedFile.isNull())
+        l->guard->setAllowedLocalFile(allowedFile);
+    l->profile->setUrlRequestInterceptor(l->guard);
+    l->handler = new PageSchemeHandler(*l->guard, q);
+    l->profile->installUrlSchemeHandler(PageSchemeHandler::schemeName(), l->handler);
+
+    QWebEngineSettings *s = l->profile->settings();
     s->setAttribute(QWebEngineSettings::JavascriptEnabled, false);
     s->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
     s->setAttribute(QWebEngineSettings::PluginsEnabled, false);
@@ -126,23 +146,31 @@ PdfEngine::PdfEngine(QObject *parent)
     s->setAttribute(QWebEngineSettings::PrintElementBackgrounds, true);
     s->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 
-    d->page = new GuardedPage(d->profile, *d->guard, this);
-    connect(d->page, &QWebEnginePage::loadFinished, this, [this](bool ok) { d->pageLoaded(ok); });
+    l->page = new GuardedPage(l->profile, *l->guard, q);
+    QObject::connect(l->page, &QWebEnginePage::loadFinished, q, [this, l](bool ok) { pageLoaded(l, ok); });
 
-    d->watchdog.setSingleShot(true);
-    d->watchdog.setInterval(RenderTimeoutMs);
-    connect(&d->watchdog, &QTimer::timeout, this, [this] { d->finishJob(false); });
+    l->watchdog.setSingleShot(true);
+    l->watchdog.setInterval(RenderTimeoutMs);
+    QObject::connect(&l->watchdog, &QTimer::timeout, q, [this, l] { finishJob(l, false); });
+    lanes.push_back(std::move(lane));
+    return l;
 }
 
 PdfEngine::~PdfEngine()
 {
-    d->watchdog.stop();
-    ++d->generation;
-    // The page goes before its profile, or the engine complains.
-    delete d->page;
-    d->page = nullptr;
     std::deque<Job> pending;
-    pending.swap(d->queue);
+    for (auto &lane : d->lanes) {
+        lane->watchdog.stop();
+        ++lane->generation;
+        // The page goes before its profile, or the engine complains.
+        delete lane->page;
+        lane->page = nullptr;
+        if (lane->job)
+            pending.push_back(std::move(*lane->job));
+    }
+    for (Job &job : d->queue)
+        pending.push_back(std::move(job));
+    d->queue.clear();
     for (Job &job : pending)
         if (job.done)
             job.done(false);
@@ -150,20 +178,24 @@ PdfEngine::~PdfEngine()
 
 void PdfEngine::setAllowedLocalFile(const QString &path)
 {
-    d->guard->setAllowedLocalFile(path);
+    d->allowedFile = path;
+    for (auto &lane : d->lanes)
+        lane->guard->setAllowedLocalFile(path);
 }
 
 QStringList PdfEngine::blockedRequests() const
 {
-    return d->guard->blockedRequests();
+    QStringList blocked;
+    for (const auto &lane : d->lanes)
+        blocked << lane->guard->blockedRequests();
+    return blocked;
 }
 
 void PdfEngine::render(const QString &html, const PageSetup &setup, const QString &path,
                        std::function<void(bool ok)> done)
 {
     d->queue.push_back(Job{html.toUtf8(), setup.pageLayout(), path, std::move(done)});
-    if (!d->running)
-        d->startNext();
+    d->startNext();
 }
 
 bool PdfEngine::renderAndWait(const QString &html, const PageSetup &setup, const QString &path)
@@ -182,52 +214,58 @@ bool PdfEngine::renderAndWait(const QString &html, const PageSetup &setup, const
 
 void PdfEngine::Private::startNext()
 {
-    if (queue.empty() || running)
-        return;
-    running = true;
-    Job &job = queue.front();
-    QFile::remove(job.path);
-    const QUrl url = handler->setPage(job.html);
-    guard->setPageUrl(url);
-    watchdog.start();
-    page->load(url);
+    while (!queue.empty()) {
+        Lane *lane = nullptr;
+        for (auto &l : lanes)
+            if (!l->job) {
+                lane = l.get();
+                break;
+            }
+        if (!lane && int(lanes.size()) < maxLanes)
+            lane = openLane();
+        if (!lane)
+            return;
+        lane->job = std::move(queue.front());
+        queue.pop_front();
+        QFile::remove(lane->job->path);
+        const QUrl url = lane->handler->setPage(lane->job->html);
+        lane->guard->setPageUrl(url);
+        lane->watchdog.start();
+        lane->page->load(url);
+    }
 }
 
-void PdfEngine::Private::pageLoaded(bool ok)
+void PdfEngine::Private::pageLoaded(Lane *lane, bool ok)
 {
-    if (!running || page->url() != guard->pageUrl())
+    if (!lane->job || lane->page->url() != lane->guard->pageUrl())
         return;
     if (!ok) {
-        finishJob(false);
+        finishJob(lane, false);
         return;
     }
-    const quint64 current = generation;
+    const quint64 current = lane->generation;
     QPointer<PdfEngine> self(q);
-    page->printToPdf(
-        [self, current](const QByteArray &pdf) {
-            if (!self || self->d->generation != current || !self->d->running)
+    lane->page->printToPdf(
+        [self, lane, current](const QByteArray &pdf) {
+            if (!self || lane->generation != current || !lane->job)
                 return;
-            self->d->finishJob(!pdf.isEmpty() && self->d->writeFile(pdf));
+            QSaveFile file(lane->job->path);
+            const bool written = !pdf.isEmpty() && file.open(QIODevice::WriteOnly)
+                                 && file.write(pdf) == pdf.size() && file.commit();
+            self->d->finishJob(lane, written);
         },
-        queue.front().layout);
+        lane->job->layout);
 }
 
-bool PdfEngine::Private::writeFile(const QByteArray &pdf) const
+void PdfEngine::Private::finishJob(Lane *lane, bool ok)
 {
-    QSaveFile file(queue.front().path);
-    return file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit();
-}
-
-void PdfEngine::Private::finishJob(bool ok)
-{
-    if (!running)
+    if (!lane->job)
         return;
-    watchdog.stop();
-    ++generation;
-    Job job = std::move(queue.front());
-    queue.pop_front();
-    running = false;
-    handler->clear();
+    lane->watchdog.stop();
+    ++lane->generation;
+    Job job = std::move(*lane->job);
+    lane->job.reset();
+    lane->handler->clear();
     if (!ok)
         QFile::remove(job.path);
     if (job.done)

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLoggingCategory>
 #include <QTimer>
 
 using namespace tabo;
@@ -16,6 +17,9 @@ using namespace tabo;
 int main(int argc, char **argv)
 {
     // The web engine's flags only count before the application object exists.
+    // The web engine reports its graphics set-up at every start; QT_LOGGING_RULES
+    // still turns it back on.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.info=false"));
     PdfEngine::prepareApplication();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tabo"));

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Renders page 1 of every built-in design with the sample document into
+# docs/screenshots/designs/, in a temporary home (your own data is not touched).
+set -euo pipefail
+cd "$(dirname "$0")/.."
+build="${BUILD_DIR:-build}"
+cmake --build "$build" --target tabo-cli >/dev/null
+cli="$(cd "$build" && pwd)/tabo-cli"
+home=$(mktemp -d)
+trap 'rm -rf "$home"' EXIT
+export HOME="$home" XDG_DATA_HOME="$home/data" XDG_CONFIG_HOME="$home/config" LANG=en_US.UTF-8
+if [ "$(id -u)" -eq 0 ]; then
+  export QTWEBENGINE_CHROMIUM_FLAGS="${QTWEBENGINE_CHROMIUM_FLAGS:---no-sandbox}"
+fi
+
+"$cli" prefs install-language 0
+"$cli" prefs set prefsName "Northwind Studio"
+"$cli" prefs set prefsSlogan "Design, web and print since 1998"
+"$cli" prefs set prefsContact $'Northwind Studio LLC\n250 Harbor Street\nPortland, OR 97204\nPhone (503) 555-0142\nhello@northwind.example'
+"$cli" prefs set prefsLetterbox "Northwind Studio · 250 Harbor Street · Portland, OR 97204"
+"$cli" prefs set prefsCurrency '$'
+"$cli" prefs set tax1Title "Sales Tax"
+"$cli" prefs set tax2Enabled 1
+"$cli" prefs set tax2Title "Local Tax"
+"$cli" prefs set tempInvFooter $'Northwind Studio LLC · 250 Harbor Street · Portland, OR 97204\nPhone (503) 555-0142 · hello@northwind.example'
+"$cli" prefs set prefsLogo docs/screenshots/sample-logo.png
+
+mkdir -p docs/screenshots/designs
+for dir in src/designs/builtin/*/; do
+  name=$(basename "$dir")
+  title=$(cat "$dir/title.txt")
+  "$cli" design preview "$home/$name.pdf" --design "$title"
+  pdftoppm -png -r 70 -f 1 -l 1 -singlefile "$home/$name.pdf" "docs/screenshots/designs/$name"
+  echo "$name: $title"
+done
