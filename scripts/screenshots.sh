@@ -33,3 +33,15 @@ for dir in src/designs/builtin/*/; do
   pdftoppm -png -r 70 -f 1 -l 1 -singlefile "$home/$name.pdf" "docs/screenshots/designs/$name"
   echo "$name: $title"
 done
+
+# The preview window of the desktop application (needs the tabo target and Xvfb).
+cmake --build "$build" --target tabo >/dev/null
+id=$("$cli" new invoice)
+"$cli" address "$id" address=$'Atelier Lumen\nMarta Kowalski\nRue des Fleurs 18\n75011 Paris\nFrance' clientNumber=C-1042
+"$cli" set "$id" title "Website relaunch"
+"$cli" add-item "$id" title="Concept and wireframes" price=680 quantity=1 tax1=1
+"$cli" add-item "$id" title="Front-end development" subtitle="Responsive templates, 6 pages" price=85 quantity=24 unit=h tax1=1
+"$cli" add-item "$id" title="Content migration" price=65 quantity=6 unit=h tax1=1
+"$cli" add-item "$id" title="Hosting, first year" price=120 quantity=1 tax1=1
+xvfb-run -a "$(cd "$build" && pwd)/tabo" --screenshot-preview docs/screenshots/preview.png
+echo "preview: docs/screenshots/preview.png"
