@@ -1,8 +1,8 @@
 #include "RenderBench.h"
 
+#include "QuietInteraction.h"
 #include "app/AppController.h"
 #include "app/DocumentCommands.h"
-#include "app/Interaction.h"
 #include "app/ItemCommands.h"
 #include "designs/DesignLibrary.h"
 #include "domain/Record.h"
@@ -27,21 +27,6 @@
 namespace tabo::bench {
 
 namespace {
-
-class SilentInteraction : public Interaction
-{
-public:
-    int alert(const QString &title, const QString &text, const QStringList &) override
-    {
-        std::fprintf(stderr, "alert: %s %s\n", qPrintable(title), qPrintable(text));
-        return 0;
-    }
-    void presentError(const Error &e) override { std::fprintf(stderr, "error: %s\n", qPrintable(e.message())); }
-    QString openFile(const FileRequest &) override { return {}; }
-    QString saveFile(const FileRequest &) override { return {}; }
-    bool openWithDefaultApplication(const QString &) override { return false; }
-    bool printDialog(PrintRequest &) override { return false; }
-};
 
 double medianMs(int runs, const std::function<void()> &f)
 {
@@ -147,7 +132,7 @@ int runRenderBench(const QString &cliPath)
     // to a hundred, all through the controller as the person would make them.
     QElapsedTimer made;
     made.start();
-    SilentInteraction ui;
+    QuietInteraction ui;
     QString smallId, largeId;
     QString smallHtml, largeHtml;
     double htmlSmallMs = 0, htmlLargeMs = 0;

@@ -6,8 +6,8 @@
 #include "RenderBench.h"
 #include "StoreGenerator.h"
 
+#include "QuietInteraction.h"
 #include "app/AppController.h"
-#include "app/Interaction.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "render/PdfEngine.h"
@@ -29,21 +29,6 @@
 using namespace tabo;
 
 namespace {
-
-class QuietInteraction : public Interaction
-{
-public:
-    int alert(const QString &title, const QString &text, const QStringList &) override
-    {
-        std::fprintf(stderr, "alert: %s %s\n", qPrintable(title), qPrintable(text));
-        return 0;
-    }
-    void presentError(const Error &e) override { std::fprintf(stderr, "error: %s\n", qPrintable(e.message())); }
-    QString openFile(const FileRequest &) override { return {}; }
-    QString saveFile(const FileRequest &) override { return {}; }
-    bool openWithDefaultApplication(const QString &) override { return false; }
-    bool printDialog(PrintRequest &) override { return false; }
-};
 
 double residentMiB()
 {
@@ -95,7 +80,7 @@ int storeTable()
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", (home.path() + QStringLiteral("/config")).toUtf8());
     qputenv("XDG_DATA_HOME", (home.path() + QStringLiteral("/data")).toUtf8());
-    QuietInteraction ui;
+    bench::QuietInteraction ui;
     Preferences prefs;
     prefs.setBool(Preferences::useCustomPath, true);
     prefs.setString(Preferences::customDatabasePath, dataDir);
