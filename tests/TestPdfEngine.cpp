@@ -213,7 +213,8 @@ private Q_SLOTS:
         QVERIFY(m_engine->renderAndWait(big, setup(QStringLiteral("iso-a4")), path(QStringLiteral("big.pdf"))));
         QVERIFY(text(path(QStringLiteral("big.pdf"))).contains(QStringLiteral("EndOfBig")));
 
-        // Requests made while one runs wait their turn; each file has its own page.
+        // Requests made while one runs are queued (and may run side by side);
+        // each file has its own page.
         QStringList finished;
         const QString first = path(QStringLiteral("first.pdf")), second = path(QStringLiteral("second.pdf"));
         QFile stale(second);
@@ -225,6 +226,7 @@ private Q_SLOTS:
         m_engine->render(page(QStringLiteral("<p>SecondDocument</p>")), setup(QStringLiteral("na-legal")), second,
                          [&](bool ok) { finished << QStringLiteral("second %1").arg(ok); });
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 2, 60000);
+        finished.sort();
         QCOMPARE(finished, (QStringList{QStringLiteral("first 1"), QStringLiteral("second 1")}));
         QVERIFY(text(first).contains(QStringLiteral("FirstDocument")));
         QVERIFY(!text(first).contains(QStringLiteral("SecondDocument")));
@@ -237,6 +239,17 @@ private Q_SLOTS:
         QVERIFY(m_engine->renderAndWait(page(QStringLiteral("<p>AfterFailure</p>")), setup(QStringLiteral("na-letter")),
                                         first));
         QVERIFY(text(first).contains(QStringLiteral("AfterFailure")));
+
+        // A document that takes too long is given up, and its page replaced:
+        // the next document renders.
+        m_engine->setTimeout(1);
+        QVERIFY(!m_engine->renderAndWait(page(QStringLiteral("<p>TooSlow</p>")), setup(QStringLiteral("na-letter")),
+                                         second));
+        QVERIFY(!QFile::exists(second));
+        m_engine->setTimeout(60000);
+        QVERIFY(m_engine->renderAndWait(page(QStringLiteral("<p>AfterTimeout</p>")), setup(QStringLiteral("na-letter")),
+                                        second));
+        QVERIFY(text(second).contains(QStringLiteral("AfterTimeout")));
     }
 };
 

@@ -68,6 +68,7 @@ struct Lane
 struct PdfEngine::Private
 {
     Lane *openLane();
+    void newPage(Lane *lane);
     void startNext();
     void pageLoaded(Lane *lane, bool ok);
     void finishJob(Lane *lane, bool ok);
@@ -75,6 +76,7 @@ struct PdfEngine::Private
     PdfEngine *q = nullptr;
     std::vector<std::unique_ptr<Lane>> lanes;
     int maxLanes = 2;
+    int timeoutMs = RenderTimeoutMs;
     QString allowedFile;
     std::deque<Job> queue;
 };
@@ -146,14 +148,25 @@ Lane *PdfEngine::Private::openLane()
     s->setAttribute(QWebEngineSettings::PrintElementBackgrounds, true);
     s->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 
-    l->page = new GuardedPage(l->profile, *l->guard, q);
-    QObject::connect(l->page, &QWebEnginePage::loadFinished, q, [this, l](bool ok) { pageLoaded(l, ok); });
-
+    newPage(l);
     l->watchdog.setSingleShot(true);
-    l->watchdog.setInterval(RenderTimeoutMs);
-    QObject::connect(&l->watchdog, &QTimer::timeout, q, [this, l] { finishJob(l, false); });
+    l->watchdog.setInterval(timeoutMs);
+    QObject::connect(&l->watchdog, &QTimer::timeout, q, [this, l] {
+        // A page that never finishes (some layouts make the engine spin)
+        // would block every later document: its renderer goes with it.
+        ++l->generation;
+        delete l->page;
+        newPage(l);
+        finishJob(l, false);
+    });
     lanes.push_back(std::move(lane));
     return l;
+}
+
+void PdfEngine::Private::newPage(Lane *l)
+{
+    l->page = new GuardedPage(l->profile, *l->guard, q);
+    QObject::connect(l->page, &QWebEnginePage::loadFinished, q, [this, l](bool ok) { pageLoaded(l, ok); });
 }
 
 PdfEngine::~PdfEngine()
@@ -174,6 +187,13 @@ PdfEngine::~PdfEngine()
     for (Job &job : pending)
         if (job.done)
             job.done(false);
+}
+
+void PdfEngine::setTimeout(int milliseconds)
+{
+    d->timeoutMs = milliseconds;
+    for (auto &lane : d->lanes)
+        lane->watchdog.setInterval(milliseconds);
 }
 
 void PdfEngine::setAllowedLocalFile(const QString &path)

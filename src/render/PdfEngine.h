@@ -27,6 +27,10 @@ public:
     explicit PdfEngine(QObject *parent = nullptr);
     ~PdfEngine() override;
 
+    // How long one document may take before it is given up and its page
+    // replaced (60 s unless changed).
+    void setTimeout(int milliseconds);
+
     // The one local file pages may read besides themselves.
     void setAllowedLocalFile(const QString &path);
 
