@@ -235,6 +235,11 @@ bool PdfEngine::renderAndWait(const QString &html, const PageSetup &setup, const
 void PdfEngine::Private::startNext()
 {
     while (!queue.empty()) {
+        // Two documents for one file (the working PDF) go one after the
+        // other, so each reader finds the file it asked for.
+        const QString &path = queue.front().path;
+        if (std::any_of(lanes.begin(), lanes.end(), [&](const auto &l) { return l->job && l->job->path == path; }))
+            return;
         Lane *lane = nullptr;
         for (auto &l : lanes)
             if (!l->job) {
