@@ -4,20 +4,7 @@
 # bench (e.g. --render-only).
 set -euo pipefail
 cd "$(dirname "$0")/.."
-bash scripts/setup.sh
-
-others=(weasyprint wkhtmltopdf chromium)
-missing=()
-for p in "${others[@]}"; do
-  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
-done
-if [ ${#missing[@]} -gt 0 ]; then
-  echo "Installing: ${missing[*]}"
-  sudo=""
-  [ "$(id -u)" -eq 0 ] || sudo="sudo"
-  $sudo apt-get update -qq
-  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"
-fi
+TABO_EXTRA_PACKAGES="weasyprint wkhtmltopdf chromium" bash scripts/setup.sh
 
 cmake --build build --target bench tabo-cli
 if [ "$(id -u)" -eq 0 ]; then

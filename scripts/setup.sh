@@ -13,6 +13,9 @@ packages=(
   cups-client xdg-utils poppler-utils
   xvfb xauth
 )
+# Further packages a caller needs (the benchmark's comparison programs).
+read -r -a extra <<< "${TABO_EXTRA_PACKAGES:-}"
+packages+=("${extra[@]}")
 
 missing=()
 for p in "${packages[@]}"; do
