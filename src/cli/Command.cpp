@@ -89,6 +89,21 @@ QCommandLineOption Command::yesOption()
     return QCommandLineOption(QStringLiteral("yes"), QStringLiteral("Confirm the questions the command asks."));
 }
 
+QCommandLineOption Command::filterOption()
+{
+    return QCommandLineOption(QStringLiteral("filter"), QStringLiteral("Filter tag."), QStringLiteral("TAG"));
+}
+
+bool Command::filterTag(const QCommandLineParser &parser, unsigned *tag, int *exitCode) const
+{
+    const QString name = QStringLiteral("filter");
+    bool ok = true;
+    *tag = parser.isSet(name) ? parser.value(name).toUInt(&ok) : 0;
+    if (!ok)
+        *exitCode = usageError(QStringLiteral("“%1” is not a filter tag.").arg(parser.value(name)));
+    return ok;
+}
+
 bool Command::selectDocumentWithPairs(const QStringList &args, const QStringList &keys, QStringList *rest,
                                       int *exitCode)
 {

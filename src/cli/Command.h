@@ -48,6 +48,11 @@ protected:
     bool splitKeyValues(const QStringList &words, const QStringList &keys, KeyValues *out, int *exitCode) const;
     // --yes: confirm the questions the command asks.
     static QCommandLineOption yesOption();
+    // --filter TAG, the document list's filter.
+    static QCommandLineOption filterOption();
+    // The tag given with --filter (0 without it); false with `exitCode` set
+    // after a usage error.
+    bool filterTag(const QCommandLineParser &parser, unsigned *tag, int *exitCode) const;
     // parse() with --yes added (after any options already on the parser);
     // the answer goes to the command-line interaction.
     bool parseConfirmed(QCommandLineParser &parser, const QStringList &args, int minPositional, int maxPositional,

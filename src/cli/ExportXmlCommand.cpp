@@ -19,15 +19,14 @@ ExportXmlCommand::ExportXmlCommand(Session &session)
 int ExportXmlCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption filter(QStringLiteral("filter"), QStringLiteral("Filter tag."), QStringLiteral("TAG"));
+    const QCommandLineOption filter = filterOption();
     parser.addOption(filter);
     int code = kExitOk;
     if (!parse(parser, args, 1, 1, &code))
         return code;
-    bool ok = true;
-    const unsigned tag = parser.isSet(filter) ? parser.value(filter).toUInt(&ok) : 0;
-    if (!ok)
-        return usageError(QStringLiteral("“%1” is not a filter tag.").arg(parser.value(filter)));
+    unsigned tag = 0;
+    if (!filterTag(parser, &tag, &code))
+        return code;
     if (!m_session.store())
         return kExitFailure;
     AppController &app = m_session.controller();

@@ -28,16 +28,15 @@ QString ListCommand::statusName(int status)
 int ListCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption filter(QStringLiteral("filter"), QStringLiteral("Filter tag."), QStringLiteral("TAG"));
+    const QCommandLineOption filter = filterOption();
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
     parser.addOptions({filter, json});
     int code = kExitOk;
     if (!parse(parser, args, 0, 0, &code))
         return code;
-    bool ok = true;
-    const unsigned tag = parser.isSet(filter) ? parser.value(filter).toUInt(&ok) : 0;
-    if (!ok)
-        return usageError(QStringLiteral("“%1” is not a filter tag.").arg(parser.value(filter)));
+    unsigned tag = 0;
+    if (!filterTag(parser, &tag, &code))
+        return code;
     Store *store = m_session.store();
     if (!store)
         return kExitFailure;

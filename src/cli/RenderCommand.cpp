@@ -55,10 +55,9 @@ int RenderCommand::execute(const QStringList &args)
         return usageError(QStringLiteral("--html and --pdf write one document; use --out DIR for several."));
     if (parser.isSet(out) && ids.isEmpty() && !parser.isSet(all))
         return usageError(QStringLiteral("Missing argument."));
-    bool ok = true;
-    const unsigned tag = parser.isSet(filter) ? parser.value(filter).toUInt(&ok) : 0;
-    if (!ok)
-        return usageError(QStringLiteral("“%1” is not a filter tag.").arg(parser.value(filter)));
+    unsigned tag = 0;
+    if (!filterTag(parser, &tag, &code))
+        return code;
 
     if (!m_session.store())
         return kExitFailure;

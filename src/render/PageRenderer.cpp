@@ -78,7 +78,9 @@ constexpr std::array<Label, 12> kRowLabels { {
     { u"%LOCTAXES%", P::locTaxes },
 } };
 
-constexpr std::array<Label, 16> kLateLabels { {
+// Then the column headings, which the rows share (kRowLabels from
+// kFirstHeading on).
+constexpr std::array<Label, 9> kLateLabels { {
     { u"%LOCINVOICE%", P::locInvoice },
     { u"%LOCDUE%", P::locQuote }, // only what later values brought in is left
     { u"%LOCEXPIRATION%", P::locExpiration },
@@ -88,14 +90,10 @@ constexpr std::array<Label, 16> kLateLabels { {
     { u"%LOCINVOICENUMBER%", P::locInvoiceNumber },
     { u"%LOCTAXES%", P::locTaxes },
     { u"%WINDOW%", P::prefsLetterbox },
-    { u"%LOCSHORTNUMBER%", P::locNo },
-    { u"%LOCUNIT%", P::locUnit },
-    { u"%LOCUNITPRICE%", P::locUnitPrice },
-    { u"%LOCNET%", P::locNet },
-    { u"%LOCSKUNUMBER%", P::locSKUNumber },
-    { u"%LOCDESCRIPTION%", P::locDescription },
-    { u"%LOCQUANTITY%", P::locQuantity },
 } };
+constexpr std::size_t kFirstHeading = 4;     // "%LOCSHORTNUMBER%"
+constexpr std::size_t kHeadingsEnd = 11;     // up to "%LOCQUANTITY%"
+static_assert(kRowLabels[kFirstHeading].key == P::locNo && kRowLabels[kHeadingsEnd - 1].key == P::locQuantity);
 
 QString withSubtitle(const QString &title, const QString &subtitle)
 {
@@ -220,6 +218,8 @@ QString PageRenderer::invoiceHTMLString(
     page.replace(u"%ITEMSLIST%", [&] { return itemsList(design, invoice, items); });
     for (const Label &label : kLateLabels)
         page.replace(label.placeholder, pref(label.key));
+    for (std::size_t i = kFirstHeading; i < kHeadingsEnd; ++i)
+        page.replace(kRowLabels[i].placeholder, pref(kRowLabels[i].key));
     page.replace(u"%LOGO%", [this] { return logoValue(); });
     return page.text();
 }
