@@ -312,10 +312,13 @@ QString PageRenderer::logoValue() const
         return QStringLiteral("<small><small>Please provide a 'Logo Image' in the Preferences<br />or remove the "
                               "'LOGO' substitute from the design/template.</small></small>");
     const QString path = logoPath();
-    // The web engine does not read TIFF, so the logo is written as PNG.
-    QByteArray png;
+    // The web engine does not read TIFF, so the logo is written as PNG; a
+    // PNG (what the preferences usually hold) goes out as it is, without a
+    // decode and encode on every page.
+    static const QByteArray pngSignature("\x89PNG\r\n\x1a\n", 8);
+    QByteArray png = data.startsWith(pngSignature) ? data : QByteArray();
     QImage image;
-    if (image.loadFromData(data)) {
+    if (png.isEmpty() && image.loadFromData(data)) {
         QBuffer buffer(&png);
         buffer.open(QIODevice::WriteOnly);
         image.save(&buffer, "PNG");
