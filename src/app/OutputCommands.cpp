@@ -347,7 +347,6 @@ QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &docume
     };
     setBusy(+1);
     feed();
-    m_app.setCurrentInvoice(previous);
     if (inFlight > 0)
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     m_app.setCurrentInvoice(previous);
