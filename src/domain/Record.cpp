@@ -143,6 +143,7 @@ void Record::assignNum(int attr, double value)
     const bool wasNull = (m_nullMask >> a.slot) & 1U;
     if (!wasNull && sameBits(m_num[a.slot], value))
         return;
+    noteOriginal(attr);
     m_num[a.slot] = value;
     m_nullMask &= ~(std::uint64_t(1) << a.slot);
     markChanged(attr);
@@ -170,6 +171,7 @@ void Record::setText(int attr, const QString &value)
     // from null only so that a record written with "" keeps it.
     if (slot == value && slot.isNull() == value.isNull())
         return;
+    noteOriginal(attr);
     slot = value;
     markChanged(attr);
 }
@@ -183,6 +185,7 @@ void Record::setNull(int attr)
     }
     if ((m_nullMask >> a.slot) & 1U)
         return;
+    noteOriginal(attr);
     m_nullMask |= std::uint64_t(1) << a.slot;
     m_num[a.slot] = 0.0;
     markChanged(attr);
@@ -355,6 +358,14 @@ void Record::ensureText(int slot) const
     if (m_store)
         m_store->faultText(const_cast<Record *>(this));
     m_textLoaded = true;
+}
+
+void Record::noteOriginal(int attr)
+{
+    // A save checks that nobody else changed what this one is about to
+    // overwrite, so the value read from the store is kept until then.
+    if (m_store && !m_inserted && !m_changed.test(attr))
+        m_store->rememberOriginal(this, attr);
 }
 
 void Record::markChanged(int attr)

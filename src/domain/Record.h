@@ -108,6 +108,7 @@ private:
     double numFromText(int attr) const;
     void assignNum(int attr, double value);
     void ensureText(int slot) const;
+    void noteOriginal(int attr);
     void markChanged(int attr);
     int toOneSlot(int rel) const;
     struct InlineTag {};

@@ -122,6 +122,25 @@ Error migrate(sqlite3 *db, int fromVersion, int toVersion)
     return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(toVersion));
 }
 
+bool hasMissingColumns(sqlite3 *db)
+{
+    for (int i = 0; i < kEntityCount; ++i) {
+        const EntityDesc &entity = entityDesc(EntityId(i));
+        const QSet<QString> have = existingColumns(db, entity.name);
+        for (const auto &a : entity.attributes)
+            if (!have.contains(a.name))
+                return true;
+    }
+    sqlite3_stmt *stmt = nullptr;
+    int indexes = 0;
+    if (sqlite3_prepare_v2(db, "SELECT count(*) FROM sqlite_master WHERE type='index' AND name IN "
+                               "('Item_invoice','Item_template')", -1, &stmt, nullptr) == SQLITE_OK
+        && sqlite3_step(stmt) == SQLITE_ROW)
+        indexes = sqlite3_column_int(stmt, 0);
+    sqlite3_finalize(stmt);
+    return indexes != int(createIndexSql().size());
+}
+
 Error addMissingColumns(sqlite3 *db)
 {
     // Attributes added to the description since the file was written arrive

@@ -27,6 +27,8 @@ Error migrate(sqlite3 *db, int fromVersion, int toVersion);
 // Adds, as empty columns, attributes the description has gained since the
 // file was written; reads only when nothing is missing.
 Error addMissingColumns(sqlite3 *db);
+// Whether addMissingColumns would write anything (only reads).
+bool hasMissingColumns(sqlite3 *db);
 // A new, empty store.
 Error create(sqlite3 *db, int version);
 

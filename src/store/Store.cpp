@@ -104,15 +104,51 @@ Store::~Store()
     close();
 }
 
-Error Store::sqlError(const QString &what) const
+Error Store::damagedError() const
+{
+    return Error{kStoreDomain, SQLITE_CORRUPT,
+                 QStringLiteral("The database file “%1” is damaged; nothing more is written to it.").arg(m_path),
+                 QStringLiteral("Quit Tabo and keep the file for now. Move it aside and restore your last complete "
+                                "backup (File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or "
+                                "start a new database and restore the automatic backup of your documents "
+                                "(tabo-cli restore auto --yes).")};
+}
+
+Error Store::sqlError(const QString &what)
 {
     const int code = m_db ? sqlite3_errcode(m_db) : SQLITE_ERROR;
-    QString reason = m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString();
-    if (code == SQLITE_CORRUPT || code == SQLITE_NOTADB)
-        reason = QStringLiteral("The database file “%1” is damaged or is not a Tabo database; "
-                                "it has been left as it is.")
-                     .arg(m_path);
-    return Error{kStoreDomain, code, what, reason};
+    if ((code & 0xff) == SQLITE_CORRUPT || (code & 0xff) == SQLITE_NOTADB) {
+        m_damaged = true; // whatever comes next must not make it worse
+        Error e = damagedError();
+        e.description = what + QLatin1Char(' ') + e.description;
+        return e;
+    }
+    return Error{kStoreDomain, code, what, m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
+}
+
+Error Store::checkIntegrity()
+{
+    if (m_damaged)
+        return damagedError();
+    if (m_checked || !m_db)
+        return {};
+    // quick_check reads every page and the schema; it leaves out only the
+    // index-against-table comparison, which a write does not depend on.
+    sqlite3_stmt *st = nullptr;
+    bool ok = sqlite3_prepare_v2(m_db, "PRAGMA quick_check", -1, &st, nullptr) == SQLITE_OK;
+    if (ok) {
+        int rc = sqlite3_step(st);
+        ok = rc == SQLITE_ROW && qstrcmp(reinterpret_cast<const char *>(sqlite3_column_text(st, 0)), "ok") == 0;
+        if (ok)
+            ok = sqlite3_step(st) == SQLITE_DONE;
+    }
+    sqlite3_finalize(st);
+    if (!ok) {
+        m_damaged = true;
+        return damagedError();
+    }
+    m_checked = true;
+    return {};
 }
 
 Error Store::open()
@@ -128,6 +164,15 @@ Error Store::open()
         return Error{kStoreDomain, SQLITE_NOTADB,
                      QStringLiteral("The file “%1” is not a Tabo database.").arg(m_path),
                      QStringLiteral("It has been left as it is.")};
+    // Only a missing file is a new installation; an empty one is what a full
+    // disk or a failed copy leaves, and the data must come from a backup.
+    if (exists && empty)
+        return Error{kStoreDomain, kEmptyFile,
+                     QStringLiteral("The database file “%1” is empty (0 bytes).").arg(m_path),
+                     QStringLiteral("It has been left as it is. Restore your last complete backup "
+                                    "(File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or move "
+                                    "the file aside to start a new database and restore the automatic backup "
+                                    "of your documents (tabo-cli restore auto --yes).")};
 
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (exists ? 0 : SQLITE_OPEN_CREATE);
     if (sqlite3_open_v2(m_path.toUtf8().constData(), &m_db, flags, nullptr) != SQLITE_OK) {
@@ -138,7 +183,8 @@ Error Store::open()
         m_db = nullptr;
         return e;
     }
-    sqlite3_busy_timeout(m_db, 3000);
+    // Another process may hold the write lock for a save of its own.
+    sqlite3_busy_timeout(m_db, 10000);
 
     // Read-only checks first: nothing is written until the file is known to be ours.
     int version = -1;
@@ -184,11 +230,27 @@ Error Store::open()
         return failure;
     }
 
-    sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
-    sqlite3_exec(m_db, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
-    sqlite3_exec(m_db, "PRAGMA foreign_keys=ON", nullptr, nullptr, nullptr);
-
+    // Switching to WAL, migrating or adding columns writes; a damaged file
+    // must be found before any of that. A current store needs none of it, so
+    // its check can wait until the first save.
+    QByteArray journal;
     {
+        sqlite3_stmt *st = nullptr;
+        if (sqlite3_prepare_v2(m_db, "PRAGMA journal_mode", -1, &st, nullptr) == SQLITE_OK
+            && sqlite3_step(st) == SQLITE_ROW)
+            journal = QByteArray(reinterpret_cast<const char *>(sqlite3_column_text(st, 0))).toLower();
+        sqlite3_finalize(st);
+    }
+    const bool needsWrite = version != kSchemaVersion || journal != "wal" || schema::hasMissingColumns(m_db);
+    if (needsWrite && version > 0) {
+        if (const Error e = checkIntegrity()) {
+            close();
+            return e;
+        }
+    }
+    if (needsWrite) {
+        if (journal != "wal")
+            sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
         sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
         const Error e = version == 0                ? schema::create(m_db, kSchemaVersion)
                         : version < kSchemaVersion ? schema::migrate(m_db, version, kSchemaVersion)
@@ -200,9 +262,13 @@ Error Store::open()
                          QStringLiteral("The database “%1” could not be updated.").arg(m_path), e.message()};
         }
         sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
+        m_checked = m_checked || version == 0;
     }
+    sqlite3_exec(m_db, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
+    sqlite3_exec(m_db, "PRAGMA foreign_keys=ON", nullptr, nullptr, nullptr);
 
     m_lastError = {};
+    changedElsewhere(); // remember where the file stands
     loadAll(EntityId::Invoice);
     if (m_lastError) {
         const Error e = m_lastError;
@@ -220,10 +286,15 @@ void Store::close()
     for (auto &st : m_entities)
         st->destroyAll();
     m_dirty.clear();
+    m_originals.clear();
+    m_conflicts.clear();
     if (m_db) {
         sqlite3_close(m_db);
         m_db = nullptr;
     }
+    m_dataVersion = -1;
+    m_checked = false;
+    m_damaged = false;
 }
 
 int Store::schemaVersion() const
@@ -267,6 +338,8 @@ Record *Store::adopt(EntityId entity, qint64 id, bool *created)
     }
     auto *r = new Record(this, entity, id);
     st.map.insert(id, r);
+    if (st.maxId >= 0)
+        st.maxId = std::max(st.maxId, id);
     *created = true;
     return r;
 }
@@ -277,6 +350,10 @@ void Store::readRow(Record *r, sqlite3_stmt *stmt, int col, bool listOnly)
     const EntityState &st = *m_entities[int(d.id)];
     auto readAttr = [&](int a) {
         const AttributeDesc &ad = d.attributes[a];
+        if (r->m_changed.test(a)) { // an unsaved local change wins over a re-read
+            ++col;
+            return;
+        }
         if (ad.isText()) {
             r->m_text[ad.slot] = textFromColumn(stmt, col);
         } else {
@@ -302,10 +379,16 @@ void Store::readRow(Record *r, sqlite3_stmt *stmt, int col, bool listOnly)
         r->m_textLoaded = true;
     }
     int slot = 0;
+    const std::size_t attrCount = d.attributes.size();
     for (const auto &rel : d.relations) {
         if (rel.toMany)
             continue;
-        r->m_fk[slot] = sqlite3_column_type(stmt, col) == SQLITE_NULL ? 0 : sqlite3_column_int64(stmt, col);
+        const qint64 fk = sqlite3_column_type(stmt, col) == SQLITE_NULL ? 0 : sqlite3_column_int64(stmt, col);
+        if (!r->m_changed.test(attrCount + slot) && r->m_fk[slot] != fk) {
+            r->m_fk[slot] = fk;
+            if (r->m_toOne)
+                r->m_toOne[slot] = nullptr;
+        }
         ++slot;
         ++col;
     }
@@ -406,7 +489,7 @@ void Store::loadAll(EntityId entity)
     while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
         bool created = false;
         Record *r = adopt(entity, sqlite3_column_int64(stmt, 0), &created);
-        if (created)
+        if (created || (m_refreshing && !r->m_inserted && !r->m_deleted))
             readRow(r, stmt, 1, listOnly);
         if (!r->m_deleted)
             live.append(r);
@@ -649,7 +732,7 @@ QList<Record *> *Store::loadToMany(const Record *owner, int rel)
             while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
                 bool created = false;
                 Record *r = adopt(rd.target, sqlite3_column_int64(stmt, 0), &created);
-                if (created)
+                if (created || (m_refreshing && !r->m_inserted && !r->m_deleted))
                     readRow(r, stmt, 1, false);
                 if (!r->m_deleted && r->m_fk[fkSlot] == owner->m_id)
                     list->append(r);
@@ -665,6 +748,44 @@ QList<Record *> *Store::loadToMany(const Record *owner, int rel)
             && !list->contains(r))
             list->append(r);
     return list;
+}
+
+namespace {
+
+// Binds one value the way it is stored: NaN as the text "NaN", integers and
+// booleans as integers, null as null.
+void bindValue(sqlite3_stmt *stmt, int p, const AttributeDesc &ad, bool null, double v, const QString &text)
+{
+    if (ad.isText()) {
+        if (text.isNull()) {
+            sqlite3_bind_null(stmt, p);
+        } else {
+            const QByteArray utf8 = text.toUtf8();
+            sqlite3_bind_text(stmt, p, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+        }
+    } else if (null) {
+        sqlite3_bind_null(stmt, p);
+    } else if (std::isnan(v)) {
+        sqlite3_bind_text(stmt, p, "NaN", 3, SQLITE_STATIC);
+    } else if (ad.type == AttrType::Int || ad.type == AttrType::Bool) {
+        sqlite3_bind_int64(stmt, p, qint64(v));
+    } else {
+        sqlite3_bind_double(stmt, p, v);
+    }
+}
+
+} // namespace
+
+void Store::rememberOriginal(Record *r, int attr)
+{
+    QHash<int, Original> &originals = m_originals[r];
+    if (originals.contains(attr))
+        return;
+    const AttributeDesc &ad = r->desc().attributes[attr];
+    if (ad.isText())
+        originals.insert(attr, Original{false, 0.0, r->m_text[ad.slot]});
+    else
+        originals.insert(attr, Original{bool((r->m_nullMask >> ad.slot) & 1U), r->m_num[ad.slot], {}});
 }
 
 Error Store::writeRecord(Record *r)
@@ -694,6 +815,14 @@ Error Store::writeRecord(Record *r)
         if (cols.isEmpty())
             return {};
     }
+    // Each changed value must still be what this process read: otherwise
+    // another process changed it meanwhile and the row is left alone.
+    QList<int> guarded;
+    const QHash<int, Original> originals = m_originals.value(r);
+    if (!r->m_inserted)
+        for (int c : cols)
+            if (c < attrCount && originals.contains(c))
+                guarded << c;
     QString sql;
     if (r->m_inserted) {
         QStringList names{QStringLiteral("\"id\"")};
@@ -707,6 +836,8 @@ Error Store::writeRecord(Record *r)
         for (int c : cols)
             sets << schema::quoted(st.fullColumns[c]) + QStringLiteral("=?");
         sql = QStringLiteral("UPDATE %1 SET %2 WHERE \"id\" = ?").arg(table, sets.join(QLatin1Char(',')));
+        for (int c : guarded)
+            sql += QStringLiteral(" AND %1 IS ?").arg(schema::quoted(st.fullColumns[c]));
     }
     sqlite3_stmt *stmt = prepare(sql);
     if (!stmt)
@@ -721,46 +852,107 @@ Error Store::writeRecord(Record *r)
             continue;
         }
         const AttributeDesc &ad = d.attributes[c];
-        if (ad.isText()) {
-            const QString &s = r->m_text[ad.slot];
-            if (s.isNull()) {
-                sqlite3_bind_null(stmt, p++);
-            } else {
-                const QByteArray utf8 = s.toUtf8();
-                sqlite3_bind_text(stmt, p++, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
-            }
-        } else if ((r->m_nullMask >> ad.slot) & 1U) {
-            sqlite3_bind_null(stmt, p++);
-        } else {
-            const double v = r->m_num[ad.slot];
-            if (std::isnan(v))
-                sqlite3_bind_text(stmt, p++, "NaN", 3, SQLITE_STATIC);
-            else if (ad.type == AttrType::Int || ad.type == AttrType::Bool)
-                sqlite3_bind_int64(stmt, p++, qint64(v));
-            else
-                sqlite3_bind_double(stmt, p++, v);
+        bindValue(stmt, p++, ad, (r->m_nullMask >> ad.slot) & 1U, ad.isText() ? 0.0 : r->m_num[ad.slot],
+                  ad.isText() ? r->m_text[ad.slot] : QString());
+    }
+    if (!r->m_inserted) {
+        sqlite3_bind_int64(stmt, p++, r->m_id);
+        for (int c : guarded) {
+            const Original &o = originals[c];
+            bindValue(stmt, p++, d.attributes[c], o.null, o.num, o.text);
         }
     }
-    if (!r->m_inserted)
-        sqlite3_bind_int64(stmt, p++, r->m_id);
-    return sqlite3_step(stmt) == SQLITE_DONE ? Error{} : sqlError(QStringLiteral("A record could not be written."));
+    if (sqlite3_step(stmt) != SQLITE_DONE)
+        return sqlError(QStringLiteral("A record could not be written."));
+    if (!r->m_inserted && sqlite3_changes(m_db) == 0)
+        m_conflicts.append(r);
+    return {};
 }
 
-Error Store::save()
+Error Store::assignNewIds()
 {
-    if (m_dirty.isEmpty())
+    for (int i = 0; i < kEntityCount; ++i) {
+        EntityState &st = *m_entities[i];
+        QList<Record *> fresh;
+        for (Record *r : std::as_const(m_dirty))
+            if (int(r->m_entity) == i && r->m_inserted && !r->m_deleted)
+                fresh << r;
+        if (fresh.isEmpty())
+            continue;
+        qint64 dbMax = 0;
+        sqlite3_stmt *stmt = prepare(QStringLiteral("SELECT max(\"id\") FROM %1").arg(schema::quoted(entityDesc(EntityId(i)).name)));
+        if (!stmt)
+            return m_lastError;
+        if (sqlite3_step(stmt) != SQLITE_ROW) {
+            const Error e = sqlError(QStringLiteral("The changes could not be saved."));
+            sqlite3_reset(stmt);
+            return e;
+        }
+        dbMax = sqlite3_column_int64(stmt, 0);
+        sqlite3_reset(stmt);
+        // Ids handed out before the write lock was held may have been taken
+        // by another process since; the ones above the table's maximum are free.
+        qint64 next = std::max(st.maxId, dbMax);
+        QHash<qint64, qint64> moved;
+        for (Record *r : std::as_const(fresh)) {
+            if (r->m_id > dbMax)
+                continue;
+            if (st.map.value(r->m_id) == r)
+                st.map.remove(r->m_id);
+            moved.insert(r->m_id, ++next);
+            r->m_id = next;
+            st.map.insert(next, r);
+        }
+        st.maxId = next;
+        if (moved.isEmpty())
+            continue;
+        for (Record *r : std::as_const(m_dirty)) {
+            const EntityDesc &d = r->desc();
+            int slot = 0;
+            for (const auto &rel : d.relations) {
+                if (rel.toMany)
+                    continue;
+                if (int(rel.target) == i && moved.contains(r->m_fk[slot]))
+                    r->m_fk[slot] = moved.value(r->m_fk[slot]);
+                ++slot;
+            }
+        }
+    }
+    return {};
+}
+
+Error Store::save(const std::function<void()> &inTransaction)
+{
+    if (m_dirty.isEmpty() && !inTransaction)
         return {};
     if (!m_db)
         return Error{Error::kAppDomain, 9999, QStringLiteral("Failed to initialize the store"),
                      QStringLiteral("There was an error building up the data file.")};
+    if (const Error e = checkIntegrity())
+        return e;
     if (sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK)
         return sqlError(QStringLiteral("The changes could not be saved."));
+    const auto fail = [this](const Error &e) {
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+        return Error{e.domain, e.code, QStringLiteral("The changes could not be saved."), e.message()};
+    };
+    refreshIfChanged();
+    if (inTransaction)
+        inTransaction();
+    if (m_damaged)
+        return fail(damagedError());
+    if (const Error e = assignNewIds())
+        return fail(e);
+    m_conflicts.clear();
     for (Record *r : std::as_const(m_dirty)) {
         // Rows of a document that was deleted already went with it.
-        if (const Error e = writeRecord(r)) {
-            sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
-            return Error{e.domain, e.code, QStringLiteral("The changes could not be saved."), e.message()};
-        }
+        if (const Error e = writeRecord(r))
+            return fail(e);
+    }
+    if (!m_conflicts.isEmpty()) {
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+        return Error{kStoreDomain, kConflict, QStringLiteral("The changes could not be saved."),
+                     QStringLiteral("Another program changed the same records after they were read here.")};
     }
     if (sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
         const Error e = sqlError(QStringLiteral("The changes could not be saved."));
@@ -775,7 +967,159 @@ Error Store::save()
         // somebody still holds does not dangle; they go with the store.
     }
     m_dirty.clear();
+    m_originals.clear();
+    changedElsewhere(); // our own commit is not news
     return {};
+}
+
+bool Store::changedElsewhere()
+{
+    if (!m_db)
+        return false;
+    sqlite3_stmt *stmt = prepare(QStringLiteral("PRAGMA data_version"));
+    if (!stmt)
+        return false;
+    qint64 v = m_dataVersion;
+    if (sqlite3_step(stmt) == SQLITE_ROW)
+        v = sqlite3_column_int64(stmt, 0);
+    sqlite3_reset(stmt);
+    const bool changed = m_dataVersion >= 0 && v != m_dataVersion;
+    m_dataVersion = v;
+    return changed;
+}
+
+bool Store::refreshIfChanged()
+{
+    if (!changedElsewhere())
+        return false;
+    refresh();
+    if (m_onExternalChange)
+        m_onExternalChange();
+    return true;
+}
+
+void Store::refresh()
+{
+    m_refreshing = true;
+    for (int i = 0; i < kEntityCount; ++i)
+        rescanEntity(EntityId(i));
+    // Lists of lines (and other to-many lists) already read are read again in
+    // place, so whoever holds one sees the current lines.
+    for (auto &st : m_entities) {
+        for (Record *owner : std::as_const(st->map)) {
+            if (!owner->m_toMany || owner->m_inserted || owner->m_deleted)
+                continue;
+            for (int rel = 0; rel < int(owner->desc().relations.size()); ++rel) {
+                if (!owner->m_toMany[rel])
+                    continue;
+                std::unique_ptr<QList<Record *>> fresh(loadToMany(owner, rel));
+                *owner->m_toMany[rel] = std::move(*fresh);
+            }
+        }
+    }
+    m_refreshing = false;
+}
+
+void Store::rescanEntity(EntityId entity)
+{
+    EntityState &st = *m_entities[int(entity)];
+    if (!st.loaded && st.map.isEmpty())
+        return;
+    const bool listOnly = entity == EntityId::Invoice;
+    // A loaded entity is read whole (new rows join it); otherwise only the
+    // records held here are looked at.
+    const bool wholeTable = st.loaded || st.map.size() > 256;
+    sqlite3_stmt *stmt = prepare(wholeTable ? (listOnly ? st.listSelect : st.fullSelect)
+                                            : st.fullSelect + QStringLiteral(" WHERE \"id\" = ?"));
+    if (!stmt)
+        return;
+    QSet<const Record *> seen;
+    QList<Record *> live;
+    const auto take = [&](sqlite3_stmt *row) {
+        const qint64 id = sqlite3_column_int64(row, 0);
+        Record *r = st.map.value(id);
+        if (!r && !st.loaded)
+            return;
+        bool created = false;
+        if (!r)
+            r = adopt(entity, id, &created);
+        if (r->m_deleted || r->m_inserted)
+            return;
+        readRow(r, row, 1, listOnly);
+        seen.insert(r);
+        live.append(r);
+    };
+    if (wholeTable) {
+        int rc;
+        while ((rc = sqlite3_step(stmt)) == SQLITE_ROW)
+            take(stmt);
+        if (rc != SQLITE_DONE)
+            m_lastError = sqlError(QStringLiteral("The database could not be read."));
+        sqlite3_reset(stmt);
+    } else {
+        const QList<Record *> known = st.map.values();
+        for (Record *r : known) {
+            if (r->m_deleted || r->m_inserted)
+                continue;
+            sqlite3_reset(stmt);
+            sqlite3_bind_int64(stmt, 1, r->m_id);
+            if (sqlite3_step(stmt) == SQLITE_ROW)
+                take(stmt);
+        }
+        sqlite3_reset(stmt);
+    }
+    // Rows gone from the file: a record with unsaved changes stays (its save
+    // reports the conflict), the others are gone here too.
+    for (Record *r : std::as_const(st.map)) {
+        if (r->m_deleted || r->m_inserted || seen.contains(r))
+            continue;
+        if (r->hasChanges()) {
+            live.append(r);
+            continue;
+        }
+        r->m_deleted = true;
+    }
+    if (!st.loaded)
+        return;
+    for (Record *r : std::as_const(m_dirty))
+        if (r->m_entity == entity && r->m_inserted && !r->m_deleted)
+            live.append(r);
+    st.live = std::move(live);
+}
+
+void Store::keepMineOnConflicts()
+{
+    for (Record *r : std::as_const(m_conflicts)) {
+        m_originals.remove(r);
+        const EntityDesc &d = r->desc();
+        sqlite3_stmt *stmt = prepare(QStringLiteral("SELECT 1 FROM %1 WHERE \"id\" = ?").arg(schema::quoted(d.name)));
+        if (!stmt)
+            continue;
+        sqlite3_bind_int64(stmt, 1, r->m_id);
+        const bool exists = sqlite3_step(stmt) == SQLITE_ROW;
+        sqlite3_reset(stmt);
+        if (!exists) { // deleted elsewhere: write it again whole
+            r->m_textLoaded = true; // texts never read stay empty: the row is gone
+            r->m_inserted = true;
+        }
+    }
+    m_conflicts.clear();
+}
+
+void Store::revertConflicts()
+{
+    for (Record *r : std::as_const(m_conflicts)) {
+        m_originals.remove(r);
+        r->m_changed.reset();
+        if (!r->m_inserted && !r->m_deleted) {
+            m_dirty.removeOne(r);
+            r->m_inDirty = false;
+        }
+    }
+    m_conflicts.clear();
+    refresh();
+    if (m_onExternalChange)
+        m_onExternalChange();
 }
 
 void Store::reset()
@@ -787,8 +1131,12 @@ void Store::reset()
     for (auto &st : m_entities)
         st->destroyAll();
     m_dirty.clear();
-    if (m_db)
+    m_originals.clear();
+    m_conflicts.clear();
+    if (m_db) {
+        changedElsewhere();
         loadAll(EntityId::Invoice);
+    }
 }
 
 } // namespace tabo

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -23,6 +24,12 @@ class Record;
 // only, the remaining texts on first use), the other entities on first use,
 // lines per document on first use. save() writes only what changed, in one
 // transaction.
+//
+// Other processes may work on the same file. A save takes the write lock
+// first, re-reads what another process committed since (refresh), gives new
+// records their ids only then, and never overwrites a value that was changed
+// elsewhere after this process read it: such records are reported as
+// conflicts and nothing is written.
 class Store
 {
 public:
@@ -47,7 +54,34 @@ public:
     qsizetype count(EntityId entity);
 
     bool hasChanges() const { return !m_dirty.isEmpty(); }
-    Error save();
+    // Writes every change in one transaction. `inTransaction` runs once the
+    // write lock is held and the store is current, so what it computes from
+    // the store (the next number) cannot be taken by another process.
+    Error save(const std::function<void()> &inTransaction = {});
+
+    // Whether another connection committed since this one last looked.
+    bool changedElsewhere();
+    // Re-reads what is held (records keep their identity; unsaved changes
+    // stay). Returns whether anything was re-read.
+    bool refreshIfChanged();
+    // Runs after every refresh, also inside a save.
+    void setExternalChangeHandler(std::function<void()> handler) { m_onExternalChange = std::move(handler); }
+
+    // The records of the last save that failed with kConflict.
+    const QList<Record *> &conflicts() const { return m_conflicts; }
+    // Conflict answers: keep this process's values (the next save overwrites)
+    // or take the stored ones.
+    void keepMineOnConflicts();
+    void revertConflicts();
+    static constexpr int kConflict = -409;
+    // open(): the file is there but empty.
+    static constexpr int kEmptyFile = -410;
+
+    // A failed integrity check or a corruption met while working: nothing is
+    // written any more.
+    bool isDamaged() const { return m_damaged; }
+    // The integrity check that must pass before the first write.
+    Error checkIntegrity();
     // Forgets every unsaved change and every loaded record (a context reset).
     void reset();
     // The last read failure (damaged file), cleared by the next successful open.
@@ -68,7 +102,19 @@ private:
     friend class Record;
     struct EntityState;
 
+    struct Original
+    {
+        bool null;
+        double num;
+        QString text;
+    };
+
     void faultText(Record *record);
+    void rememberOriginal(Record *record, int attr);
+    void refresh();
+    void rescanEntity(EntityId entity);
+    Error assignNewIds();
+    Error damagedError() const;
     QList<Record *> *loadToMany(const Record *owner, int rel);
     void noteChanged(Record *record);
     Record *adopt(EntityId entity, qint64 id, bool *created);
@@ -76,7 +122,7 @@ private:
     void loadAll(EntityId entity);
     bool loadDocumentsInListOrder();
     sqlite3_stmt *prepare(const QString &sql);
-    Error sqlError(const QString &what) const;
+    Error sqlError(const QString &what);
     Error writeRecord(Record *record);
     void discardRecord(Record *record);
 
@@ -86,6 +132,13 @@ private:
     std::array<std::unique_ptr<EntityState>, kEntityCount> m_entities;
     QList<Record *> m_dirty;
     QHash<QString, sqlite3_stmt *> m_statements;
+    QHash<const Record *, QHash<int, Original>> m_originals;
+    QList<Record *> m_conflicts;
+    std::function<void()> m_onExternalChange;
+    qint64 m_dataVersion = -1;
+    bool m_refreshing = false;
+    bool m_checked = false;
+    bool m_damaged = false;
 };
 
 } // namespace tabo
