@@ -138,6 +138,7 @@ void AppController::openStore()
         return;
     }
     m_store = std::move(store);
+    m_store->setExternalChangeHandler([this] { storeChangedElsewhere(); });
     if (!m_prefs.boolean(P::isTabo2TemplateLoadingDone)) {
         m_prefs.setBool(P::isTabo2TemplateLoadingDone, true);
         m_tabo2TemplatePending = true;
@@ -154,10 +155,86 @@ Error AppController::saveContext()
 {
     if (!m_store)
         return {};
-    const Error e = m_store->save();
+    m_changedDuringSave = false;
+    Error e = m_store->save([this] { renumberPending(); });
+    if (e.domain == kStoreDomain && e.code == Store::kConflict) {
+        if (!resolveConflicts())
+            return e;
+        e = m_store->save([this] { renumberPending(); });
+    }
     if (e)
         m_ui.presentError(e);
+    else
+        m_pendingNumbers.clear();
     return e;
+}
+
+bool AppController::resolveConflicts()
+{
+    QStringList names;
+    for (const Record *r : m_store->conflicts()) {
+        const Record *doc = r->entityId() == EntityId::Item ? r->toOne(Item::invoice) : r;
+        QString name = doc && doc->entityId() == EntityId::Invoice
+                           ? (doc->text(Invoice::number).isEmpty() ? doc->text(Invoice::title) : doc->text(Invoice::number))
+                           : r->desc().name;
+        if (!names.contains(name))
+            names << name;
+    }
+    const int answer = m_ui.alert(
+        QStringLiteral("Changed Elsewhere"),
+        QStringLiteral("“%1” was changed by another program (another Tabo window or tabo-cli) after it was read "
+                       "here. Keep your changes and overwrite the other ones, or reload the stored version and "
+                       "lose your changes?")
+            .arg(names.join(QStringLiteral("”, “"))),
+        {QStringLiteral("Keep My Changes"), QStringLiteral("Reload")});
+    if (answer == 0) {
+        m_store->keepMineOnConflicts();
+        return true;
+    }
+    m_store->revertConflicts();
+    return false;
+}
+
+void AppController::syncWithStore()
+{
+    if (m_store)
+        m_store->refreshIfChanged();
+}
+
+void AppController::storeChangedElsewhere()
+{
+    m_changedDuringSave = true;
+    m_list.reload(m_store.get());
+    if (m_current && (m_current->isDeleted() || !m_list.all().contains(m_current)))
+        m_current = nullptr;
+    m_list.calculateDatabase(now());
+    Q_EMIT listChanged();
+    Q_EMIT summaryChanged();
+    Q_EMIT currentInvoiceChanged(m_current);
+}
+
+void AppController::numberInSave(Record *document, QString (AppController::*numberer)() const, bool countsItself)
+{
+    m_pendingNumbers.append({document, numberer, countsItself});
+}
+
+void AppController::renumberPending()
+{
+    // Runs with the write lock held: whatever the numbers are counted from now
+    // cannot change before they are written.
+    if (!m_changedDuringSave)
+        return;
+    for (const PendingNumber &p : std::as_const(m_pendingNumbers)) {
+        if (p.document->isDeleted())
+            continue;
+        if (!p.countsItself)
+            m_list.remove(p.document);
+        m_list.calculateDatabase(now());
+        p.document->setText(Invoice::number, (this->*p.numberer)());
+        if (!p.countsItself)
+            m_list.add(p.document);
+    }
+    m_list.calculateDatabase(now());
 }
 
 void AppController::saveAction()
@@ -420,10 +497,13 @@ Record *AppController::newDocument(bool invoice)
     m_prefs.setBool(P::isFirstInvoiceEverCreated, true);
     setFilterTag(0); // before numbering: the creating commands never re-apply the predicate
 
+    syncWithStore();
     Record *doc = store->insert(EntityId::Invoice);
     doc->setText(Invoice::uniqueID, newUniqueId());
     const bool numbered = m_prefs.boolean(invoice ? P::invHaveNumber : P::quotHaveNumber);
     doc->setText(Invoice::number, numbered ? (invoice ? invoiceNumberString() : quoteNumberString()) : QString(""));
+    if (numbered)
+        numberInSave(doc, invoice ? &AppController::invoiceNumberString : &AppController::quoteNumberString, false);
 
     const auto pref = [this](P::Key key) { return m_prefs.contains(key) ? m_prefs.string(key) : QStringLiteral(""); };
     doc->setText(Invoice::address, QStringLiteral(""));
@@ -528,15 +608,24 @@ QString AppController::getPatternDateStringFromDate(Date date) const
 
 Record *AppController::findDocument(const QString &idOrNumber)
 {
+    const QList<Record *> found = findDocuments(idOrNumber);
+    return found.isEmpty() ? nullptr : found.first();
+}
+
+QList<Record *> AppController::findDocuments(const QString &idOrNumber)
+{
+    QList<Record *> found;
     if (!managedObjectContext() || idOrNumber.isEmpty())
-        return nullptr;
+        return found;
     for (Record *r : m_list.all())
         if (r->text(Invoice::uniqueID) == idOrNumber)
-            return r;
+            found << r;
+    if (!found.isEmpty())
+        return found;
     for (Record *r : m_list.all())
         if (r->text(Invoice::number) == idOrNumber)
-            return r;
-    return nullptr;
+            found << r;
+    return found;
 }
 
 } // namespace tabo

@@ -54,8 +54,13 @@ public:
     bool hasStore() const { return m_store != nullptr; }
     bool isTerminating() const { return m_terminating; }
 
-    // Saves what changed; a failure is presented and returned.
+    // Saves what changed; a failure is presented and returned. When another
+    // program changed the same records meanwhile the person chooses between
+    // their edit and the stored one.
     Error saveContext();
+    // Takes in what other programs committed to the store since we last
+    // looked (the window calls it on activation and when idle).
+    void syncWithStore();
     void saveAction();
 
     // Start-up, in this order.
@@ -119,6 +124,8 @@ public:
 
     // Finds a document by uniqueID or number (first match, newest first).
     Record *findDocument(const QString &idOrNumber);
+    // Every document with that uniqueID or, when none has it, that number.
+    QList<Record *> findDocuments(const QString &idOrNumber);
 
     // ---- Commands on the current document ----
     DocumentCommands &documents() { return *m_documents; }
@@ -141,6 +148,12 @@ public:
     // attributes directly), recalculate it, run the summary pass, keep the
     // list in date order, save, and tell the views.
     void documentChanged(Record *document);
+    // The document's number depends on the other documents: it is computed
+    // again inside the save that writes it when another program added
+    // documents meanwhile. `countsItself` for a converted quote, which is in
+    // the count already.
+    void numberInSave(Record *document, QString (AppController::*numberer)() const, bool countsItself);
+
     // A document was removed from the store: drop it from the list and the
     // current selection.
     void documentRemoved(Record *document);
@@ -161,6 +174,18 @@ private:
     Record *newDocument(bool invoice);
     void installPendingTabo2Template();
     void openStore();
+    void storeChangedElsewhere();
+    void renumberPending();
+    bool resolveConflicts();
+
+    struct PendingNumber
+    {
+        Record *document;
+        QString (AppController::*numberer)() const;
+        bool countsItself;
+    };
+    QList<PendingNumber> m_pendingNumbers;
+    bool m_changedDuringSave = false;
 
     Preferences &m_prefs;
     Interaction &m_ui;

@@ -30,6 +30,7 @@ Record *DocumentCommands::duplicateInvoice()
     if (!source || !m_app.managedObjectContext())
         return nullptr;
     Preferences &prefs = m_app.prefs();
+    m_app.syncWithStore();
     m_app.setFilterTag(0);
 
     static const QStringList kNotCopied = {
@@ -49,6 +50,8 @@ Record *DocumentCommands::duplicateInvoice()
     // Quotes too are numbered by the invoice pattern; their kind stays.
     copy->setText(Invoice::number,
                   prefs.boolean(P::invHaveNumber) ? m_app.invoiceNumberString() : QStringLiteral(""));
+    if (prefs.boolean(P::invHaveNumber))
+        m_app.numberInSave(copy, &AppController::invoiceNumberString, false);
     const Date created = now();
     // Without due dates the copy gets today, like a new document, rather than
     // no due date at all.
@@ -95,6 +98,8 @@ bool DocumentCommands::convertQuoteToInvoice()
         doc->setDate(Invoice::due, m_app.futureDateFromTodayWithDays(prefs.integer(P::invDefaultDueDate)));
     doc->setText(Invoice::number,
                  prefs.boolean(P::invHaveNumber) ? m_app.convertedInvoiceNumberString() : QStringLiteral(""));
+    if (prefs.boolean(P::invHaveNumber))
+        m_app.numberInSave(doc, &AppController::convertedInvoiceNumberString, true);
     doc->setText(Invoice::title, prefText(prefs, P::locInvoice));
     doc->setText(Invoice::conditions, prefText(prefs, P::tempInvConditions));
     doc->setText(Invoice::footer, prefText(prefs, P::tempInvFooter));

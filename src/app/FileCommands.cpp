@@ -1,8 +1,10 @@
 #include "app/FileCommands.h"
 
+
 #include "app/AppController.h"
 #include "app/Interaction.h"
 #include "domain/Record.h"
+#include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
 #include "store/KeyedArchive.h"
 #include "store/ObjectDictionary.h"
@@ -12,6 +14,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+
+#include <algorithm>
 
 namespace tabo {
 
@@ -222,7 +226,15 @@ Record *FileCommands::importInvoiceFile(const QString &path, QString *error)
     if (dictionary.isEmpty())
         return nullptr;
     dictionary.insert(OD::kClassKey, QStringLiteral("Invoice"));
+    m_app.syncWithStore();
     Record *invoice = OD::createManagedObjectFromDictionary(dictionary, *store);
+    // Importing the same file twice must not make one ID name two documents.
+    const QString id = invoice->text(Invoice::uniqueID);
+    const QList<Record *> &all = m_app.documentList().all();
+    if (id.isEmpty() || std::any_of(all.cbegin(), all.cend(), [&id](const Record *r) {
+            return r->text(Invoice::uniqueID) == id;
+        }))
+        invoice->setText(Invoice::uniqueID, newUniqueId());
     m_app.documentCreated(invoice);
     return invoice;
 }

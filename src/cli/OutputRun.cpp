@@ -35,23 +35,29 @@ Record *OutputRun::design(Session &session, const QString &titleOrId, QString *e
         *error = QString();
         return nullptr;
     }
-    Record *found = nullptr;
-    int matches = 0;
+    // An ID first: imported twice, one ID may name two designs, and then no
+    // title is looked at either.
     const QList<Record *> designs = session.controller().designs().designs();
+    QList<Record *> byId, byTitle;
     for (Record *d : designs) {
         if (d->text(Design::uniqueID) == titleOrId)
-            return d;
-        if (d->text(Design::title) == titleOrId) {
-            found = found ? found : d;
-            ++matches;
-        }
+            byId << d;
+        else if (d->text(Design::title) == titleOrId)
+            byTitle << d;
     }
-    if (matches == 1)
-        return found;
-    *error = matches == 0 ? QStringLiteral("No design titled “%1”.").arg(titleOrId)
-                          : QStringLiteral("%1 designs are titled “%2”; give its unique ID instead.")
-                                .arg(matches)
-                                .arg(titleOrId);
+    const QList<Record *> &found = byId.isEmpty() ? byTitle : byId;
+    if (found.size() == 1)
+        return found.first();
+    QStringList ids;
+    for (const Record *d : found)
+        ids << d->text(Design::uniqueID);
+    *error = found.isEmpty()    ? QStringLiteral("No design titled “%1”.").arg(titleOrId)
+             : byId.isEmpty() ? QStringLiteral("%1 designs are titled “%2”; give its unique ID instead: %3.")
+                                    .arg(found.size())
+                                    .arg(titleOrId, ids.join(QStringLiteral(", ")))
+                              : QStringLiteral("“%1” is the ID of %2 designs; give its title instead.")
+                                    .arg(titleOrId)
+                                    .arg(found.size());
     return nullptr;
 }
 

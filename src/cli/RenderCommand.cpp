@@ -1,11 +1,16 @@
 #include "cli/RenderCommand.h"
 
+#include "designs/DesignLibrary.h"
+#include "render/PageRenderer.h"
+
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
 #include "cli/Console.h"
 #include "cli/OutputRun.h"
 #include "cli/Session.h"
+#include "designs/DesignLibrary.h"
 #include "domain/Record.h"
+#include "render/PageRenderer.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -63,15 +68,25 @@ int RenderCommand::execute(const QStringList &args)
         return kExitFailure;
     AppController &app = m_session.controller();
     OutputCommands &outputs = app.outputs();
+    const Record *used = nullptr;
     if (parser.isSet(design)) {
         QString error;
         const Record *chosen = OutputRun::design(m_session, parser.value(design), &error);
         if (!chosen)
             return failure(error);
         outputs.setDesignOverride(chosen);
+        used = chosen;
     } else if (!outputs.checkDesignsAvailable()) {
         return kExitFailure;
     }
+    // A design without its page, rows or style renders only the failure text:
+    // a folder full of that is no output.
+    if (!used)
+        used = app.designs().currentDesign();
+    if (!PageRenderer::canRender(used))
+        return failure(QStringLiteral("The design “%1” cannot be used: its page, row or style text is missing. "
+                                      "Choose another design (tabo-cli design list) or fix this one.")
+                           .arg(used ? used->text(Design::title) : QString()));
     LetterMode mode;
     mode.isReminderAction = parser.isSet(reminder);
     mode.isSlipAction = parser.isSet(slip);

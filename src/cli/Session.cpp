@@ -2,6 +2,8 @@
 
 #include "app/AppController.h"
 #include "cli/Console.h"
+#include "domain/EntityModel.h"
+#include "domain/Record.h"
 #include "prefs/Preferences.h"
 
 namespace tabo::cli {
@@ -42,10 +44,24 @@ Record *Session::document(const QString &idOrNumber)
 {
     if (!store())
         return nullptr;
-    Record *doc = controller().findDocument(idOrNumber);
-    if (!doc)
+    const QList<Record *> found = controller().findDocuments(idOrNumber);
+    if (found.isEmpty()) {
         printError(QStringLiteral("No document with ID or number “%1”.").arg(idOrNumber));
-    return doc;
+        return nullptr;
+    }
+    // Two documents may share a number (a deletion, an import): a command that
+    // picked one of them could change or delete the wrong one.
+    if (found.size() > 1) {
+        QStringList ids;
+        for (const Record *r : found)
+            ids << r->text(Invoice::uniqueID);
+        printError(QStringLiteral("“%1” names %2 documents; use one of their unique IDs: %3.")
+                       .arg(idOrNumber)
+                       .arg(found.size())
+                       .arg(ids.join(QStringLiteral(", "))));
+        return nullptr;
+    }
+    return found.first();
 }
 
 Record *Session::select(const QString &idOrNumber)

@@ -138,6 +138,13 @@ Record *DesignLibrary::addDesign()
     design->setText(Design::item, defaultResourceText(QStringLiteral("Item")));
     design->setText(Design::css, defaultResourceText(QStringLiteral("CSS")));
     design->setBool(Design::isDefault, false);
+    // The same file imported twice gets a second ID, so an ID names one design.
+    const QString id = design->text(Design::uniqueID);
+    const QList<Record *> all = designs();
+    if (id.isEmpty() || std::any_of(all.cbegin(), all.cend(), [&](const Record *d) {
+            return d != design && d->text(Design::uniqueID) == id;
+        }))
+        design->setText(Design::uniqueID, newUniqueId());
     m_app.saveContext();
     setSelectedDesignIndex(int(designs().indexOf(design)));
     return design;
@@ -218,6 +225,13 @@ Record *DesignLibrary::importDesignFile(const QString &path, QString *error)
         return nullptr;
     }
     design->setBool(Design::isDefault, false);
+    // The same file imported twice gets a second ID, so an ID names one design.
+    const QString id = design->text(Design::uniqueID);
+    const QList<Record *> all = designs();
+    if (id.isEmpty() || std::any_of(all.cbegin(), all.cend(), [&](const Record *d) {
+            return d != design && d->text(Design::uniqueID) == id;
+        }))
+        design->setText(Design::uniqueID, newUniqueId());
     m_app.saveContext();
     setSelectedDesignIndex(int(designs().indexOf(design)));
     return design;

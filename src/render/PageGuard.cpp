@@ -1,5 +1,7 @@
 #include "render/PageGuard.h"
 
+#include <QRegularExpression>
+
 #include <QFileInfo>
 #include <QWebEngineUrlRequestInfo>
 
@@ -48,6 +50,19 @@ void PageGuard::interceptRequest(QWebEngineUrlRequestInfo &info)
         return;
     info.block(true);
     recordBlocked(info.requestUrl());
+}
+
+QByteArray PageGuard::withoutRefresh(QByteArray html)
+{
+    // Any <meta> naming "refresh" in its http-equiv, however quoted or spaced.
+    static const QRegularExpression refresh(
+        QStringLiteral("<meta\\b[^>]*http-equiv\\s*=\\s*[\"']?\\s*refresh[^>]*>"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (!html.contains("efresh") && !html.contains("EFRESH"))
+        return html;
+    QString text = QString::fromUtf8(html);
+    text.replace(refresh, QString());
+    return text.toUtf8();
 }
 
 } // namespace tabo

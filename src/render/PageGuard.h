@@ -27,6 +27,11 @@ public:
 
     void interceptRequest(QWebEngineUrlRequestInfo &info) override;
 
+    // The page without refresh redirects: a refused navigation that the page
+    // itself starts while it is printed can bring the engine down, and a
+    // printout has nothing to refresh.
+    static QByteArray withoutRefresh(QByteArray html);
+
 private:
     QUrl m_pageUrl;
     QString m_allowedFile; // canonical path, empty when none

@@ -339,6 +339,11 @@ QString PageRenderer::logoPath()
     return AppController::applicationFilesDirectory() + QStringLiteral("/Logo.png");
 }
 
+bool PageRenderer::canRender(const Record *design)
+{
+    return design && !design->isNull(Design::invoice) && !design->isNull(Design::css) && !design->isNull(Design::item);
+}
+
 QString PageRenderer::failureText()
 {
     return QCoreApplication::translate("tabo::PageRenderer",

@@ -51,6 +51,9 @@ public:
     // $XDG_DATA_HOME/Tabo/Logo.png
     static QString logoPath();
     static QString failureText();
+    // Whether the design has the page, row and style texts a page needs;
+    // without them the page is the failure text.
+    static bool canRender(const Record *design);
 
     // How often itemsList ran (the page calls it only for "%ITEMSLIST%").
     int itemsListCalls() const { return m_itemsListCalls; }

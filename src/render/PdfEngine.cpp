@@ -167,6 +167,19 @@ void PdfEngine::Private::newPage(Lane *l)
 {
     l->page = new GuardedPage(l->profile, *l->guard, q);
     QObject::connect(l->page, &QWebEnginePage::loadFinished, q, [this, l](bool ok) { pageLoaded(l, ok); });
+    // A renderer that dies takes the job with it, never the program: the
+    // page is replaced and the queue goes on.
+    QObject::connect(l->page, &QWebEnginePage::renderProcessTerminated, q,
+                     [this, l](QWebEnginePage::RenderProcessTerminationStatus status, int) {
+                         if (status == QWebEnginePage::NormalTerminationStatus)
+                             return;
+                         QTimer::singleShot(0, q, [this, l] {
+                             ++l->generation;
+                             l->page->deleteLater();
+                             newPage(l);
+                             finishJob(l, false);
+                         });
+                     });
 }
 
 PdfEngine::~PdfEngine()
@@ -214,7 +227,7 @@ QStringList PdfEngine::blockedRequests() const
 void PdfEngine::render(const QString &html, const PageSetup &setup, const QString &path,
                        std::function<void(bool ok)> done)
 {
-    d->queue.push_back(Job{html.toUtf8(), setup.pageLayout(), path, std::move(done)});
+    d->queue.push_back(Job{PageGuard::withoutRefresh(html.toUtf8()), setup.pageLayout(), path, std::move(done)});
     d->startNext();
 }
 

@@ -44,7 +44,6 @@ struct Store::EntityState
 
 namespace {
 
-const QString kStoreDomain = QStringLiteral("TaboStore");
 
 QString textFromColumn(sqlite3_stmt *stmt, int col)
 {

@@ -16,11 +16,13 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QEvent>
 #include <QFrame>
 #include <QIcon>
 #include <QMenuBar>
 #include <QSplitter>
 #include <QTableView>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -65,6 +67,12 @@ MainWindow::MainWindow(AppController &app, QWidget *parent)
     selectNewestDocument();
     connect(&m_app, &AppController::terminateRequested, this, &MainWindow::terminateNow);
     updateCommands();
+    // tabo-cli or a second window may write to the same store: what they
+    // committed shows within seconds, and at once when the window is activated.
+    auto *sync = new QTimer(this);
+    sync->setInterval(2000);
+    connect(sync, &QTimer::timeout, &m_app, &AppController::syncWithStore);
+    sync->start();
     // The upgrade was declined while the list opened the store: the window
     // must not be seen before the application ends.
     if (m_app.isTerminating())
@@ -229,6 +237,13 @@ void MainWindow::updateCommands()
     m_newInvoice->setEnabled(store);
     m_newQuote->setEnabled(store);
     m_filterButton->setEnabled(store);
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_app.syncWithStore();
+    QMainWindow::changeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

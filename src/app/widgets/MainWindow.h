@@ -45,6 +45,7 @@ public:
 
 protected:
     // Every quit, from the menu or the window's close button, ends here.
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
