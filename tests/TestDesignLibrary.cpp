@@ -148,10 +148,15 @@ private Q_SLOTS:
         Record *second = f.lib.importDesign();
         QVERIFY(first && second && first != second);
         for (Record *copy : {first, second}) {
-            for (int attr : {Design::uniqueID, Design::title, Design::invoice, Design::item, Design::css})
+            for (int attr : {Design::title, Design::invoice, Design::item, Design::css})
                 QCOMPARE(copy->text(attr), d->text(attr));
             QVERIFY(!copy->boolean(Design::isDefault));
         }
+        // One ID, one design: the copies of a design already here get IDs of their own.
+        QSet<QString> ids;
+        for (Record *r : f.lib.designs())
+            ids.insert(r->text(Design::uniqueID));
+        QCOMPARE(ids.size(), 3);
         QCOMPARE(f.defaults(), QList<Record *>{d});
         QVERIFY(f.ui.errors.isEmpty());
     }

@@ -51,7 +51,9 @@ QString numberText(double v)
 // A typed number for the field called `what`; sets *error when it is not one.
 bool readField(const QString &text, const QString &what, double *value, QString *error)
 {
-    if (ItemCommands::parseNumber(text, value))
+    // Price and quantity are single precision: a larger number would be
+    // stored as infinity.
+    if (ItemCommands::parseNumber(text, value) && fitsAttribute(AttrType::Float, *value))
         return true;
     if (error)
         *error = text.trimmed().isEmpty() ? QStringLiteral("The %1 is empty; please enter a number.").arg(what)
@@ -236,7 +238,7 @@ bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &va
             ok = parseNumber(value.toString(), &d);
         else if (value.metaType() != QMetaType::fromType<Date>())
             d = value.toDouble(&ok);
-        if (!ok || !std::isfinite(d)) {
+        if (!ok || !fitsAttribute(type, d)) {
             setError(error, QStringLiteral("The value “%1” for “%2” is not a number.").arg(value.toString(), key));
             return false;
         }

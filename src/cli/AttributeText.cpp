@@ -66,6 +66,10 @@ bool AttributeText::convert(const EntityDesc &desc, const QString &key, const QS
             *value = QLocale::c().toDouble(t, &ok);
         break;
     }
+    // A value the attribute cannot hold (1e39 in a float) would be stored as
+    // infinity and poison every total.
+    if (ok && (type == AttrType::Double || type == AttrType::Float))
+        ok = fitsAttribute(type, value->toDouble());
     if (!ok)
         *error = invalid(text, type, key);
     return ok;

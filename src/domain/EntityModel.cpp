@@ -1,5 +1,7 @@
 #include "domain/EntityModel.h"
 
+#include <cmath>
+
 #include <array>
 
 namespace tabo {
@@ -94,6 +96,20 @@ const EntityDesc *entityDescByName(QStringView name)
         if (d.name == name)
             return &d;
     return nullptr;
+}
+
+bool fitsAttribute(AttrType type, double value)
+{
+    if (std::isnan(value))
+        return type != AttrType::Int && type != AttrType::Bool;
+    if (!std::isfinite(value))
+        return false;
+    switch (type) {
+    case AttrType::Float: return std::isfinite(static_cast<float>(value));
+    case AttrType::Int:
+    case AttrType::Bool: return value >= -9223372036854775808.0 && value < 9223372036854775808.0;
+    default: return true;
+    }
 }
 
 QString attrTypeName(AttrType type)

@@ -71,5 +71,9 @@ struct EntityDesc {
 const EntityDesc &entityDesc(EntityId id);
 const EntityDesc *entityDescByName(QStringView name);
 QString attrTypeName(AttrType type);
+// Whether a number a person entered can be stored in an attribute of that
+// type as it is: a float attribute holds single precision, an integer 64
+// bits; only NaN, which every calculation already carries, passes unfinite.
+bool fitsAttribute(AttrType type, double value);
 
 } // namespace tabo

@@ -1,5 +1,7 @@
 #include "domain/Numbering.h"
 
+#include <limits>
+
 #include "domain/Calculator.h"
 #include "prefs/Preferences.h"
 
@@ -31,7 +33,12 @@ QString fromIcu(const icu::UnicodeString &s)
 QString numberString(const Preferences &prefs, Preferences::Key pattern, Preferences::Key counter,
                      qint64 extra, Date now)
 {
-    return build(prefs.string(pattern), prefs.integer(counter) + extra, now);
+    // A counter set near the 64-bit end stops there instead of wrapping to a
+    // negative number.
+    qint64 count = 0;
+    if (__builtin_add_overflow(prefs.integer(counter), extra, &count))
+        count = extra > 0 ? std::numeric_limits<qint64>::max() : std::numeric_limits<qint64>::min();
+    return build(prefs.string(pattern), count, now);
 }
 
 // Building a SimpleDateFormat loads locale data and costs far more than

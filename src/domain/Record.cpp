@@ -256,7 +256,7 @@ bool Record::setValue(int attr, const QVariant &value)
         const double v = s.compare(QLatin1String("nan"), Qt::CaseInsensitive) == 0
                              ? std::nan("")
                              : QLocale::c().toDouble(s, &ok);
-        if (!ok && !std::isnan(v))
+        if ((!ok && !std::isnan(v)) || !fitsAttribute(a.type, v))
             return false;
         setNum(attr, v);
         return true;
@@ -265,7 +265,7 @@ bool Record::setValue(int attr, const QVariant &value)
         return false;
     bool ok = false;
     const double v = value.toDouble(&ok);
-    if (!ok)
+    if (!ok || !fitsAttribute(a.type, v))
         return false;
     setNum(attr, v);
     return true;

@@ -10,7 +10,14 @@
 
 #include <array>
 #include <cmath>
+#include <cerrno>
 #include <cstdlib>
+#include <ctime>
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace tabo {
 
@@ -51,7 +58,10 @@ bool parseInteger(const QVariant &v, qint64 *out)
         return true;
     }
     if (v.metaType().id() == QMetaType::Double || v.metaType().id() == QMetaType::Float) {
-        *out = qint64(v.toDouble());
+        const double d = v.toDouble();
+        if (!(d >= -9223372036854775808.0 && d < 9223372036854775808.0))
+            return false;
+        *out = qint64(d);
         return true;
     }
     if (v.metaType().id() != QMetaType::QString && v.metaType().id() != QMetaType::LongLong
@@ -62,7 +72,8 @@ bool parseInteger(const QVariant &v, qint64 *out)
     *out = s.toLongLong(&ok);
     if (!ok) {
         const double d = QLocale::c().toDouble(s, &ok);
-        if (ok && std::isfinite(d))
+        ok = ok && d >= -9223372036854775808.0 && d < 9223372036854775808.0;
+        if (ok)
             *out = qint64(d);
     }
     return ok;
@@ -136,6 +147,33 @@ QVariant fromPlistNode(plist_t node)
 
 } // namespace
 
+bool Preferences::clearStaleLock(const QString &lockPath)
+{
+    // QSettings guards its file with a lock file that its owner also holds
+    // with flock(). A lock file nobody holds was left by a process that died:
+    // QSettings would wait 30 s for it when it cannot read the owner (a kill
+    // between creating and writing it, another host name after a reboot).
+    const QByteArray name = QFile::encodeName(lockPath);
+    const int fd = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    bool stale = false;
+    if (::flock(fd, LOCK_EX | LOCK_NB) == 0) {
+        char buf[64] = {};
+        const ssize_t n = ::read(fd, buf, sizeof buf - 1);
+        const qint64 pid = n > 0 ? std::strtoll(buf, nullptr, 10) : 0;
+        struct stat st {};
+        const bool old = ::fstat(fd, &st) == 0 && std::time(nullptr) - st.st_mtime >= 2;
+        // An owner between creating the file and locking it is given a moment.
+        stale = pid > 0 ? (::kill(pid_t(pid), 0) != 0 && errno == ESRCH) || old : old;
+        if (stale)
+            ::unlink(name.constData());
+        ::flock(fd, LOCK_UN);
+    }
+    ::close(fd);
+    return stale;
+}
+
 QString Preferences::defaultFilePath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
@@ -143,8 +181,9 @@ QString Preferences::defaultFilePath()
 }
 
 Preferences::Preferences(const QString &filePath)
-    : m_settings(std::make_unique<QSettings>(filePath, QSettings::IniFormat))
 {
+    clearStaleLock(filePath + QStringLiteral(".lock"));
+    m_settings = std::make_unique<QSettings>(filePath, QSettings::IniFormat);
 }
 
 Preferences::~Preferences() = default;
@@ -308,7 +347,9 @@ bool Preferences::setFromText(const QString &name, const QString &text, QString 
         break;
     }
     case Type::Real: {
+        // Rates are read in single precision: a value beyond it becomes infinity.
         const double v = QLocale::c().toDouble(t, &ok);
+        ok = ok && std::isfinite(v) && std::isfinite(float(v));
         if (ok)
             setReal(key, v);
         break;
@@ -418,6 +459,7 @@ QVariant Preferences::raw(const QString &name) const
 
 void Preferences::sync()
 {
+    clearStaleLock(m_settings->fileName() + QStringLiteral(".lock"));
     m_settings->sync();
 }
 

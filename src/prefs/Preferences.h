@@ -83,6 +83,9 @@ public:
     void setRaw(const QString &name, const QVariant &value);
     QVariant raw(const QString &name) const;
 
+    // Removes the settings lock file at `lockPath` when no live process
+    // holds it; true when it was removed.
+    static bool clearStaleLock(const QString &lockPath);
     void sync();
     QString filePath() const;
 
