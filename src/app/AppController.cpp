@@ -358,22 +358,15 @@ bool AppController::customPathChanged()
                                 QStringLiteral("The folder “%1” does not exist.").arg(folder), {}});
         return false;
     }
-    for (const QString &suffix : {QString(), QStringLiteral("-shm"), QStringLiteral("-wal")})
-        QFile::remove(target + suffix);
-    // A consistent single-file copy of the live store, WAL content included.
-    sqlite3_stmt *stmt = nullptr;
-    sqlite3_prepare_v2(m_store->handle(), "VACUUM INTO ?", -1, &stmt, nullptr);
-    const QByteArray targetUtf8 = target.toUtf8();
-    sqlite3_bind_text(stmt, 1, targetUtf8.constData(), -1, SQLITE_TRANSIENT);
-    const int rc = sqlite3_step(stmt);
-    sqlite3_finalize(stmt);
-    if (rc != SQLITE_DONE) {
-        m_ui.presentError(Error{Error::kAppDomain, rc,
-                                QStringLiteral("The database could not be moved to “%1”.").arg(folder),
-                                QString::fromUtf8(sqlite3_errmsg(m_store->handle()))});
-        QFile::remove(target);
+    // The preferences already name the target: it must hold the old file or
+    // the complete copy at every moment, never a half-written one.
+    QString reason;
+    if (!StoreFile::writeCopy(*m_store, target, &reason)) {
+        m_ui.presentError(Error{Error::kAppDomain, 5,
+                                QStringLiteral("The database could not be moved to “%1”.").arg(folder), reason});
         return false;
     }
+    QFile::setPermissions(target, QFileInfo(m_storeURL).permissions());
     m_current = nullptr;
     m_list.clear();
     m_store.reset();

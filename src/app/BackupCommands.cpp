@@ -128,9 +128,23 @@ bool restoreRecords(AppController &app, EntityId entity, const QString &path, co
     return true;
 }
 
-// Puts the checked copy in place of the store the application uses.
+// Puts the checked copy's content in place of the store the application uses.
+// The file itself stays: written through SQLite, the new content reaches every
+// other process that has the store open (the window, tabo-cli), and nobody
+// keeps working on a file that was renamed away. Only a store that cannot be
+// opened (damaged, empty), which nobody can be working on, is replaced as a file.
 bool swapIn(AppController &app, StoreFile &copy, QString *reason)
 {
+    Store *store = app.hasStore() ? app.managedObjectContext() : nullptr;
+    if (store && !store->isDamaged()) {
+        StoreFile::pauseForTest();
+        if (const Error e = store->replaceContentFrom(copy.path())) {
+            *reason = e.message();
+            return false;
+        }
+        app.reopenStore();
+        return true;
+    }
     return copy.swapIn([&app] { app.closeStore(); }, [&app] { return app.reopenStore(); }, reason);
 }
 

@@ -1121,6 +1121,52 @@ void Store::revertConflicts()
         m_onExternalChange();
 }
 
+Error Store::replaceContentFrom(const QString &source)
+{
+    const QString what = QStringLiteral("The database could not be replaced.");
+    if (!m_db)
+        return Error{kStoreDomain, SQLITE_MISUSE, what, QStringLiteral("No database is open.")};
+    if (const Error e = checkIntegrity())
+        return e;
+    sqlite3 *src = nullptr;
+    if (sqlite3_open_v2(QFile::encodeName(source).constData(), &src, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
+        const Error e{kStoreDomain, sqlite3_errcode(src), what, QString::fromUtf8(sqlite3_errmsg(src))};
+        sqlite3_close(src);
+        return e;
+    }
+    const auto pageSize = [](sqlite3 *db) {
+        sqlite3_stmt *st = nullptr;
+        int size = 0;
+        if (sqlite3_prepare_v2(db, "PRAGMA page_size", -1, &st, nullptr) == SQLITE_OK && sqlite3_step(st) == SQLITE_ROW)
+            size = sqlite3_column_int(st, 0);
+        sqlite3_finalize(st);
+        return size;
+    };
+    // A file in WAL mode only takes pages of its own size.
+    if (pageSize(src) != pageSize(m_db)) {
+        sqlite3_close(src);
+        return Error{kStoreDomain, SQLITE_MISMATCH, what,
+                     QStringLiteral("The backup uses another page size than the database.")};
+    }
+    sqlite3_backup *backup = sqlite3_backup_init(m_db, "main", src, "main");
+    int rc = backup ? sqlite3_backup_step(backup, -1) : sqlite3_errcode(m_db);
+    const int finished = backup ? sqlite3_backup_finish(backup) : rc;
+    if (rc == SQLITE_DONE)
+        rc = finished;
+    sqlite3_close(src);
+    if (rc != SQLITE_OK && rc != SQLITE_DONE)
+        return sqlError(what);
+    // What was held here belongs to the old content: nothing of it is saved.
+    for (Record *r : std::as_const(m_dirty)) {
+        r->m_changed.reset();
+        r->m_inDirty = false;
+    }
+    m_dirty.clear();
+    m_originals.clear();
+    changedElsewhere();
+    return {};
+}
+
 void Store::reset()
 {
     const QString path = m_path;

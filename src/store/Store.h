@@ -85,6 +85,12 @@ public:
     bool isDamaged() const { return m_damaged; }
     // The integrity check that must pass before the first write.
     Error checkIntegrity();
+    // Replaces the whole content of the open file by that of the store file
+    // at `source` (complete and checked), in one transaction through SQLite's
+    // backup: other processes on the file see the new content at their next
+    // read, as if one of them had saved it. Unsaved changes here are dropped;
+    // the records held stay until the store is closed and opened again.
+    Error replaceContentFrom(const QString &source);
     // Forgets every unsaved change and every loaded record (a context reset).
     void reset();
     // The last read failure (damaged file), cleared by the next successful open.

@@ -217,6 +217,9 @@ bool StoreFile::swapIn(const std::function<void()> &closeStore, const std::funct
     }
     syncPath(folder, true);
     pauseForTest();
+    // The restored file keeps the permissions the person gave the store.
+    if (QFileInfo::exists(previous))
+        QFile::setPermissions(m_path, QFileInfo(previous).permissions());
     if (!renameOver(m_path, storePath, reason)) {
         bringBackPrevious(storePath, false);
         reopenStore();
@@ -242,6 +245,7 @@ bool StoreFile::swapIn(const std::function<void()> &closeStore, const std::funct
 
 void StoreFile::recoverInterruptedRestore(const QString &storePath)
 {
+    removeInterruptedCopies(storePath);
     const QFileInfo info(storePath);
     QDir folder = info.absoluteDir();
     const QStringList copies = folder.entryList({info.fileName() + kScratch + QLatin1Char('*')}, QDir::Files | QDir::Hidden);
@@ -264,10 +268,53 @@ void StoreFile::recoverInterruptedRestore(const QString &storePath)
     bringBackPrevious(storePath, true);
 }
 
+namespace {
+
+// Copies being written for a store (complete backups, moves) are listed beside
+// it, so that a copy a kill cut short is removed at the next start wherever
+// the person chose to write it.
+QString pendingListPath(const QString &storePath)
+{
+    return storePath + QStringLiteral(".copies");
+}
+
+QStringList pendingCopies(const QString &storePath)
+{
+    QFile list(pendingListPath(storePath));
+    if (!list.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(list.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+void setPendingCopies(const QString &storePath, const QStringList &paths)
+{
+    if (paths.isEmpty()) {
+        QFile::remove(pendingListPath(storePath));
+        return;
+    }
+    QFile list(pendingListPath(storePath));
+    if (list.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        list.write(paths.join(QLatin1Char('\n')).toUtf8() + '\n');
+        list.flush();
+        ::fsync(list.handle());
+    }
+}
+
+} // namespace
+
+void StoreFile::removeInterruptedCopies(const QString &storePath)
+{
+    for (const QString &path : pendingCopies(storePath)) {
+        if (QFile::remove(path))
+            qInfo().noquote() << QStringLiteral("Removed “%1”, left by an interrupted copy.").arg(path);
+    }
+    setPendingCopies(storePath, {});
+}
+
 bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
 {
-    // VACUUM INTO writes a consistent copy, log included; the rename makes the
-    // finished copy appear in one step.
+    // VACUUM INTO writes a consistent copy, log included, into a file beside
+    // the target; synced and renamed, the finished copy appears in one step.
     QTemporaryFile temp(target + QStringLiteral(".XXXXXX"));
     if (!temp.open()) {
         *error = QStringLiteral("“%1” could not be written: %2.").arg(target, temp.errorString());
@@ -275,9 +322,17 @@ bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
         return false;
     }
     temp.close();
+    const QString tempPath = QFileInfo(temp.fileName()).absoluteFilePath();
+    setPendingCopies(store.path(), pendingCopies(store.path()) << tempPath);
+    const auto done = [&] {
+        QStringList pending = pendingCopies(store.path());
+        pending.removeAll(tempPath);
+        setPendingCopies(store.path(), pending);
+    };
+    QFile::remove(tempPath); // VACUUM INTO wants to create its file
     sqlite3_stmt *stmt = nullptr;
     sqlite3_prepare_v2(store.handle(), "VACUUM INTO ?", -1, &stmt, nullptr);
-    const QByteArray tempName = QFile::encodeName(temp.fileName());
+    const QByteArray tempName = QFile::encodeName(tempPath);
     sqlite3_bind_text(stmt, 1, tempName.constData(), -1, SQLITE_TRANSIENT);
     const int rc = sqlite3_step(stmt);
     sqlite3_finalize(stmt);
@@ -285,16 +340,26 @@ bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
         *error = QStringLiteral("“%1” could not be written: %2.")
                      .arg(target, QString::fromUtf8(sqlite3_errmsg(store.handle())));
         qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(*error);
+        QFile::remove(tempPath);
+        done();
         return false;
     }
-    syncPath(temp.fileName(), false);
+    syncPath(tempPath, false);
+    pauseForTest();
+    // A log left beside an older file of that name would be read into the
+    // new one.
+    QFile::remove(target + QStringLiteral("-wal"));
+    QFile::remove(target + QStringLiteral("-shm"));
     if (::rename(tempName.constData(), QFile::encodeName(target).constData()) != 0) {
         *error = QStringLiteral("“%1” could not be written: %2.").arg(target, QString::fromLocal8Bit(std::strerror(errno)));
         qWarning().noquote() << QStringLiteral("Unable to acopyItemAtURL: %1").arg(*error);
+        QFile::remove(tempPath);
+        done();
         return false;
     }
     temp.setAutoRemove(false);
     syncPath(QFileInfo(target).absolutePath(), true);
+    done();
     return true;
 }
 

@@ -35,8 +35,12 @@ public:
     // before the store at `storePath` is opened: the restored file stays when
     // it opens, otherwise the previous one comes back.
     static void recoverInterruptedRestore(const QString &storePath);
-    // Writes a consistent single-file copy of the open store to `target`.
+    // Writes a consistent single-file copy of the open store to `target`
+    // (a file beside it, synced, then renamed: `target` is the old file or
+    // the complete copy, whenever the process dies).
     static bool writeCopy(Store &store, const QString &target, QString *error);
+    // Removes the unfinished copies of a process that died while writing them.
+    static void removeInterruptedCopies(const QString &storePath);
 
     // Test hook: with TABO_TEST_RESTORE_PAUSE_MS set, a restore waits that long
     // between its file steps, so that a test can kill it in every window.
