@@ -134,6 +134,8 @@ void AppController::openStore()
     m_storeURL = storeFilePath();
     auto store = std::make_unique<Store>(m_storeURL);
     if (const Error e = store->open()) {
+        if (e.domain == kStoreDomain && e.code == Store::kEmptyFile && offerAutomaticBackup(e))
+            return;
         m_ui.presentError(e);
         return;
     }
@@ -149,6 +151,35 @@ void AppController::openStore()
     Q_EMIT storeOpened();
     Q_EMIT listChanged();
     Q_EMIT summaryChanged();
+}
+
+bool AppController::offerAutomaticBackup(const Error &empty)
+{
+    // An empty store is what a full disk or a failed copy leaves, not a new
+    // installation: the documents can come back from the automatic backup.
+    if (m_backupPath.isEmpty())
+        createBackupPath();
+    if (!QFileInfo(m_backupPath).isFile())
+        return false;
+    const int answer = m_ui.alert(
+        QStringLiteral("Error!"),
+        empty.message() + QStringLiteral("\n\nThe empty file can be kept as “%1” and a new database started with the "
+                                         "documents of the automatic backup “%2”.")
+                              .arg(QFileInfo(m_storeURL).fileName() + QStringLiteral(".empty"), m_backupPath),
+        {QStringLiteral("Restore Automatic Backup"), QStringLiteral("Cancel")});
+    if (answer != 0)
+        return true;
+    const QString kept = m_storeURL + QStringLiteral(".empty");
+    QFile::remove(kept);
+    if (!QFile::rename(m_storeURL, kept)) {
+        m_ui.presentError(Error{Error::kAppDomain, 6, QStringLiteral("“%1” could not be renamed.").arg(m_storeURL), {}});
+        return true;
+    }
+    m_storeURL.clear();
+    openStore();
+    if (m_store)
+        m_backups->restoreFromBackup();
+    return true;
 }
 
 Error AppController::saveContext()

@@ -175,6 +175,7 @@ private:
     void installPendingTabo2Template();
     void openStore();
     void storeChangedElsewhere();
+    bool offerAutomaticBackup(const Error &empty);
     void renumberPending();
     bool resolveConflicts();
 

@@ -999,6 +999,9 @@ bool Store::refreshIfChanged()
 
 void Store::refresh()
 {
+    // A record made here holds an id only tentatively; another process may
+    // have stored a row under it, which must not be taken for ours.
+    assignNewIds();
     m_refreshing = true;
     for (int i = 0; i < kEntityCount; ++i)
         rescanEntity(EntityId(i));
