@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QTemporaryFile>
 #include <QThread>
 
@@ -245,7 +246,7 @@ bool StoreFile::swapIn(const std::function<void()> &closeStore, const std::funct
 
 void StoreFile::recoverInterruptedRestore(const QString &storePath)
 {
-    removeInterruptedCopies(storePath);
+    removeInterruptedCopies();
     const QFileInfo info(storePath);
     QDir folder = info.absoluteDir();
     const QStringList copies = folder.entryList({info.fileName() + kScratch + QLatin1Char('*')}, QDir::Files | QDir::Hidden);
@@ -270,29 +271,30 @@ void StoreFile::recoverInterruptedRestore(const QString &storePath)
 
 namespace {
 
-// Copies being written for a store (complete backups, moves) are listed beside
-// it, so that a copy a kill cut short is removed at the next start wherever
-// the person chose to write it.
-QString pendingListPath(const QString &storePath)
+// Copies being written (complete backups, store moves) are listed in the
+// user's data folder, so that a copy a kill cut short is removed at the next
+// start wherever it was written, whichever store is open then.
+QString pendingListPath()
 {
-    return storePath + QStringLiteral(".copies");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Tabo/unfinished-copies");
 }
 
-QStringList pendingCopies(const QString &storePath)
+QStringList pendingCopies()
 {
-    QFile list(pendingListPath(storePath));
+    QFile list(pendingListPath());
     if (!list.open(QIODevice::ReadOnly))
         return {};
     return QString::fromUtf8(list.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
-void setPendingCopies(const QString &storePath, const QStringList &paths)
+void setPendingCopies(const QStringList &paths)
 {
     if (paths.isEmpty()) {
-        QFile::remove(pendingListPath(storePath));
+        QFile::remove(pendingListPath());
         return;
     }
-    QFile list(pendingListPath(storePath));
+    QDir().mkpath(QFileInfo(pendingListPath()).absolutePath());
+    QFile list(pendingListPath());
     if (list.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         list.write(paths.join(QLatin1Char('\n')).toUtf8() + '\n');
         list.flush();
@@ -302,13 +304,15 @@ void setPendingCopies(const QString &storePath, const QStringList &paths)
 
 } // namespace
 
-void StoreFile::removeInterruptedCopies(const QString &storePath)
+void StoreFile::removeInterruptedCopies()
 {
-    for (const QString &path : pendingCopies(storePath)) {
+    for (const QString &path : pendingCopies()) {
+        // VACUUM INTO keeps a rollback journal beside the file it writes.
+        QFile::remove(path + QStringLiteral("-journal"));
         if (QFile::remove(path))
             qInfo().noquote() << QStringLiteral("Removed “%1”, left by an interrupted copy.").arg(path);
     }
-    setPendingCopies(storePath, {});
+    setPendingCopies({});
 }
 
 bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
@@ -323,11 +327,11 @@ bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
     }
     temp.close();
     const QString tempPath = QFileInfo(temp.fileName()).absoluteFilePath();
-    setPendingCopies(store.path(), pendingCopies(store.path()) << tempPath);
+    setPendingCopies(pendingCopies() << tempPath);
     const auto done = [&] {
-        QStringList pending = pendingCopies(store.path());
+        QStringList pending = pendingCopies();
         pending.removeAll(tempPath);
-        setPendingCopies(store.path(), pending);
+        setPendingCopies(pending);
     };
     QFile::remove(tempPath); // VACUUM INTO wants to create its file
     sqlite3_stmt *stmt = nullptr;

@@ -40,7 +40,7 @@ public:
     // the complete copy, whenever the process dies).
     static bool writeCopy(Store &store, const QString &target, QString *error);
     // Removes the unfinished copies of a process that died while writing them.
-    static void removeInterruptedCopies(const QString &storePath);
+    static void removeInterruptedCopies();
 
     // Test hook: with TABO_TEST_RESTORE_PAUSE_MS set, a restore waits that long
     // between its file steps, so that a test can kill it in every window.
