@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+#include <limits>
+
 #include <unicode/locid.h>
 #include <unicode/timezone.h>
 
@@ -59,6 +61,9 @@ void TestNumbering::numbersFromCounts()
     QCOMPARE(Numbering::convertedInvoiceNumberString(prefs, summary, now()), QStringLiteral("RE-2026-104"));
     QCOMPARE(Numbering::quoteNumberString(prefs, summary, now()), QStringLiteral("AN-10"));
     QCOMPARE(Numbering::clientNumberString(prefs, 2, now()), QStringLiteral("K1003/1003"));
+    // A counter at the 64-bit end stops there rather than turning negative.
+    prefs.setInteger(Preferences::quotCount, std::numeric_limits<qint64>::max() - 1);
+    QCOMPARE(Numbering::quoteNumberString(prefs, summary, now()), QStringLiteral("AN-9223372036854775807"));
 
     // Without "%COUNT%" every document gets the same number.
     prefs.setString(Preferences::invPattern, QStringLiteral("INV-%YEAR%"));

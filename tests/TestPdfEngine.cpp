@@ -1,5 +1,6 @@
 // Renders real pages to PDF and reads the files back with poppler-utils.
 
+#include "render/PageGuard.h"
 #include "render/PdfEngine.h"
 
 #include <QGuiApplication>
@@ -152,6 +153,27 @@ private Q_SLOTS:
         QVERIFY(second.contains(QStringLiteral("Designation")));
         QVERIFY(!second.contains(QStringLiteral("Line1 ")));
         QVERIFY(text(file, pages).contains(QStringLiteral("Line120")));
+    }
+
+    void refreshRedirectsNeverLeaveThePage()
+    {
+        // However it is written, a refresh goes; the rest of the page stays.
+        QCOMPARE(PageGuard::withoutRefresh("<head><META HTTP-EQUIV = 'refresh' CONTENT='0;url=file:///etc/passwd'>"
+                                           "<meta charset=\"utf-8\"></head><p>x</p>"),
+                 QByteArray("<head><meta charset=\"utf-8\"></head><p>x</p>"));
+        QCOMPARE(PageGuard::withoutRefresh("<meta http-equiv=refresh content=1><p>Refresh me</p>"),
+                 QByteArray("<p>Refresh me</p>"));
+        // Fifty times through one engine, with and without a delay, as the
+        // command line renders documents of such a design.
+        for (int i = 0; i < 50; ++i) {
+            const QString html = page(QStringLiteral("<meta http-equiv=\"refresh\" content=\"%1; url=file:///etc/passwd\">"
+                                                     "<p>Stays %2</p>")
+                                          .arg(i % 3)
+                                          .arg(i));
+            const QString file = path(QStringLiteral("refresh.pdf"));
+            QVERIFY(m_engine->renderAndWait(html, setup(QStringLiteral("iso-a4")), file));
+            QVERIFY(text(file).contains(QStringLiteral("Stays %1").arg(i)));
+        }
     }
 
     void untrustedPageIsContained()

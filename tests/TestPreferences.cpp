@@ -1,12 +1,19 @@
 #include "TestSupport.h"
 #include "prefs/Preferences.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QLockFile>
 #include <QSaveFile>
 #include <QTest>
+
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace tabo;
 using P = Preferences;
@@ -32,6 +39,7 @@ private Q_SLOTS:
     void syntaxColourFallback();
     void setFromTextParsesByType();
     void valuesPersist();
+    void staleLockIsClearedLiveLockKept();
 };
 
 void TestPreferences::languageDefaultsHoldEveryKey()
@@ -220,6 +228,57 @@ void TestPreferences::valuesPersist()
     QCOMPARE(prefs.real(P::tax1Rate), 0.0725);
     QCOMPARE(prefs.date(P::reportDateR), when);
     QCOMPARE(prefs.data(P::prefsLogo), QByteArray("\x89PNG\0\1", 6));
+}
+
+void TestPreferences::staleLockIsClearedLiveLockKept()
+{
+    test::TempHome home;
+    const QString lock = home.configFile() + QStringLiteral(".lock");
+    QDir().mkpath(QFileInfo(lock).absolutePath());
+    const auto child = [&lock](bool stay) {
+        const pid_t pid = ::fork();
+        if (pid == 0) {
+            QLockFile file(lock);
+            file.lock();
+            if (stay)
+                ::pause();
+            ::_exit(0); // dies holding the lock
+        }
+        return pid;
+    };
+
+    // Left by a process that died: gone before the settings are touched, so
+    // nothing waits for it.
+    pid_t pid = child(false);
+    ::waitpid(pid, nullptr, 0);
+    QVERIFY(QFile::exists(lock));
+    {
+        QElapsedTimer timer;
+        timer.start();
+        P prefs(home.configFile());
+        prefs.setString(P::prefsName, QStringLiteral("After a crash"));
+        prefs.sync();
+        QVERIFY(timer.elapsed() < 5000);
+    }
+    QVERIFY(!QFile::exists(lock));
+    // An empty lock file (a kill between creating and writing it) once it is old.
+    QFile empty(lock);
+    QVERIFY(empty.open(QIODevice::WriteOnly));
+    empty.close();
+    QVERIFY(!P::clearStaleLock(lock));
+    QVERIFY(empty.open(QIODevice::ReadWrite));
+    QVERIFY(empty.setFileTime(QDateTime::currentDateTime().addSecs(-10), QFileDevice::FileModificationTime));
+    empty.close();
+    QVERIFY(P::clearStaleLock(lock));
+
+    // A live owner keeps its lock.
+    pid = child(true);
+    QTRY_VERIFY(QFile::exists(lock) && QFileInfo(lock).size() > 0);
+    QVERIFY(!P::clearStaleLock(lock));
+    QVERIFY(QFile::exists(lock));
+    ::kill(pid, SIGKILL);
+    ::waitpid(pid, nullptr, 0);
+    QVERIFY(P::clearStaleLock(lock));
 }
 
 QTEST_GUILESS_MAIN(TestPreferences)

@@ -409,6 +409,49 @@ if command -v pdftotext >/dev/null; then
     run 0 prefs set markInvoiceAsSent 0
 fi
 
+# --- numbers a field cannot hold, shared numbers, design IDs -----------------
+run 0 new invoice; F=$OUT
+run 1 add-item "$F" title=Huge price=1e39 quantity=1
+run 1 add-item "$F" title=Huge price=1 quantity=1e308
+run 1 set "$F" misc3 1e39
+run 1 set "$F" amount 1e400
+run 1 prefs set tax1Rate 1e39
+run 0 show "$F" --json
+jcheck 'd["amount"] == 0 and d["misc3"] == 0 and not d.get("items")'
+run 0 new invoice; G=$OUT
+run 0 show "$F" --json; NUMF=$(jval 'd["number"]')
+run 0 set "$G" number "$NUMF"
+run 1 show "$NUMF"
+grep -q "$F" "$T/err" && grep -q "$G" "$T/err" || bad "an ambiguous number lists both IDs: $(<"$T/err")"
+run 1 delete "$NUMF" --yes
+run 0 show "$F"
+run 0 show "$G"
+run 0 design export "$CUR" "$T/cur.design"
+run 0 design import "$T/cur.design"
+run 0 design import "$T/cur.design"
+run 0 design list --json
+jcheck 'len(set(x["uniqueID"] for x in d)) == len(d)'
+STORE=$XDG_DATA_HOME/Tabo/Tabo.mbdb
+DUP=$(python3 -c "import sqlite3,sys; c=sqlite3.connect(sys.argv[1]); r=c.execute('SELECT uniqueID FROM Design ORDER BY id DESC LIMIT 2').fetchall(); c.execute('UPDATE Design SET uniqueID=? WHERE uniqueID=?', (r[0][0], r[1][0])); c.commit(); print(r[0][0])" "$STORE")
+run 0 design list --json; NDES=$(jval 'len(d)')
+run 1 design delete "$DUP" --yes
+grep -q "2 designs" "$T/err" || bad "an ID of two designs refused: $(<"$T/err")"
+run 0 design list --json
+jcheck "len(d) == $NDES"
+# A design without its style renders nothing worth a file.
+python3 -c "import sqlite3,sys; c=sqlite3.connect(sys.argv[1]); c.execute(\"UPDATE Design SET css=NULL, title='Broken' WHERE uniqueID=?\", (sys.argv[2],)); c.commit()" "$STORE" "$DUP"
+run 1 render "$E" --out "$T/broken" --design Broken
+[ -z "$(ls -A "$T/broken" 2>/dev/null)" ] && pass=$((pass + 1)) || bad "a broken design wrote files"
+# A design that redirects to a local file renders, every time.
+python3 -c "import sqlite3,sys; c=sqlite3.connect(sys.argv[1]); c.execute(\"UPDATE Design SET invoice='<meta http-equiv=\\\"Refresh\\\" content=\\\"0; url=file:///etc/passwd\\\">' || invoice WHERE title=?\", (sys.argv[2],)); c.commit()" "$STORE" "$CUR"
+if command -v pdftotext >/dev/null; then
+    for i in 1 2 3 4 5; do
+        run 0 render "$E" --pdf "$T/refresh.pdf"
+        grep -q "Erika Muster" <(pdftotext "$T/refresh.pdf" -) || bad "the redirecting design printed its page"
+        grep -q "root:" <(pdftotext "$T/refresh.pdf" -) && bad "a local file reached the PDF"
+    done
+fi
+
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
 printf 'not a database, just text\n' >"$T/other/data/Tabo/Tabo.mbdb"
