@@ -36,11 +36,18 @@ QSet<QString> existingColumns(sqlite3 *db, const QString &table)
 }
 
 // Numbered steps; step N brings a store from version N-1 to N. Version 1 is
-// the first schema, so there is nothing to run yet: later versions append here.
+// the first schema.
 const std::vector<std::function<Error(sqlite3 *)>> &steps()
 {
     static const std::vector<std::function<Error(sqlite3 *)>> list = {
         /* 1 */ [](sqlite3 *) { return Error{}; },
+        /* 2: the change journal */
+        [](sqlite3 *db) {
+            for (const QString &sql : changeJournalSql())
+                if (Error e = exec(db, sql))
+                    return e;
+            return Error{};
+        },
     };
     return list;
 }
@@ -101,12 +108,41 @@ QStringList createIndexSql()
     };
 }
 
+QStringList changeJournalSql()
+{
+    // Every row written, by whichever process or program, leaves its entity
+    // and id here; another process reads only what changed since it last
+    // looked instead of the whole store. A restore gives the store a new
+    // generation, which tells the others to read everything again.
+    QStringList sql{
+        QStringLiteral("CREATE TABLE IF NOT EXISTS \"%1\" (\"seq\" INTEGER PRIMARY KEY AUTOINCREMENT, "
+                       "\"entity\" INTEGER NOT NULL, \"row\" INTEGER NOT NULL)")
+            .arg(kChangesTable),
+        QStringLiteral("CREATE TABLE IF NOT EXISTS \"%1\" (\"generation\" TEXT NOT NULL)").arg(kStoreTable),
+        QStringLiteral("INSERT INTO \"%1\" SELECT lower(hex(randomblob(16))) WHERE NOT EXISTS (SELECT 1 FROM \"%1\")")
+            .arg(kStoreTable),
+    };
+    for (int i = 0; i < kEntityCount; ++i) {
+        const QString table = entityDesc(EntityId(i)).name;
+        for (const auto &[event, ref] : {std::pair{"INSERT", "NEW"}, {"UPDATE", "NEW"}, {"DELETE", "OLD"}})
+            sql << QStringLiteral("CREATE TRIGGER IF NOT EXISTS \"%1_%2\" AFTER %2 ON %3 BEGIN "
+                                  "INSERT INTO \"%4\" (\"entity\", \"row\") VALUES (%5, %6.\"id\"); END")
+                       .arg(table, QLatin1String(event), quoted(table), kChangesTable)
+                       .arg(i)
+                       .arg(QLatin1String(ref));
+    }
+    return sql;
+}
+
 Error create(sqlite3 *db, int version)
 {
     for (int i = 0; i < kEntityCount; ++i)
         if (Error e = exec(db, createTableSql(entityDesc(EntityId(i)))))
             return e;
     for (const QString &sql : createIndexSql())
+        if (Error e = exec(db, sql))
+            return e;
+    for (const QString &sql : changeJournalSql())
         if (Error e = exec(db, sql))
             return e;
     return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(version));

@@ -29,6 +29,10 @@ Error migrate(sqlite3 *db, int fromVersion, int toVersion);
 Error addMissingColumns(sqlite3 *db);
 // Whether addMissingColumns would write anything (only reads).
 bool hasMissingColumns(sqlite3 *db);
+// The change journal: its tables and the triggers that fill it.
+inline const QString kChangesTable = QStringLiteral("_Changes");
+inline const QString kStoreTable = QStringLiteral("_Store");
+QStringList changeJournalSql();
 // A new, empty store.
 Error create(sqlite3 *db, int version);
 

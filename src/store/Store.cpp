@@ -268,6 +268,7 @@ Error Store::open()
 
     m_lastError = {};
     changedElsewhere(); // remember where the file stands
+    m_mark = readChangeMark();
     loadAll(EntityId::Invoice);
     if (m_lastError) {
         const Error e = m_lastError;
@@ -953,6 +954,17 @@ Error Store::save(const std::function<void()> &inTransaction)
         return Error{kStoreDomain, kConflict, QStringLiteral("The changes could not be saved."),
                      QStringLiteral("Another program changed the same records after they were read here.")};
     }
+    // The journal keeps what the slowest reader may still need; one that
+    // falls further behind reads everything again.
+    const QByteArray prune = QStringLiteral("DELETE FROM \"%1\" WHERE \"seq\" < (SELECT max(\"seq\") FROM \"%1\") - %2")
+                                 .arg(schema::kChangesTable)
+                                 .arg(kJournalLength)
+                                 .toUtf8();
+    if (sqlite3_exec(m_db, prune.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        return fail(sqlError(QStringLiteral("The changes could not be saved.")));
+    // Read before the commit: whatever another process writes after it is
+    // news for the next refresh.
+    const ChangeMark mark = readChangeMark();
     if (sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
         const Error e = sqlError(QStringLiteral("The changes could not be saved."));
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
@@ -967,6 +979,7 @@ Error Store::save(const std::function<void()> &inTransaction)
     }
     m_dirty.clear();
     m_originals.clear();
+    m_mark = mark;
     changedElsewhere(); // our own commit is not news
     return {};
 }
@@ -997,12 +1010,39 @@ bool Store::refreshIfChanged()
     return true;
 }
 
+Store::ChangeMark Store::readChangeMark()
+{
+    ChangeMark mark;
+    sqlite3_stmt *stmt = prepare(QStringLiteral("SELECT (SELECT \"generation\" FROM \"%1\"), "
+                                                "(SELECT min(\"seq\") FROM \"%2\"), (SELECT max(\"seq\") FROM \"%2\")")
+                                     .arg(schema::kStoreTable, schema::kChangesTable));
+    if (stmt && sqlite3_step(stmt) == SQLITE_ROW) {
+        mark.generation = textFromColumn(stmt, 0);
+        mark.first = sqlite3_column_int64(stmt, 1);
+        mark.last = sqlite3_column_int64(stmt, 2);
+    }
+    if (stmt)
+        sqlite3_reset(stmt);
+    return mark;
+}
+
 void Store::refresh()
 {
     // A record made here holds an id only tentatively; another process may
     // have stored a row under it, which must not be taken for ours.
     assignNewIds();
     m_refreshing = true;
+    // The mark first: a change committed while the rows are read is read
+    // again next time, never missed.
+    const ChangeMark now = readChangeMark();
+    const bool complete = !now.generation.isEmpty() && now.generation == m_mark.generation
+                          && now.last >= m_mark.last && (now.first == 0 || m_mark.last >= now.first - 1);
+    const bool done = complete && refreshChanged(now);
+    m_mark = now;
+    if (done) {
+        m_refreshing = false;
+        return;
+    }
     for (int i = 0; i < kEntityCount; ++i)
         rescanEntity(EntityId(i));
     // Lists of lines (and other to-many lists) already read are read again in
@@ -1020,6 +1060,106 @@ void Store::refresh()
         }
     }
     m_refreshing = false;
+}
+
+bool Store::refreshChanged(const ChangeMark &now)
+{
+    QHash<int, QList<qint64>> changed;
+    {
+        sqlite3_stmt *stmt = prepare(QStringLiteral("SELECT DISTINCT \"entity\", \"row\" FROM \"%1\" WHERE \"seq\" > ? "
+                                                    "AND \"seq\" <= ?")
+                                         .arg(schema::kChangesTable));
+        if (!stmt)
+            return false;
+        sqlite3_bind_int64(stmt, 1, m_mark.last);
+        sqlite3_bind_int64(stmt, 2, now.last);
+        int rc;
+        while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+            const int entity = sqlite3_column_int(stmt, 0);
+            if (entity >= 0 && entity < kEntityCount)
+                changed[entity] << sqlite3_column_int64(stmt, 1);
+        }
+        sqlite3_reset(stmt);
+        if (rc != SQLITE_DONE)
+            return false;
+    }
+    // Owners whose lists of lines (or other to-many lists) must be read again.
+    QSet<Record *> owners;
+    const auto noteOwners = [&](const EntityDesc &d, const qint64 *fks) {
+        int slot = 0;
+        for (const auto &rel : d.relations) {
+            if (rel.toMany)
+                continue;
+            if (Record *owner = fks[slot] ? m_entities[int(rel.target)]->map.value(fks[slot]) : nullptr)
+                if (owner->m_toMany)
+                    owners.insert(owner);
+            ++slot;
+        }
+    };
+    for (auto it = changed.cbegin(); it != changed.cend(); ++it) {
+        const EntityId entity = EntityId(it.key());
+        EntityState &st = *m_entities[it.key()];
+        const EntityDesc &d = entityDesc(entity);
+        const bool listOnly = entity == EntityId::Invoice;
+        sqlite3_stmt *stmt = prepare((listOnly ? st.listSelect : st.fullSelect) + QStringLiteral(" WHERE \"id\" = ?"));
+        if (!stmt)
+            return false;
+        const int fkColumn = 1 + int(d.attributes.size());
+        std::vector<qint64> fks(d.relations.size(), 0);
+        for (const qint64 id : it.value()) {
+            Record *r = st.map.value(id);
+            if (r && (r->m_inserted || r->m_deleted))
+                continue;
+            if (r && r->m_fk)
+                noteOwners(d, r->m_fk.get());
+            sqlite3_reset(stmt);
+            sqlite3_bind_int64(stmt, 1, id);
+            const int rc = sqlite3_step(stmt);
+            if (rc == SQLITE_ROW) {
+                if (!listOnly) {
+                    int slot = 0;
+                    for (const auto &rel : d.relations)
+                        if (!rel.toMany) {
+                            fks[slot] = sqlite3_column_type(stmt, fkColumn + slot) == SQLITE_NULL
+                                            ? 0 : sqlite3_column_int64(stmt, fkColumn + slot);
+                            ++slot;
+                        }
+                    noteOwners(d, fks.data());
+                }
+                if (!r && !st.loaded)
+                    continue; // read on first use, or with its owner's list
+                bool created = false;
+                if (!r) {
+                    r = adopt(entity, id, &created);
+                    st.live.append(r);
+                }
+                readRow(r, stmt, 1, listOnly);
+            } else if (rc == SQLITE_DONE) {
+                // Gone from the file. A record with unsaved changes stays; its
+                // save reports the conflict.
+                if (r && !r->hasChanges()) {
+                    r->m_deleted = true;
+                    st.live.removeOne(r);
+                }
+            } else {
+                sqlite3_reset(stmt);
+                m_lastError = sqlError(QStringLiteral("The database could not be read."));
+                return false;
+            }
+        }
+        sqlite3_reset(stmt);
+    }
+    for (Record *owner : std::as_const(owners)) {
+        if (owner->m_inserted || owner->m_deleted)
+            continue;
+        for (int rel = 0; rel < int(owner->desc().relations.size()); ++rel) {
+            if (!owner->m_toMany[rel])
+                continue;
+            std::unique_ptr<QList<Record *>> fresh(loadToMany(owner, rel));
+            *owner->m_toMany[rel] = std::move(*fresh);
+        }
+    }
+    return true;
 }
 
 void Store::rescanEntity(EntityId entity)
@@ -1118,6 +1258,24 @@ void Store::revertConflicts()
             r->m_inDirty = false;
         }
     }
+    // Their stored rows were seen while the local values still won; read
+    // them again now that nothing local is left.
+    for (Record *r : std::as_const(m_conflicts)) {
+        if (r->m_inserted || r->m_deleted)
+            continue;
+        EntityState &st = *m_entities[int(r->m_entity)];
+        sqlite3_stmt *stmt = prepare(st.fullSelect + QStringLiteral(" WHERE \"id\" = ?"));
+        if (!stmt)
+            continue;
+        sqlite3_bind_int64(stmt, 1, r->m_id);
+        if (sqlite3_step(stmt) == SQLITE_ROW) {
+            readRow(r, stmt, 1, false);
+        } else {
+            r->m_deleted = true;
+            st.live.removeOne(r);
+        }
+        sqlite3_reset(stmt);
+    }
     m_conflicts.clear();
     refresh();
     if (m_onExternalChange)
@@ -1132,7 +1290,7 @@ Error Store::replaceContentFrom(const QString &source)
     if (const Error e = checkIntegrity())
         return e;
     sqlite3 *src = nullptr;
-    if (sqlite3_open_v2(QFile::encodeName(source).constData(), &src, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
+    if (sqlite3_open_v2(QFile::encodeName(source).constData(), &src, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
         const Error e{kStoreDomain, sqlite3_errcode(src), what, QString::fromUtf8(sqlite3_errmsg(src))};
         sqlite3_close(src);
         return e;
@@ -1150,6 +1308,16 @@ Error Store::replaceContentFrom(const QString &source)
         sqlite3_close(src);
         return Error{kStoreDomain, SQLITE_MISMATCH, what,
                      QStringLiteral("The backup uses another page size than the database.")};
+    }
+    // A new generation tells every other process to read the store again
+    // whole: the journal of the restored file says nothing about what they hold.
+    const QByteArray renew = QStringLiteral("UPDATE \"%1\" SET \"generation\" = lower(hex(randomblob(16)))")
+                                 .arg(schema::kStoreTable)
+                                 .toUtf8();
+    if (sqlite3_exec(src, renew.constData(), nullptr, nullptr, nullptr) != SQLITE_OK) {
+        const Error e{kStoreDomain, sqlite3_errcode(src), what, QString::fromUtf8(sqlite3_errmsg(src))};
+        sqlite3_close(src);
+        return e;
     }
     sqlite3_backup *backup = sqlite3_backup_init(m_db, "main", src, "main");
     int rc = backup ? sqlite3_backup_step(backup, -1) : sqlite3_errcode(m_db);
@@ -1183,6 +1351,7 @@ void Store::reset()
     m_conflicts.clear();
     if (m_db) {
         changedElsewhere();
+        m_mark = readChangeMark();
         loadAll(EntityId::Invoice);
     }
 }

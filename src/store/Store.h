@@ -86,7 +86,8 @@ public:
     // The integrity check that must pass before the first write.
     Error checkIntegrity();
     // Replaces the whole content of the open file by that of the store file
-    // at `source` (complete and checked), in one transaction through SQLite's
+    // at `source` (a complete, checked working copy, which is marked as a new
+    // generation of the store on the way), in one transaction through SQLite's
     // backup: other processes on the file see the new content at their next
     // read, as if one of them had saved it. Unsaved changes here are dropped;
     // the records held stay until the store is closed and opened again.
@@ -105,7 +106,7 @@ public:
 
     sqlite3 *handle() const { return m_db; }
 
-    static constexpr int kSchemaVersion = 1;
+    static constexpr int kSchemaVersion = 2;
 
 private:
     friend class Record;
@@ -120,7 +121,16 @@ private:
 
     void faultText(Record *record);
     void rememberOriginal(Record *record, int attr);
+    struct ChangeMark
+    {
+        QString generation;
+        qint64 first = 0; // the oldest change still in the journal
+        qint64 last = 0;
+    };
+    ChangeMark readChangeMark();
+    static constexpr int kJournalLength = 20000;
     void refresh();
+    bool refreshChanged(const ChangeMark &now);
     void rescanEntity(EntityId entity);
     Error assignNewIds();
     Error damagedError() const;
@@ -145,6 +155,7 @@ private:
     QList<Record *> m_conflicts;
     std::function<void()> m_onExternalChange;
     qint64 m_dataVersion = -1;
+    ChangeMark m_mark; // how far this process has read the change journal
     bool m_refreshing = false;
     bool m_checked = false;
     bool m_damaged = false;

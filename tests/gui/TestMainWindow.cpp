@@ -19,6 +19,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QTableView>
 #include <QTimer>
@@ -99,6 +100,7 @@ private Q_SLOTS:
     void newDocumentsAndFilter();
     void foreignFileLeavesWindowUsable();
     void firstStartAssistantInstallsLanguage();
+    void showsWhatTheCommandLineWrote();
 };
 
 void TestMainWindow::dialogsAndTestHooks()
@@ -230,6 +232,23 @@ void TestMainWindow::firstStartAssistantInstallsLanguage()
     assistant.accept();
     QCOMPARE(f.prefs.string(Preferences::prefsName), QStringLiteral("Atelier Nord"));
     QVERIFY(f.prefs.boolean(Preferences::isAssiDone));
+}
+
+void TestMainWindow::showsWhatTheCommandLineWrote()
+{
+    Fixture f;
+    f.start();
+    f.window->newInvoiceAction()->trigger();
+    QCOMPARE(f.model()->rowCount(), 1);
+    QProcess cli;
+    cli.start(QStringLiteral(TABO_CLI), {QStringLiteral("new"), QStringLiteral("quote")});
+    QVERIFY(cli.waitForFinished(30000));
+    QCOMPARE(cli.exitCode(), 0);
+    const QString id = QString::fromUtf8(cli.readAllStandardOutput()).trimmed();
+    // No click: the window's idle check takes it in within seconds.
+    QTRY_COMPARE_WITH_TIMEOUT(f.model()->rowCount(), 2, 5000);
+    QCOMPARE(f.figure("quoteCount"), QStringLiteral("1"));
+    QVERIFY(f.app.findDocument(id));
 }
 
 QTEST_MAIN(TestMainWindow)
