@@ -14,6 +14,7 @@
 #include "store/Store.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -102,7 +103,7 @@ int storeTable()
 
     // The first write of a process checks the whole file first.
     Record *first = controller.documentList().all().at(docCount / 3);
-    first->setText(Invoice::notes, QStringLiteral("first save"));
+    first->setText(Invoice::notes, QStringLiteral("first save %1").arg(QDateTime::currentMSecsSinceEpoch()));
     QElapsedTimer firstSave;
     firstSave.start();
     store->save();

@@ -72,6 +72,7 @@ private Q_SLOTS:
     void documentsCreatedAtOnceAreUnique();
     void otherProcessChangesAreSeenAndConflictsAsked();
     void restoreByAnotherProcessLandsHere();
+    void linesAndOlderStoresFollow();
     void damagedAndEmptyFilesAreNeverWritten();
 };
 
@@ -184,6 +185,46 @@ void TestSharedStore::restoreByAnotherProcessLandsHere()
     QCOMPARE(QFileInfo(f.storePath()).permissions(), mode);
     QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM Invoice"), QStringLiteral("4"));
     QCOMPARE(firstRow(f.storePath(), "PRAGMA integrity_check"), QStringLiteral("ok"));
+}
+
+void TestSharedStore::linesAndOlderStoresFollow()
+{
+    Fixture f;
+    Record *doc = f.app.addInvoice();
+    const QString id = doc->text(Invoice::uniqueID);
+    QVERIFY(f.app.items().addItem({QStringLiteral("Here"), {}, {}, {}, {}, QStringLiteral("5"), QStringLiteral("1"),
+                                   false, false, false},
+                                  nullptr));
+    QCOMPARE(doc->toMany(Invoice::items).size(), 1);
+    // Lines added and changed elsewhere join the list this process holds.
+    QCOMPARE(cli({QStringLiteral("add-item"), id, QStringLiteral("title=There"), QStringLiteral("price=7")}), 0);
+    QCOMPARE(cli({QStringLiteral("set"), id, QStringLiteral("subject"), QStringLiteral("Read again")}), 0);
+    f.app.syncWithStore();
+    QStringList titles;
+    for (const Record *line : doc->toMany(Invoice::items))
+        titles << line->text(Item::title);
+    titles.sort();
+    QCOMPARE(titles, QStringList({QStringLiteral("Here"), QStringLiteral("There")}));
+    QCOMPARE(doc->text(Invoice::subject), QStringLiteral("Read again"));
+    QCOMPARE(cli({QStringLiteral("delete"), id, QStringLiteral("--yes")}), 0);
+    f.app.syncWithStore();
+    QVERIFY(f.app.documentList().all().isEmpty());
+    QCOMPARE(f.app.currentInvoice(), nullptr);
+
+    // A store written before the journal existed gets it on opening.
+    f.app.closeStore();
+    sqlite3 *db = nullptr;
+    sqlite3_open(QFile::encodeName(f.storePath()).constData(), &db);
+    for (const char *sql : {"DROP TABLE _Changes", "DROP TABLE _Store", "PRAGMA user_version = 1"})
+        sqlite3_exec(db, sql, nullptr, nullptr, nullptr);
+    sqlite3_close(db);
+    QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM sqlite_master WHERE type = 'trigger'"),
+             QString::number(3 * kEntityCount));
+    QVERIFY(f.app.reopenStore());
+    QCOMPARE(firstRow(f.storePath(), "PRAGMA user_version"), QStringLiteral("2"));
+    QCOMPARE(cli({QStringLiteral("new"), QStringLiteral("invoice")}), 0);
+    f.app.syncWithStore();
+    QCOMPARE(f.app.documentList().all().size(), 1);
 }
 
 void TestSharedStore::damagedAndEmptyFilesAreNeverWritten()
