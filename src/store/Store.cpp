@@ -103,14 +103,21 @@ Store::~Store()
     close();
 }
 
+namespace {
+
+// What a person can do about a store that cannot be used.
+const QString kRecovery = QStringLiteral(
+    "Restore your last complete backup (File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or move "
+    "the file aside to start a new database and restore the automatic backup of your documents "
+    "(tabo-cli restore auto --yes).");
+
+} // namespace
+
 Error Store::damagedError() const
 {
     return Error{kStoreDomain, SQLITE_CORRUPT,
                  QStringLiteral("The database file “%1” is damaged; nothing more is written to it.").arg(m_path),
-                 QStringLiteral("Quit Tabo and keep the file for now. Move it aside and restore your last complete "
-                                "backup (File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or "
-                                "start a new database and restore the automatic backup of your documents "
-                                "(tabo-cli restore auto --yes).")};
+                 QStringLiteral("Quit Tabo and keep the file for now. ") + kRecovery};
 }
 
 Error Store::sqlError(const QString &what)
@@ -168,10 +175,7 @@ Error Store::open()
     if (exists && empty)
         return Error{kStoreDomain, kEmptyFile,
                      QStringLiteral("The database file “%1” is empty (0 bytes).").arg(m_path),
-                     QStringLiteral("It has been left as it is. Restore your last complete backup "
-                                    "(File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or move "
-                                    "the file aside to start a new database and restore the automatic backup "
-                                    "of your documents (tabo-cli restore auto --yes).")};
+                     QStringLiteral("It has been left as it is. ") + kRecovery};
 
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (exists ? 0 : SQLITE_OPEN_CREATE);
     if (sqlite3_open_v2(m_path.toUtf8().constData(), &m_db, flags, nullptr) != SQLITE_OK) {
