@@ -15,8 +15,6 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include <algorithm>
-
 namespace tabo {
 
 namespace {
@@ -229,12 +227,7 @@ Record *FileCommands::importInvoiceFile(const QString &path, QString *error)
     m_app.syncWithStore();
     Record *invoice = OD::createManagedObjectFromDictionary(dictionary, *store);
     // Importing the same file twice must not make one ID name two documents.
-    const QString id = invoice->text(Invoice::uniqueID);
-    const QList<Record *> &all = m_app.documentList().all();
-    if (id.isEmpty() || std::any_of(all.cbegin(), all.cend(), [&id](const Record *r) {
-            return r->text(Invoice::uniqueID) == id;
-        }))
-        invoice->setText(Invoice::uniqueID, newUniqueId());
+    ensureOwnUniqueId(*invoice, Invoice::uniqueID, m_app.documentList().all());
     m_app.documentCreated(invoice);
     return invoice;
 }

@@ -15,7 +15,6 @@
 #include <QSaveFile>
 #include <QtDebug>
 
-#include <algorithm>
 
 namespace tabo {
 
@@ -138,13 +137,6 @@ Record *DesignLibrary::addDesign()
     design->setText(Design::item, defaultResourceText(QStringLiteral("Item")));
     design->setText(Design::css, defaultResourceText(QStringLiteral("CSS")));
     design->setBool(Design::isDefault, false);
-    // The same file imported twice gets a second ID, so an ID names one design.
-    const QString id = design->text(Design::uniqueID);
-    const QList<Record *> all = designs();
-    if (id.isEmpty() || std::any_of(all.cbegin(), all.cend(), [&](const Record *d) {
-            return d != design && d->text(Design::uniqueID) == id;
-        }))
-        design->setText(Design::uniqueID, newUniqueId());
     m_app.saveContext();
     setSelectedDesignIndex(int(designs().indexOf(design)));
     return design;
@@ -226,12 +218,7 @@ Record *DesignLibrary::importDesignFile(const QString &path, QString *error)
     }
     design->setBool(Design::isDefault, false);
     // The same file imported twice gets a second ID, so an ID names one design.
-    const QString id = design->text(Design::uniqueID);
-    const QList<Record *> all = designs();
-    if (id.isEmpty() || std::any_of(all.cbegin(), all.cend(), [&](const Record *d) {
-            return d != design && d->text(Design::uniqueID) == id;
-        }))
-        design->setText(Design::uniqueID, newUniqueId());
+    ensureOwnUniqueId(*design, Design::uniqueID, designs());
     m_app.saveContext();
     setSelectedDesignIndex(int(designs().indexOf(design)));
     return design;

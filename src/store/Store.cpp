@@ -44,6 +44,22 @@ struct Store::EntityState
 
 namespace {
 
+// What a person can do about a store that cannot be used.
+const QString kRecovery = QStringLiteral(
+    "Restore your last complete backup (File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or move "
+    "the file aside to start a new database and restore the automatic backup of your documents "
+    "(tabo-cli restore auto --yes).");
+
+// The first column of the first row of a one-value query ("PRAGMA x").
+QByteArray firstText(sqlite3 *db, const char *sql)
+{
+    sqlite3_stmt *st = nullptr;
+    QByteArray value;
+    if (sqlite3_prepare_v2(db, sql, -1, &st, nullptr) == SQLITE_OK && sqlite3_step(st) == SQLITE_ROW)
+        value = QByteArray(reinterpret_cast<const char *>(sqlite3_column_text(st, 0)));
+    sqlite3_finalize(st);
+    return value;
+}
 
 QString textFromColumn(sqlite3_stmt *stmt, int col)
 {
@@ -103,16 +119,6 @@ Store::~Store()
     close();
 }
 
-namespace {
-
-// What a person can do about a store that cannot be used.
-const QString kRecovery = QStringLiteral(
-    "Restore your last complete backup (File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or move "
-    "the file aside to start a new database and restore the automatic backup of your documents "
-    "(tabo-cli restore auto --yes).");
-
-} // namespace
-
 Error Store::damagedError() const
 {
     return Error{kStoreDomain, SQLITE_CORRUPT,
@@ -140,16 +146,8 @@ Error Store::checkIntegrity()
         return {};
     // quick_check reads every page and the schema; it leaves out only the
     // index-against-table comparison, which a write does not depend on.
-    sqlite3_stmt *st = nullptr;
-    bool ok = sqlite3_prepare_v2(m_db, "PRAGMA quick_check", -1, &st, nullptr) == SQLITE_OK;
-    if (ok) {
-        int rc = sqlite3_step(st);
-        ok = rc == SQLITE_ROW && qstrcmp(reinterpret_cast<const char *>(sqlite3_column_text(st, 0)), "ok") == 0;
-        if (ok)
-            ok = sqlite3_step(st) == SQLITE_DONE;
-    }
-    sqlite3_finalize(st);
-    if (!ok) {
+    // quick_check answers a single "ok" row, or the problems it found.
+    if (firstText(m_db, "PRAGMA quick_check") != "ok") {
         m_damaged = true;
         return damagedError();
     }
@@ -236,14 +234,7 @@ Error Store::open()
     // Switching to WAL, migrating or adding columns writes; a damaged file
     // must be found before any of that. A current store needs none of it, so
     // its check can wait until the first save.
-    QByteArray journal;
-    {
-        sqlite3_stmt *st = nullptr;
-        if (sqlite3_prepare_v2(m_db, "PRAGMA journal_mode", -1, &st, nullptr) == SQLITE_OK
-            && sqlite3_step(st) == SQLITE_ROW)
-            journal = QByteArray(reinterpret_cast<const char *>(sqlite3_column_text(st, 0))).toLower();
-        sqlite3_finalize(st);
-    }
+    const QByteArray journal = firstText(m_db, "PRAGMA journal_mode").toLower();
     const bool needsWrite = version != kSchemaVersion || journal != "wal" || schema::hasMissingColumns(m_db);
     if (needsWrite && version > 0) {
         if (const Error e = checkIntegrity()) {
@@ -822,10 +813,11 @@ Error Store::writeRecord(Record *r)
     // Each changed value must still be what this process read: otherwise
     // another process changed it meanwhile and the row is left alone.
     QList<int> guarded;
-    const QHash<int, Original> originals = m_originals.value(r);
-    if (!r->m_inserted)
+    const auto found = m_originals.constFind(r);
+    const QHash<int, Original> *originals = found == m_originals.cend() ? nullptr : &*found;
+    if (!r->m_inserted && originals)
         for (int c : cols)
-            if (c < attrCount && originals.contains(c))
+            if (c < attrCount && originals->contains(c))
                 guarded << c;
     QString sql;
     if (r->m_inserted) {
@@ -862,7 +854,7 @@ Error Store::writeRecord(Record *r)
     if (!r->m_inserted) {
         sqlite3_bind_int64(stmt, p++, r->m_id);
         for (int c : guarded) {
-            const Original &o = originals[c];
+            const Original &o = originals->value(c);
             bindValue(stmt, p++, d.attributes[c], o.null, o.num, o.text);
         }
     }
@@ -927,7 +919,7 @@ Error Store::assignNewIds()
 
 Error Store::save(const std::function<void()> &inTransaction)
 {
-    if (m_dirty.isEmpty() && !inTransaction)
+    if (m_dirty.isEmpty())
         return {};
     if (!m_db)
         return Error{Error::kAppDomain, 9999, QStringLiteral("Failed to initialize the store"),
@@ -1051,18 +1043,9 @@ void Store::refresh()
         rescanEntity(EntityId(i));
     // Lists of lines (and other to-many lists) already read are read again in
     // place, so whoever holds one sees the current lines.
-    for (auto &st : m_entities) {
-        for (Record *owner : std::as_const(st->map)) {
-            if (!owner->m_toMany || owner->m_inserted || owner->m_deleted)
-                continue;
-            for (int rel = 0; rel < int(owner->desc().relations.size()); ++rel) {
-                if (!owner->m_toMany[rel])
-                    continue;
-                std::unique_ptr<QList<Record *>> fresh(loadToMany(owner, rel));
-                *owner->m_toMany[rel] = std::move(*fresh);
-            }
-        }
-    }
+    for (auto &st : m_entities)
+        for (Record *owner : std::as_const(st->map))
+            rereadLists(owner);
     m_refreshing = false;
 }
 
@@ -1153,17 +1136,21 @@ bool Store::refreshChanged(const ChangeMark &now)
         }
         sqlite3_reset(stmt);
     }
-    for (Record *owner : std::as_const(owners)) {
-        if (owner->m_inserted || owner->m_deleted)
-            continue;
-        for (int rel = 0; rel < int(owner->desc().relations.size()); ++rel) {
-            if (!owner->m_toMany[rel])
-                continue;
-            std::unique_ptr<QList<Record *>> fresh(loadToMany(owner, rel));
-            *owner->m_toMany[rel] = std::move(*fresh);
-        }
-    }
+    for (Record *owner : std::as_const(owners))
+        rereadLists(owner);
     return true;
+}
+
+void Store::rereadLists(Record *owner)
+{
+    if (!owner->m_toMany || owner->m_inserted || owner->m_deleted)
+        return;
+    for (int rel = 0; rel < int(owner->desc().relations.size()); ++rel) {
+        if (!owner->m_toMany[rel])
+            continue;
+        std::unique_ptr<QList<Record *>> fresh(loadToMany(owner, rel));
+        *owner->m_toMany[rel] = std::move(*fresh);
+    }
 }
 
 void Store::rescanEntity(EntityId entity)
@@ -1299,16 +1286,8 @@ Error Store::replaceContentFrom(const QString &source)
         sqlite3_close(src);
         return e;
     }
-    const auto pageSize = [](sqlite3 *db) {
-        sqlite3_stmt *st = nullptr;
-        int size = 0;
-        if (sqlite3_prepare_v2(db, "PRAGMA page_size", -1, &st, nullptr) == SQLITE_OK && sqlite3_step(st) == SQLITE_ROW)
-            size = sqlite3_column_int(st, 0);
-        sqlite3_finalize(st);
-        return size;
-    };
     // A file in WAL mode only takes pages of its own size.
-    if (pageSize(src) != pageSize(m_db)) {
+    if (firstText(src, "PRAGMA page_size") != firstText(m_db, "PRAGMA page_size")) {
         sqlite3_close(src);
         return Error{kStoreDomain, SQLITE_MISMATCH, what,
                      QStringLiteral("The backup uses another page size than the database.")};

@@ -131,6 +131,7 @@ private:
     static constexpr int kJournalLength = 20000;
     void refresh();
     bool refreshChanged(const ChangeMark &now);
+    void rereadLists(Record *owner);
     void rescanEntity(EntityId entity);
     Error assignNewIds();
     Error damagedError() const;
