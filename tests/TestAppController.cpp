@@ -4,6 +4,7 @@
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
+#include "store/StoreFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,6 +13,9 @@
 #include <QtTest>
 
 #include <sqlite3.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace tabo;
 using P = Preferences;
@@ -177,6 +181,31 @@ void TestAppController::movesStoreToCustomFolder()
     // Moving to where the store already is must not delete it.
     QVERIFY(!f.app.customPathChanged());
     QCOMPARE(f.app.documentList().all().size(), 1);
+
+    // A mover that died after its preferences named an empty folder: the
+    // next start finishes the copy rather than opening a new, empty store.
+    const QString second = f.home.path() + QStringLiteral("/Second");
+    QDir().mkpath(second);
+    const pid_t mover = ::fork();
+    if (mover == 0) {
+        StoreFile::beginMove(f.app.storeURL(), second + QStringLiteral("/Tabo.mbdb"));
+        ::_exit(0);
+    }
+    ::waitpid(mover, nullptr, 0);
+    f.prefs.setString(P::customDatabasePath, second);
+    {
+        test::FakeInteraction ui;
+        AppController next(f.prefs, ui);
+        QVERIFY(next.managedObjectContext());
+        QCOMPARE(next.storeURL(), second + QStringLiteral("/Tabo.mbdb"));
+        QCOMPARE(next.documentList().all().size(), 1);
+    }
+    // Finished once: a store deliberately removed later is not copied again.
+    QFile::remove(second + QStringLiteral("/Tabo.mbdb"));
+    test::FakeInteraction ui;
+    AppController later(f.prefs, ui);
+    QVERIFY(later.managedObjectContext());
+    QCOMPARE(later.documentList().all().size(), 0);
 }
 
 void TestAppController::newDocumentsAndFilterTag()

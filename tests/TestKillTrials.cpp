@@ -67,6 +67,7 @@ QString checkStore(const QString &path)
     AppController app(prefs, ui);
     QRandomGenerator random(seed);
     QString error;
+    app.managedObjectContext(); // open, as in the window, before a move is asked for
     for (int i = 0;; ++i) {
         switch (random.bounded(6)) {
         case 0:
@@ -78,7 +79,6 @@ QString checkStore(const QString &path)
         case 2:
             prefs.setBool(Preferences::useCustomPath, true);
             prefs.setString(Preferences::customDatabasePath, folders.at(i % folders.size()));
-            prefs.sync();
             app.customPathChanged();
             break;
         default:
@@ -150,6 +150,7 @@ void TestKillTrials::killedAnywhereLosesNothingCommitted()
         QVERIFY2(app.managedObjectContext(), qPrintable(ui.errors.isEmpty() ? QString() : ui.errors.first().message()));
         QVERIFY(ui.errors.isEmpty());
         documents = int(app.documentList().all().size());
+        const QString storeUsed = app.storeURL();
         QVERIFY(documents >= 20);
         app.closeStore();
         const QStringList stores{home.dataDir() + QStringLiteral("/Tabo.mbdb"), folders[0] + QStringLiteral("/Tabo.mbdb"),
@@ -163,7 +164,8 @@ void TestKillTrials::killedAnywhereLosesNothingCommitted()
         QVERIFY2(left.isEmpty() || left == QStringList{QStringLiteral("latest.tabo2db")}, qPrintable(left.join(u' ')));
         for (const QString &folder : folders) {
             const QStringList there = QDir(folder).entryList({QStringLiteral("Tabo.mbdb.*")}, QDir::Files | QDir::Hidden);
-            QVERIFY2(there.isEmpty(), qPrintable(there.join(u' ')));
+            QVERIFY2(there.isEmpty(), qPrintable(QStringLiteral("trial %1: %2 left in %3, the store in %4")
+                                                          .arg(trial).arg(there.join(u' '), folder, storeUsed)));
         }
     }
     qInfo("%d trials, %d documents in the last store", trials, documents);

@@ -129,8 +129,10 @@ void AppController::openStore()
         return;
     }
 
-    if (m_storeURL.isEmpty()) // once per start; a restore running here handles its own files
+    if (m_storeURL.isEmpty()) { // once per start; a restore or move running here handles its own files
         StoreFile::recoverInterruptedRestore(storeFilePath());
+        StoreFile::finishInterruptedMove(storeFilePath());
+    }
     m_storeURL = storeFilePath();
     auto store = std::make_unique<Store>(m_storeURL);
     if (const Error e = store->open()) {
@@ -372,32 +374,40 @@ void AppController::applicationWillTerminate()
 bool AppController::customPathChanged()
 {
     qInfo() << "customPathChanged";
-    if (m_backupBeforeMove)
-        m_backupBeforeMove();
-    if (!managedObjectContext())
+    // Without an open store there is nothing to move; opening one now would
+    // make a new, empty store in the new folder.
+    if (!m_store)
         return false;
     const QString target = storeFilePath();
     if (QFileInfo(target).absoluteFilePath() == QFileInfo(m_storeURL).absoluteFilePath())
         return false; // the store is already there: deleting "the target" would delete it
-    if (const Error e = m_store->save()) {
-        m_ui.presentError(e);
+    // Noted before the backup panel gives the event loop a chance to write the
+    // preferences that name the target.
+    StoreFile::beginMove(m_storeURL, target);
+    const auto fail = [this](const Error &e) {
+        StoreFile::endMove();
+        if (e)
+            m_ui.presentError(e);
         return false;
-    }
+    };
+    if (m_backupBeforeMove)
+        m_backupBeforeMove();
+    if (!m_store)
+        return fail({});
+    if (const Error e = m_store->save())
+        return fail(e);
     const QString folder = QFileInfo(target).absolutePath();
-    if (!QFileInfo(folder).isDir()) {
-        m_ui.presentError(Error{Error::kAppDomain, 4,
-                                QStringLiteral("The folder “%1” does not exist.").arg(folder), {}});
-        return false;
-    }
-    // The preferences already name the target: it must hold the old file or
-    // the complete copy at every moment, never a half-written one.
+    if (!QFileInfo(folder).isDir())
+        return fail(Error{Error::kAppDomain, 4, QStringLiteral("The folder “%1” does not exist.").arg(folder), {}});
+    // The target holds the old file or the complete copy at every moment,
+    // never a half-written one.
     QString reason;
-    if (!StoreFile::writeCopy(*m_store, target, &reason)) {
-        m_ui.presentError(Error{Error::kAppDomain, 5,
-                                QStringLiteral("The database could not be moved to “%1”.").arg(folder), reason});
-        return false;
-    }
+    if (!StoreFile::writeCopy(*m_store, target, &reason))
+        return fail(Error{Error::kAppDomain, 5, QStringLiteral("The database could not be moved to “%1”.").arg(folder),
+                          reason});
     QFile::setPermissions(target, QFileInfo(m_storeURL).permissions());
+    m_prefs.sync();
+    StoreFile::endMove();
     m_current = nullptr;
     m_list.clear();
     m_store.reset();

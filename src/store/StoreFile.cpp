@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QRandomGenerator>
+#include <QSaveFile>
 #include <QTemporaryFile>
 #include <QThread>
 
@@ -16,6 +18,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <signal.h>
 #include <unistd.h>
 
 namespace tabo {
@@ -294,15 +297,95 @@ void setPendingCopies(const QStringList &paths)
         return;
     }
     QDir().mkpath(QFileInfo(pendingListPath()).absolutePath());
-    QFile list(pendingListPath());
-    if (list.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    // Replaced in one step: a kill while writing must not empty the list.
+    QSaveFile list(pendingListPath());
+    if (list.open(QIODevice::WriteOnly)) {
         list.write(paths.join(QLatin1Char('\n')).toUtf8() + '\n');
         list.flush();
         ::fsync(list.handle());
+        list.commit();
     }
 }
 
 } // namespace
+
+namespace {
+
+QString movePath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Tabo/store-move");
+}
+
+bool sameFile(const QString &a, const QString &b)
+{
+    return QFileInfo(a).absoluteFilePath() == QFileInfo(b).absoluteFilePath();
+}
+
+} // namespace
+
+void StoreFile::beginMove(const QString &source, const QString &target)
+{
+    QDir().mkpath(QFileInfo(movePath()).absolutePath());
+    QFile note(movePath());
+    if (note.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        note.write(QByteArray::number(::getpid()) + '\n' + source.toUtf8() + '\n' + target.toUtf8() + '\n');
+        note.flush();
+        ::fsync(note.handle());
+    }
+}
+
+void StoreFile::endMove()
+{
+    QFile::remove(movePath());
+}
+
+void StoreFile::finishInterruptedMove(const QString &storePath)
+{
+    QFile note(movePath());
+    if (!note.open(QIODevice::ReadOnly))
+        return;
+    const QStringList lines = QString::fromUtf8(note.readAll()).split(QLatin1Char('\n'));
+    note.close();
+    if (lines.size() < 3)
+        return endMove();
+    const pid_t pid = pid_t(lines[0].toLongLong());
+    const QString &source = lines[1];
+    const QString &target = lines[2];
+    const bool moverAlive = pid > 0 && (::kill(pid, 0) == 0 || errno == EPERM);
+    if (QFileInfo::exists(target))
+        return endMove(); // the copy is in place: it is only ever renamed there whole
+    if (!sameFile(storePath, target)) {
+        // The preferences never came to name the target; a live mover may
+        // still be copying.
+        if (!moverAlive)
+            endMove();
+        return;
+    }
+    if (moverAlive)
+        return; // the mover puts the copy in place before it syncs the preferences
+    QString reason;
+    // Opening would make a new store of a missing or empty file; the source
+    // may be open elsewhere, so its log is not asked to be written back.
+    if (!QFileInfo(source).isFile() || QFileInfo(source).size() == 0) {
+        qWarning().noquote() << QStringLiteral("The interrupted move of the database from “%1” cannot be finished: "
+                                               "it is missing or empty.")
+                                    .arg(source);
+        return endMove();
+    }
+    Store from(source);
+    if (const Error e = from.open()) {
+        qWarning().noquote() << QStringLiteral("The interrupted move of the database from “%1” cannot be finished: %2")
+                                    .arg(source, e.message());
+        return endMove();
+    }
+    if (writeCopy(from, target, &reason))
+        qInfo().noquote() << QStringLiteral("Finished the interrupted move of the database from “%1” to “%2”.")
+                                 .arg(source, target);
+    else
+        qWarning().noquote() << reason;
+    from.close();
+    endMove();
+}
 
 void StoreFile::removeInterruptedCopies()
 {
@@ -319,21 +402,26 @@ bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
 {
     // VACUUM INTO writes a consistent copy, log included, into a file beside
     // the target; synced and renamed, the finished copy appears in one step.
-    QTemporaryFile temp(target + QStringLiteral(".XXXXXX"));
-    if (!temp.open()) {
-        *error = QStringLiteral("“%1” could not be written: %2.").arg(target, temp.errorString());
+    // The name is listed before anything is written under it, so a kill at
+    // any moment leaves nothing the next start does not know of.
+    QString tempPath;
+    for (int attempt = 0; attempt < 100 && tempPath.isEmpty(); ++attempt) {
+        const QString candidate = QFileInfo(target).absoluteFilePath() + QLatin1Char('.')
+                                  + QString::number(QRandomGenerator::global()->generate() % 0x1000000, 36);
+        if (!QFileInfo::exists(candidate) && !QFileInfo::exists(candidate + QStringLiteral("-journal")))
+            tempPath = candidate;
+    }
+    if (tempPath.isEmpty()) {
+        *error = QStringLiteral("“%1” could not be written: no free name for a working copy beside it.").arg(target);
         qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(*error);
         return false;
     }
-    temp.close();
-    const QString tempPath = QFileInfo(temp.fileName()).absoluteFilePath();
     setPendingCopies(pendingCopies() << tempPath);
     const auto done = [&] {
         QStringList pending = pendingCopies();
         pending.removeAll(tempPath);
         setPendingCopies(pending);
     };
-    QFile::remove(tempPath); // VACUUM INTO wants to create its file
     sqlite3_stmt *stmt = nullptr;
     sqlite3_prepare_v2(store.handle(), "VACUUM INTO ?", -1, &stmt, nullptr);
     const QByteArray tempName = QFile::encodeName(tempPath);
@@ -361,7 +449,6 @@ bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
         done();
         return false;
     }
-    temp.setAutoRemove(false);
     syncPath(QFileInfo(target).absolutePath(), true);
     done();
     return true;

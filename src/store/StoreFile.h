@@ -42,6 +42,14 @@ public:
     // Removes the unfinished copies of a process that died while writing them.
     static void removeInterruptedCopies();
 
+    // A move of the store to another folder is noted before the preferences
+    // may name the target and forgotten once the copy is there: a move a kill
+    // cut short is finished at the next start instead of a new, empty store
+    // being opened where the documents should be.
+    static void beginMove(const QString &source, const QString &target);
+    static void endMove();
+    static void finishInterruptedMove(const QString &storePath);
+
     // Test hook: with TABO_TEST_RESTORE_PAUSE_MS set, a restore waits that long
     // between its file steps, so that a test can kill it in every window.
     static void pauseForTest();
