@@ -4,7 +4,7 @@
 #include "app/AppController.h"
 #include "app/DocumentCommands.h"
 #include "app/ItemCommands.h"
-#include "designs/DesignLibrary.h"
+#include "app/DesignLibrary.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "render/Formatters.h"

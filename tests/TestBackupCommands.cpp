@@ -1,4 +1,4 @@
-#include "TestSupport.h"
+#include "CommandSupport.h"
 
 #include "app/AppController.h"
 #include "app/BackupCommands.h"

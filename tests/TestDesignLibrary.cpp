@@ -1,13 +1,14 @@
-#include "TestSupport.h"
+#include "CommandSupport.h"
 
 #include "app/AppController.h"
 #include "app/FileCommands.h"
-#include "designs/DesignLibrary.h"
-#include "designs/SampleDocument.h"
+#include "app/DesignLibrary.h"
+#include "render/SampleDocument.h"
 #include "domain/Calculator.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
+#include "store/DesignFile.h"
 
 #include <QFile>
 #include <QtTest>
@@ -38,7 +39,7 @@ QString resourceTitle(const QString &name)
     QFile f(QStringLiteral(":/designs/%1.design").arg(name));
     if (!f.open(QIODevice::ReadOnly))
         return {};
-    return FileCommands::readDesignFile(f.readAll(), nullptr).value(QStringLiteral("title")).toString();
+    return readDesignFile(f.readAll(), nullptr).value(QStringLiteral("title")).toString();
 }
 
 QList<Record *> byCreation(QList<Record *> list)
@@ -193,7 +194,7 @@ private Q_SLOTS:
         prefs.setBool(P::tax2Enabled, false);
         prefs.setBool(P::tax3Enabled, true);
 
-        const QList<QVariantMap> lines = DesignLibrary::previewItems();
+        const QList<QVariantMap> lines = SampleDocument::previewItems();
         QVERIFY(!lines.isEmpty());
         double net = 0;
         for (const QVariantMap &line : lines) {

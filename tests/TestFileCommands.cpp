@@ -1,4 +1,4 @@
-#include "TestSupport.h"
+#include "CommandSupport.h"
 
 #include "app/AppController.h"
 #include "app/FileCommands.h"
@@ -8,6 +8,7 @@
 #include "store/ObjectDictionary.h"
 #include "store/PropertyList.h"
 #include "store/Store.h"
+#include "store/DesignFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -217,11 +218,11 @@ void TestFileCommands::designFile()
     design->setBool(Design::isDefault, true);
 
     QString error;
-    QVariantMap read = FileCommands::readDesignFile(FileCommands::designFileData(*design), &error);
+    QVariantMap read = readDesignFile(designFileData(*design), &error);
     QVERIFY2(error.isEmpty(), qPrintable(error));
     QCOMPARE(read, OD::toDictionary(*design));
 
-    QVERIFY(FileCommands::readDesignFile("not an archive", &error).isEmpty());
+    QVERIFY(readDesignFile("not an archive", &error).isEmpty());
     QVERIFY(!error.isEmpty());
 }
 

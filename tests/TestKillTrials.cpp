@@ -1,6 +1,6 @@
 // kill -9 at random moments of saves, backups, restores and store moves: every
 // file left behind is a whole store whose documents agree with their lines.
-#include "TestSupport.h"
+#include "CommandSupport.h"
 
 #include "app/BackupCommands.h"
 #include "app/ItemCommands.h"

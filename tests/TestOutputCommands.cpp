@@ -1,11 +1,11 @@
 // Preview, export sheet, print, PDF and e-mail of the current document, with
 // stand-ins for `lp` and `xdg-email` and the PDFs read back with poppler-utils.
 
-#include "TestSupport.h"
+#include "CommandSupport.h"
 
 #include "app/ItemCommands.h"
 #include "app/OutputCommands.h"
-#include "designs/DesignLibrary.h"
+#include "app/DesignLibrary.h"
 #include "domain/Record.h"
 #include "render/Formatters.h"
 #include "render/PdfEngine.h"

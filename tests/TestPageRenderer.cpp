@@ -1,4 +1,4 @@
-#include "TestSupport.h"
+#include "CommandSupport.h"
 
 #include "domain/Record.h"
 #include "render/Formatters.h"

@@ -1,6 +1,6 @@
 // Several processes on one store: the window's controller here, tabo-cli as
 // children, and files damaged on purpose.
-#include "TestSupport.h"
+#include "CommandSupport.h"
 
 #include "app/BackupCommands.h"
 #include "app/ItemCommands.h"

@@ -43,29 +43,6 @@ QString TempHome::configFile() const
     return m_dir.path() + QStringLiteral("/.config/Tabo/Tabo.conf");
 }
 
-int FakeInteraction::alert(const QString &title, const QString &text, const QStringList &buttons)
-{
-    alerts.append({title, text, buttons});
-    return answers.isEmpty() ? 0 : answers.takeFirst();
-}
-
-void FakeInteraction::presentError(const Error &error)
-{
-    errors.append(error);
-}
-
-QString FakeInteraction::openFile(const FileRequest &request)
-{
-    fileRequests.append(request);
-    return files.isEmpty() ? QString() : files.takeFirst();
-}
-
-QString FakeInteraction::saveFile(const FileRequest &request)
-{
-    fileRequests.append(request);
-    return files.isEmpty() ? QString() : files.takeFirst();
-}
-
 Date utc(int year, int month, int day, int hour, int minute, int second)
 {
     return Date::fromDateTime(QDateTime(QDate(year, month, day), QTime(hour, minute, second), Qt::UTC));

@@ -1,10 +1,10 @@
-#include "TestSupport.h"
+#include "CommandSupport.h"
 
 #include "app/AppController.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
-#include "templates/TemplateCommands.h"
+#include "app/TemplateCommands.h"
 
 #include <QtTest>
 

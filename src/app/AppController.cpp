@@ -4,18 +4,19 @@
 #include "app/BackupCommands.h"
 #include "app/DocumentCommands.h"
 #include "app/OutputCommands.h"
-#include "designs/DesignLibrary.h"
+#include "app/DesignLibrary.h"
 #include "app/FileCommands.h"
 #include "app/Interaction.h"
 #include "app/ItemCommands.h"
-#include "domain/Clock.h"
+#include "base/Clock.h"
 #include "domain/Numbering.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
+#include "prefs/Locations.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
 #include "store/StoreFile.h"
-#include "templates/TemplateCommands.h"
+#include "app/TemplateCommands.h"
 
 #include <QDebug>
 #include <QDir>
@@ -66,10 +67,7 @@ void AppController::installPendingTabo2Template()
 
 QString AppController::applicationFilesDirectory()
 {
-    const QString dir = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-                        + QStringLiteral("/Tabo");
-    QDir().mkpath(dir); // a failure shows when the store is opened
-    return dir;
+    return Locations::dataFolder(); // a failure shows when the store is opened
 }
 
 QString AppController::storeFilePath() const
@@ -303,8 +301,7 @@ QString AppController::pdfEmailPath() const
 
 void AppController::createBackupPath()
 {
-    m_backupPath = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                   + QStringLiteral("/Tabo_Backup.mbdb");
+    m_backupPath = Locations::automaticBackupFile();
 }
 
 void AppController::applicationDidFinishLaunching()

@@ -2,7 +2,7 @@
 
 #include "domain/Calculator.h"
 #include "domain/DocumentList.h"
-#include "domain/Error.h"
+#include "base/Error.h"
 
 #include <QObject>
 #include <QString>

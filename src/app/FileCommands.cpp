@@ -6,6 +6,7 @@
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
+#include "store/DesignFile.h"
 #include "store/KeyedArchive.h"
 #include "store/ObjectDictionary.h"
 #include "store/PropertyList.h"
@@ -23,7 +24,6 @@ using P = Preferences;
 namespace OD = ObjectDictionary;
 
 const QString kTaboDic = QStringLiteral("taboDic");
-const QString kDesignDic = QStringLiteral("designDic");
 const QString kDatabaseTitle = QStringLiteral("Export Tabo Database As XML");
 
 bool writeAtomically(const QString &path, const QByteArray &data, QString *error)
@@ -63,25 +63,6 @@ QVariantList dictionaries(Store &store, const QList<Record *> &records)
 
 // The dictionary stored under `key` in an archive, or an empty map with a
 // reason.
-QVariantMap archivedDictionary(const QByteArray &data, const QString &key, QString *error)
-{
-    QString reason;
-    const QVariant root = KeyedArchive::unarchive(data, &reason);
-    if (!root.isValid()) {
-        if (error)
-            *error = QStringLiteral("Not an archive: %1").arg(reason);
-        return {};
-    }
-    const QVariant value = root.toMap().value(key);
-    if (root.metaType() != QMetaType::fromType<QVariantMap>() || value.metaType() != QMetaType::fromType<QVariantMap>()
-        || value.toMap().isEmpty()) {
-        if (error)
-            *error = QStringLiteral("The archive holds no “%1”.").arg(key);
-        return {};
-    }
-    return value.toMap();
-}
-
 } // namespace
 
 bool FileCommands::exportInvoice(int exportFormat)
@@ -230,21 +211,6 @@ Record *FileCommands::importInvoiceFile(const QString &path, QString *error)
     ensureOwnUniqueId(*invoice, Invoice::uniqueID, m_app.documentList().all());
     m_app.documentCreated(invoice);
     return invoice;
-}
-
-QByteArray FileCommands::designFileData(const Record &design)
-{
-    QVariantMap dictionary = OD::toDictionary(design);
-    dictionary.insert(OD::kClassKey, QStringLiteral("Design"));
-    return KeyedArchive::archive(QVariantMap{{kDesignDic, dictionary}});
-}
-
-QVariantMap FileCommands::readDesignFile(const QByteArray &data, QString *error)
-{
-    QVariantMap dictionary = archivedDictionary(data, kDesignDic, error);
-    if (!dictionary.isEmpty())
-        dictionary.insert(OD::kClassKey, QStringLiteral("Design"));
-    return dictionary;
 }
 
 } // namespace tabo

@@ -35,12 +35,6 @@ public:
     Record *importInvoice();
     Record *importInvoiceFile(const QString &path, QString *error);
 
-    // Design files ("design": keyed archive {"designDic": …}).
-    static QByteArray designFileData(const Record &design);
-    // The design dictionary of a design file ("class" set to "Design"), or an
-    // empty map with a reason.
-    static QVariantMap readDesignFile(const QByteArray &data, QString *error);
-
 private:
     AppController &m_app;
 };

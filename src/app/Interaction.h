@@ -1,21 +1,12 @@
 #pragma once
 
-#include "domain/Error.h"
+#include "base/Error.h"
+#include "render/PrintSystem.h"
 
 #include <QString>
 #include <QStringList>
 
 namespace tabo {
-
-// What the print dialog settles: the job goes to `printer` (empty: the
-// system's default) with CUPS options such as "sides=two-sided-long-edge".
-struct PrintRequest
-{
-    QString jobTitle;
-    QString printer;
-    int copies = 1;
-    QStringList options; // "key=value" for lp -o
-};
 
 // Everything a command needs from the person goes through here. The GUI
 // answers with real dialogs, the command line with its options and flags, the

@@ -2,7 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/Interaction.h"
-#include "domain/Clock.h"
+#include "base/Clock.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"

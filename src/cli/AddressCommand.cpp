@@ -5,6 +5,7 @@
 #include "cli/Session.h"
 #include "domain/Contacts.h"
 #include "prefs/Preferences.h"
+#include "store/Store.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>

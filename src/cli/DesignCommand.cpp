@@ -6,8 +6,8 @@
 #include "cli/JsonWriter.h"
 #include "cli/OutputRun.h"
 #include "cli/Session.h"
-#include "designs/DesignLibrary.h"
-#include "designs/SampleDocument.h"
+#include "app/DesignLibrary.h"
+#include "render/SampleDocument.h"
 #include "domain/Record.h"
 
 #include <QCommandLineParser>

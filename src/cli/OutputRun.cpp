@@ -4,7 +4,7 @@
 #include "app/OutputCommands.h"
 #include "cli/Console.h"
 #include "cli/Session.h"
-#include "designs/DesignLibrary.h"
+#include "app/DesignLibrary.h"
 #include "domain/Record.h"
 
 namespace tabo::cli {

@@ -1,6 +1,6 @@
 #include "cli/RenderCommand.h"
 
-#include "designs/DesignLibrary.h"
+#include "app/DesignLibrary.h"
 #include "render/PageRenderer.h"
 
 #include "app/AppController.h"
@@ -8,7 +8,7 @@
 #include "cli/Console.h"
 #include "cli/OutputRun.h"
 #include "cli/Session.h"
-#include "designs/DesignLibrary.h"
+#include "app/DesignLibrary.h"
 #include "domain/Record.h"
 #include "render/PageRenderer.h"
 

@@ -6,7 +6,7 @@
 #include "cli/Session.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
-#include "templates/TemplateCommands.h"
+#include "app/TemplateCommands.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>

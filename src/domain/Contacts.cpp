@@ -1,11 +1,11 @@
 #include "domain/Contacts.h"
 
-#include "domain/Clock.h"
+#include "base/Clock.h"
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
-#include "store/Store.h"
+#include "domain/RecordOwner.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -412,7 +412,7 @@ QString customerName(qint64 clientNamePatternTag, const QString &title, const QS
     }
 }
 
-Record *selectAddress(Store &store, Record &document, const AddressFields &fields, qint64 clientNamePatternTag)
+Record *selectAddress(RecordOwner &store, Record &document, const AddressFields &fields, qint64 clientNamePatternTag)
 {
     const QString name = customerName(clientNamePatternTag, fields.customerTitle, fields.firstName, fields.lastName);
     document.setText(Invoice::address, fields.address);

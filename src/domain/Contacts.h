@@ -7,7 +7,7 @@ namespace tabo {
 
 class Preferences;
 class Record;
-class Store;
+class RecordOwner;
 
 // One person or company read from a vCard (3.0 or 4.0): the preferred postal
 // address and e-mail address.
@@ -58,7 +58,7 @@ QString customerName(qint64 clientNamePatternTag, const QString &title, const QS
 // selectAddress: copies the fields into the document and remembers the
 // address unless one with the same text exists. Returns the new Address
 // record, or nullptr when it was already known.
-Record *selectAddress(Store &store, Record &document, const AddressFields &fields,
+Record *selectAddress(RecordOwner &store, Record &document, const AddressFields &fields,
                       qint64 clientNamePatternTag);
 
 } // namespace Contacts

@@ -2,7 +2,7 @@
 
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
-#include "store/Store.h"
+#include "domain/RecordOwner.h"
 
 #include <algorithm>
 
@@ -26,7 +26,7 @@ bool newerFirst(const Record *a, const Record *b)
 
 } // namespace
 
-void DocumentList::reload(Store *store)
+void DocumentList::reload(RecordOwner *store)
 {
     m_all = store ? store->all(EntityId::Invoice) : QList<Record *>();
     // The store hands the documents over newest first already.

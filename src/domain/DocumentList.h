@@ -8,7 +8,7 @@
 namespace tabo {
 
 class Record;
-class Store;
+class RecordOwner;
 
 // All documents of the store, newest first, and the filtered view of them
 // that the main window shows (the "arranged contents"). The summary figures
@@ -19,7 +19,7 @@ public:
     DocumentList() = default;
 
     // Takes every Invoice record of the store (or none without a store).
-    void reload(Store *store);
+    void reload(RecordOwner *store);
     void clear();
 
     const QList<Record *> &all() const { return m_all; }

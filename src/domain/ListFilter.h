@@ -1,6 +1,6 @@
 #pragma once
 
-#include "domain/Date.h"
+#include "base/Date.h"
 
 #include <QString>
 

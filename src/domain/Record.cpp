@@ -1,6 +1,6 @@
 #include "domain/Record.h"
 
-#include "store/Store.h"
+#include "domain/RecordOwner.h"
 
 #include <QLocale>
 
@@ -26,7 +26,7 @@ const QList<Record *> &emptyList()
 
 } // namespace
 
-Record::Record(Store *store, EntityId entity, qint64 id)
+Record::Record(RecordOwner *store, EntityId entity, qint64 id)
     : m_num(new double[entityDesc(entity).numericCount]())
     , m_nullMask(~std::uint64_t(0))
     , m_numericCount(std::uint8_t(entityDesc(entity).numericCount))
@@ -43,7 +43,7 @@ Record::Record(Store *store, EntityId entity, qint64 id)
     }
 }
 
-Record::Record(InlineTag, void *values, void *texts, Store *store, EntityId entity, qint64 id)
+Record::Record(InlineTag, void *values, void *texts, RecordOwner *store, EntityId entity, qint64 id)
     : m_num(static_cast<double *>(values))
     , m_nullMask(~std::uint64_t(0))
     , m_numericCount(std::uint8_t(entityDesc(entity).numericCount))
@@ -74,7 +74,7 @@ std::size_t Record::inlineTextSize(const EntityDesc &desc)
     return sizeof(QString) * desc.textCount;
 }
 
-Record *Record::createInline(void *place, void *texts, Store *store, EntityId entity, qint64 id)
+Record *Record::createInline(void *place, void *texts, RecordOwner *store, EntityId entity, qint64 id)
 {
     // Numbers first: the hot ones then share a cache line at the start of
     // the block, and the record's own hot fields one more.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "domain/Date.h"
+#include "base/Date.h"
 #include "domain/EntityModel.h"
 
 #include <QList>
@@ -15,6 +15,7 @@
 
 namespace tabo {
 
+class RecordOwner;
 class Store;
 
 // One stored record of any entity. Attributes are addressed by index (the
@@ -24,7 +25,7 @@ class Store;
 class Record
 {
 public:
-    Record(Store *store, EntityId entity, qint64 id);
+    Record(RecordOwner *store, EntityId entity, qint64 id);
     ~Record();
 
     // Bytes a record of the entity needs with its numbers placed right after
@@ -34,14 +35,14 @@ public:
     // Constructs a record at `place` (inlineSize() bytes) with its texts at
     // `texts` (inlineTextSize() bytes): the store lays a whole list out this
     // way so that walking the list walks memory front to back.
-    static Record *createInline(void *place, void *texts, Store *store, EntityId entity, qint64 id);
+    static Record *createInline(void *place, void *texts, RecordOwner *store, EntityId entity, qint64 id);
     Record(const Record &) = delete;
     Record &operator=(const Record &) = delete;
 
     EntityId entityId() const { return m_entity; }
     const EntityDesc &desc() const { return *m_desc; }
     qint64 id() const { return m_id; }
-    Store *store() const { return m_store; }
+    RecordOwner *store() const { return m_store; }
 
     // Typed reads.
     bool isNull(int attr) const;
@@ -112,7 +113,7 @@ private:
     void markChanged(int attr);
     int toOneSlot(int rel) const;
     struct InlineTag {};
-    Record(InlineTag, void *values, void *texts, Store *store, EntityId entity, qint64 id);
+    Record(InlineTag, void *values, void *texts, RecordOwner *store, EntityId entity, qint64 id);
 
     // What the summary pass reads sits in the first bytes.
     double *m_num;
@@ -124,7 +125,7 @@ private:
     bool m_inDirty = false;
     bool m_inline = false;
     mutable bool m_textLoaded = true;
-    Store *m_store;
+    RecordOwner *m_store;
     const EntityDesc *m_desc;
     qint64 m_id;
     QString *m_text;

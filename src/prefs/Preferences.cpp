@@ -1,5 +1,7 @@
 #include "prefs/Preferences.h"
 
+#include "prefs/Locations.h"
+
 #include <QDir>
 #include <QFile>
 #include <QLocale>
@@ -176,8 +178,7 @@ bool Preferences::clearStaleLock(const QString &lockPath)
 
 QString Preferences::defaultFilePath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-           + QStringLiteral("/Tabo/Tabo.conf");
+    return Locations::settingsFile();
 }
 
 Preferences::Preferences(const QString &filePath)

@@ -1,6 +1,6 @@
 #include "render/PageRenderer.h"
 
-#include "app/AppController.h"
+#include "prefs/Locations.h"
 #include "domain/Numbering.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
@@ -336,7 +336,7 @@ QString PageRenderer::logoValue() const
 
 QString PageRenderer::logoPath()
 {
-    return AppController::applicationFilesDirectory() + QStringLiteral("/Logo.png");
+    return Locations::dataFile(QStringLiteral("Logo.png"));
 }
 
 bool PageRenderer::canRender(const Record *design)

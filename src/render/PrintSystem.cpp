@@ -1,7 +1,5 @@
 #include "render/PrintSystem.h"
 
-#include "app/Interaction.h"
-
 #include <QFileInfo>
 #include <QProcess>
 

@@ -5,7 +5,15 @@
 
 namespace tabo {
 
-struct PrintRequest;
+// What the print dialog settles: the job goes to `printer` (empty: the
+// system's default) with CUPS options such as "sides=two-sided-long-edge".
+struct PrintRequest
+{
+    QString jobTitle;
+    QString printer;
+    int copies = 1;
+    QStringList options; // "key=value" for lp -o
+};
 
 // Sends a PDF file itself (never a screen bitmap) to the print system
 // through CUPS' `lp`, with the job title and the chosen printer's options.

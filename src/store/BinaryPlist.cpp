@@ -1,6 +1,6 @@
 #include "store/BinaryPlist.h"
 
-#include "domain/Date.h"
+#include "base/Date.h"
 #include "store/PlistDetail.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "store/KeyedArchive.h"
 
-#include "domain/Date.h"
+#include "base/Date.h"
 #include "store/PropertyList.h"
 
 #include <QHash>

@@ -1,7 +1,7 @@
 #include "store/ObjectDictionary.h"
 
 #include "domain/Record.h"
-#include "store/Store.h"
+#include "domain/RecordOwner.h"
 
 #include <array>
 #include <vector>
@@ -168,7 +168,7 @@ void populateFromDictionary(Record &record, const QVariantMap &dictionary)
     }
 }
 
-Record *createManagedObjectFromDictionary(const QVariantMap &dictionary, Store &store)
+Record *createManagedObjectFromDictionary(const QVariantMap &dictionary, RecordOwner &store)
 {
     const EntityDesc *desc = entityDescByName(dictionary.value(kClassKey).toString());
     if (!desc)

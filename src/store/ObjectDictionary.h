@@ -8,7 +8,7 @@
 namespace tabo {
 
 class Record;
-class Store;
+class RecordOwner;
 
 // The plain-value dictionary form of a stored record: "class", every
 // non-empty attribute by name (dates as seconds since 2001-01-01 under
@@ -30,7 +30,7 @@ QVariantMap toDictionary(const Record &record);
 void populateFromDictionary(Record &record, const QVariantMap &dictionary);
 // A new record of the entity named by "class" (nullptr for an unknown or
 // missing class), filled from the dictionary.
-Record *createManagedObjectFromDictionary(const QVariantMap &dictionary, Store &store);
+Record *createManagedObjectFromDictionary(const QVariantMap &dictionary, RecordOwner &store);
 // A date from the number when the key carries the date prefix, else the value.
 QVariant decodedValueFrom(const QVariant &value, const QString &key);
 

@@ -1,6 +1,6 @@
 #include "store/PropertyList.h"
 
-#include "domain/Date.h"
+#include "base/Date.h"
 #include "store/BinaryPlist.h"
 #include "store/PlistDetail.h"
 #include "store/XmlPlist.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "domain/EntityModel.h"
-#include "domain/Error.h"
+#include "base/Error.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "base/Error.h"
 #include "domain/EntityModel.h"
-#include "domain/Error.h"
+#include "domain/RecordOwner.h"
 
 #include <QHash>
 #include <QList>
@@ -33,7 +34,7 @@ inline const QString kStoreDomain = QStringLiteral("TaboStore");
 // records their ids only then, and never overwrites a value that was changed
 // elsewhere after this process read it: such records are reported as
 // conflicts and nothing is written.
-class Store
+class Store : public RecordOwner
 {
 public:
     explicit Store(QString path);
@@ -50,10 +51,10 @@ public:
     QString path() const { return m_path; }
     int schemaVersion() const;
 
-    const QList<Record *> &all(EntityId entity);
-    Record *insert(EntityId entity);
+    const QList<Record *> &all(EntityId entity) override;
+    Record *insert(EntityId entity) override;
     void remove(Record *record); // cascades to the lines of a document
-    Record *byId(EntityId entity, qint64 id);
+    Record *byId(EntityId entity, qint64 id) override;
     qsizetype count(EntityId entity);
 
     bool hasChanges() const { return !m_dirty.isEmpty(); }
@@ -119,8 +120,8 @@ private:
         QString text;
     };
 
-    void faultText(Record *record);
-    void rememberOriginal(Record *record, int attr);
+    void faultText(Record *record) override;
+    void rememberOriginal(Record *record, int attr) override;
     struct ChangeMark
     {
         QString generation;
@@ -135,8 +136,8 @@ private:
     void rescanEntity(EntityId entity);
     Error assignNewIds();
     Error damagedError() const;
-    QList<Record *> *loadToMany(const Record *owner, int rel);
-    void noteChanged(Record *record);
+    QList<Record *> *loadToMany(const Record *owner, int rel) override;
+    void noteChanged(Record *record) override;
     Record *adopt(EntityId entity, qint64 id, bool *created);
     void readRow(Record *record, sqlite3_stmt *stmt, int firstColumn, bool listOnly);
     void loadAll(EntityId entity);

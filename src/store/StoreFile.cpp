@@ -1,5 +1,6 @@
 #include "store/StoreFile.h"
 
+#include "prefs/Locations.h"
 #include "store/Store.h"
 
 #include <QDebug>
@@ -279,7 +280,7 @@ namespace {
 // start wherever it was written, whichever store is open then.
 QString pendingListPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Tabo/unfinished-copies");
+    return Locations::dataFile(QStringLiteral("unfinished-copies"));
 }
 
 QStringList pendingCopies()
@@ -313,7 +314,7 @@ namespace {
 
 QString movePath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Tabo/store-move");
+    return Locations::dataFile(QStringLiteral("store-move"));
 }
 
 bool sameFile(const QString &a, const QString &b)

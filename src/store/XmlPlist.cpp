@@ -1,6 +1,6 @@
 #include "store/XmlPlist.h"
 
-#include "domain/Date.h"
+#include "base/Date.h"
 #include "store/PlistDetail.h"
 #include "store/PropertyList.h"
 

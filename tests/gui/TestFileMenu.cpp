@@ -1,7 +1,7 @@
-#include "AccountingExportSheet.h"
-#include "FileMenu.h"
-#include "GuiInteraction.h"
-#include "MainWindow.h"
+#include "gui/AccountingExportSheet.h"
+#include "gui/FileMenu.h"
+#include "gui/GuiInteraction.h"
+#include "gui/MainWindow.h"
 #include "TestSupport.h"
 #include "WindowFixture.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "GuiInteraction.h"
-#include "MainWindow.h"
-#include "TestSupport.h"
+#include "gui/GuiInteraction.h"
+#include "gui/MainWindow.h"
+#include "CommandSupport.h"
 
 #include "app/AppController.h"
 #include "prefs/Preferences.h"

@@ -8,7 +8,7 @@
 // SOURCE_DIR/PreviewItems.json (array of item attributes) → PreviewItems.plist
 // SOURCE_DIR/defaults/* are copied as they are.
 
-#include "app/FileCommands.h"
+#include "store/DesignFile.h"
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
@@ -68,7 +68,7 @@ bool writeDesign(const QDir &source, const QString &name, const QDir &out)
     design.setText(Design::css, readText(dir.filePath(QStringLiteral("style.css")), &ok));
     design.setText(Design::uniqueID, builtInId(name));
     design.setBool(Design::isDefault, false);
-    return ok && writeFile(out.filePath(name + QStringLiteral(".design")), FileCommands::designFileData(design));
+    return ok && writeFile(out.filePath(name + QStringLiteral(".design")), designFileData(design));
 }
 
 bool writePreviewItems(const QDir &source, const QDir &out)

@@ -1,0 +1,290 @@
+#include "app/DesignLibrary.h"
+
+#include "app/AppController.h"
+#include "app/Interaction.h"
+#include "domain/Record.h"
+#include "domain/UniqueId.h"
+#include "prefs/Preferences.h"
+#include "store/DesignFile.h"
+#include "store/ObjectDictionary.h"
+#include "store/Store.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QtDebug>
+
+namespace tabo {
+
+namespace {
+
+using P = Preferences;
+namespace OD = ObjectDictionary;
+
+const QString kResourceDir = QStringLiteral(":/designs/");
+const QString kExtension = QStringLiteral("design");
+const QString kFirstDefault = QStringLiteral("Temp001");
+
+QByteArray readResource(const QString &fileName)
+{
+    QFile file(kResourceDir + fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qWarning("Unable to read the resource %s", qPrintable(fileName));
+        return {};
+    }
+    return file.readAll();
+}
+
+bool lessByTitleThenCreation(const Record *a, const Record *b)
+{
+    const int c = QString::compare(a->text(Design::title), b->text(Design::title), Qt::CaseInsensitive);
+    return c != 0 ? c < 0 : a->id() < b->id();
+}
+
+Error fileError(int code, const QString &description, const QString &reason)
+{
+    return Error{Error::kAppDomain, code, description, reason};
+}
+
+} // namespace
+
+DesignLibrary::DesignLibrary(AppController &app)
+    : m_app(app)
+{
+}
+
+QList<Record *> DesignLibrary::designs() const
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store)
+        return {};
+    QList<Record *> list = store->all(EntityId::Design);
+    std::stable_sort(list.begin(), list.end(), lessByTitleThenCreation);
+    return list;
+}
+
+Record *DesignLibrary::currentDesign() const
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store)
+        return nullptr;
+    // The store's list keeps no promised order; creation order is the id.
+    Record *first = nullptr;
+    for (Record *design : store->all(EntityId::Design)) {
+        if (design->boolean(Design::isDefault) && (!first || design->id() < first->id()))
+            first = design;
+    }
+    return first;
+}
+
+QStringList DesignLibrary::firstBuiltInNames()
+{
+    return {QStringLiteral("Temp001"), QStringLiteral("Temp002"), QStringLiteral("Temp003"),
+            QStringLiteral("Temp004"), QStringLiteral("Temp005"), QStringLiteral("Temp006"),
+            QStringLiteral("Temp007"), QStringLiteral("Temp008"), QStringLiteral("Temp009"),
+            QStringLiteral("Temp11"),  QStringLiteral("Temp12"),  QStringLiteral("Temp13")};
+}
+
+Record *DesignLibrary::createDesignFromResource(const QString &name)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store)
+        return nullptr;
+    QString reason;
+    const QVariantMap dictionary = readDesignFile(readResource(name + QLatin1Char('.') + kExtension), &reason);
+    if (dictionary.isEmpty())
+        qWarning("Unable to read the built-in design %s: %s", qPrintable(name), qPrintable(reason));
+    // A broken resource still gives its (empty) design, which renders the
+    // failure text rather than silently falling back to another design.
+    Record *design = dictionary.isEmpty() ? nullptr : OD::createManagedObjectFromDictionary(dictionary, *store);
+    return design ? design : store->insert(EntityId::Design);
+}
+
+void DesignLibrary::loadTemplates()
+{
+    if (!m_app.managedObjectContext())
+        return;
+    for (const QString &name : firstBuiltInNames()) {
+        if (Record *design = createDesignFromResource(name))
+            design->setBool(Design::isDefault, name == kFirstDefault);
+    }
+    m_app.saveContext();
+}
+
+void DesignLibrary::loadTabo2Template()
+{
+    qInfo("loadTabo2Template");
+    Record *design = createDesignFromResource(QStringLiteral("Temp14"));
+    if (!design)
+        return;
+    // Other defaults stay: the earliest one keeps rendering until the person
+    // chooses.
+    design->setBool(Design::isDefault, true);
+    m_app.saveContext();
+}
+
+Record *DesignLibrary::addDesign()
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store)
+        return nullptr;
+    Record *design = store->insert(EntityId::Design);
+    design->setText(Design::uniqueID, newUniqueId());
+    design->setText(Design::title, QStringLiteral("New Design"));
+    design->setText(Design::invoice, defaultResourceText(QStringLiteral("Invoice")));
+    design->setText(Design::item, defaultResourceText(QStringLiteral("Item")));
+    design->setText(Design::css, defaultResourceText(QStringLiteral("CSS")));
+    design->setBool(Design::isDefault, false);
+    m_app.saveContext();
+    setSelectedDesignIndex(int(designs().indexOf(design)));
+    return design;
+}
+
+bool DesignLibrary::deleteDesign(Record *design)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store || !design || design->isDeleted())
+        return false;
+    const int answer = m_app.ui().alert(
+        QStringLiteral("Delete Design"),
+        QStringLiteral("Deleting designs is permanent and cannot be undone. Do you really want to delete the selected design?"),
+        {QStringLiteral("Delete"), QStringLiteral("Cancel")});
+    if (answer != 0)
+        return false;
+    const int index = int(designs().indexOf(design));
+    store->remove(design);
+    m_app.saveContext();
+    // The list selects the row that moved into the deleted one's place.
+    const int remaining = int(designs().size());
+    setSelectedDesignIndex(std::max(0, std::min(index, remaining - 1)));
+    return true;
+}
+
+void DesignLibrary::makeDefaultDesign(Record *design)
+{
+    if (!design || design->isDeleted())
+        return;
+    for (Record *other : designs())
+        other->setBool(Design::isDefault, false);
+    design->setBool(Design::isDefault, true);
+    m_app.saveContext();
+}
+
+Record *DesignLibrary::importDesign()
+{
+    if (!m_app.managedObjectContext())
+        return nullptr; // the missing store has been reported already
+    Interaction::FileRequest request;
+    request.title = QStringLiteral("Import Tabo Design");
+    request.extensions = {kExtension};
+    request.chooseFolders = false;
+    const QString path = m_app.ui().openFile(request);
+    if (path.isEmpty())
+        return nullptr;
+    QString reason;
+    Record *design = importDesignFile(path, &reason);
+    if (!design)
+        m_app.ui().presentError(fileError(
+            259, QStringLiteral("The design “%1” could not be imported.").arg(QFileInfo(path).fileName()), reason));
+    return design;
+}
+
+Record *DesignLibrary::importDesignFile(const QString &path, QString *error)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store) {
+        if (error)
+            *error = QStringLiteral("There is no store to import into.");
+        return nullptr;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = file.errorString();
+        return nullptr;
+    }
+    QString reason;
+    const QVariantMap dictionary = readDesignFile(file.readAll(), &reason);
+    // Nothing is created from a file that is not a design: an empty design
+    // in the list would only puzzle the person.
+    Record *design = dictionary.isEmpty() ? nullptr : OD::createManagedObjectFromDictionary(dictionary, *store);
+    if (!design) {
+        if (error)
+            *error = reason.isEmpty() ? QStringLiteral("The file is not a Tabo design.")
+                                      : QStringLiteral("The file is not a Tabo design. %1").arg(reason);
+        return nullptr;
+    }
+    design->setBool(Design::isDefault, false);
+    // The same file imported twice gets a second ID, so an ID names one design.
+    ensureOwnUniqueId(*design, Design::uniqueID, designs());
+    m_app.saveContext();
+    setSelectedDesignIndex(int(designs().indexOf(design)));
+    return design;
+}
+
+bool DesignLibrary::exportDesign(const Record *design)
+{
+    if (!design)
+        return false;
+    Interaction::FileRequest request;
+    request.title = QStringLiteral("Export Tabo Design");
+    request.extensions = {kExtension};
+    request.canCreateFolders = true;
+    // A slash in a title cannot be part of a file name.
+    request.suggestedName = design->text(Design::title).replace(QLatin1Char('/'), QLatin1Char('-'));
+    QString path = m_app.ui().saveFile(request);
+    if (path.isEmpty())
+        return false;
+    if (!path.endsWith(QLatin1Char('.') + kExtension, Qt::CaseInsensitive))
+        path += QLatin1Char('.') + kExtension;
+    QString reason;
+    if (!exportDesignFile(design, path, &reason)) {
+        m_app.ui().presentError(fileError(
+            261, QStringLiteral("The design could not be exported to “%1”.").arg(QFileInfo(path).fileName()), reason));
+        return false;
+    }
+    return true;
+}
+
+bool DesignLibrary::exportDesignFile(const Record *design, const QString &path, QString *error)
+{
+    if (!design) {
+        if (error)
+            *error = QStringLiteral("No design is selected.");
+        return false;
+    }
+    const QByteArray data = designFileData(*design);
+    if (data.isEmpty()) {
+        if (error)
+            *error = QStringLiteral("The design could not be archived.");
+        return false;
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.commit()) {
+        if (error)
+            *error = file.errorString();
+        return false;
+    }
+    return true;
+}
+
+void DesignLibrary::setSelectedDesignIndex(int index)
+{
+    m_app.prefs().setInteger(P::selectedDesign, std::max(0, index));
+}
+
+int DesignLibrary::selectedDesignIndex() const
+{
+    const qsizetype count = designs().size();
+    if (count == 0)
+        return -1;
+    return int(std::clamp<qint64>(m_app.prefs().integer(P::selectedDesign), 0, count - 1));
+}
+
+QString DesignLibrary::defaultResourceText(const QString &name)
+{
+    const QString fileName = name == QLatin1String("CSS") ? QStringLiteral("CSS.css") : name + QStringLiteral(".htm");
+    return QString::fromUtf8(readResource(fileName));
+}
+
+} // namespace tabo

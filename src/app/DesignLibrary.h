@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace tabo {
+
+class AppController;
+class Record;
+
+// The stored designs: the built-in ones installed on first start, added,
+// deleted, made default, imported from and exported to design files. The
+// design used for rendering is the first one marked default.
+class DesignLibrary
+{
+public:
+    explicit DesignLibrary(AppController &app);
+
+    // Every design, sorted by title (case-insensitive), then by creation.
+    QList<Record *> designs() const;
+    // `currentDesign`: the first design (in creation order) whose `isDefault`
+    // is on; nullptr when none is (or there is no store).
+    Record *currentDesign() const;
+
+    // "Temp001" … "Temp009", "Temp11", "Temp12", "Temp13" (no 010).
+    static QStringList firstBuiltInNames();
+    // `loadTemplates`: installs the twelve first built-in designs, "Temp001"
+    // default, and saves once.
+    void loadTemplates();
+    // `loadTabo2Template`: installs "Temp14" as a default without clearing
+    // any other default.
+    void loadTabo2Template();
+    // A design made from the built-in design file of that name (not saved).
+    Record *createDesignFromResource(const QString &name);
+
+    // `addDesign:` "New Design" from the "Invoice", "Item" and "CSS"
+    // resources, not default; saved. The caller starts editing its title.
+    Record *addDesign();
+    // `deleteDesign:` after the "Delete Design" confirmation; false when
+    // declined.
+    bool deleteDesign(Record *design);
+    // `makeDefaultDesign:` the only default.
+    void makeDefaultDesign(Record *design);
+    // `importDesign:` through the "Import Tabo Design" open panel; nullptr
+    // when cancelled or unreadable. Keeps the file's `uniqueID` and `title`.
+    Record *importDesign();
+    Record *importDesignFile(const QString &path, QString *error);
+    // `exportDesign:` through the "Export Tabo Design" save panel.
+    bool exportDesign(const Record *design);
+    bool exportDesignFile(const Record *design, const QString &path, QString *error);
+
+    // Mirrors the list selection into `selectedDesign`.
+    void setSelectedDesignIndex(int index);
+    int selectedDesignIndex() const;
+
+    // The text of a resource of `addDesign:` ("Invoice", "Item", "CSS").
+    static QString defaultResourceText(const QString &name);
+
+private:
+    AppController &m_app;
+};
+
+} // namespace tabo

@@ -1,0 +1,42 @@
+#include "gui/FilterButton.h"
+
+#include "gui/FilterPopover.h"
+#include "gui/Icons.h"
+#include "app/AppController.h"
+
+namespace tabo {
+
+FilterButton::FilterButton(AppController &app, QWidget *parent)
+    : QToolButton(parent)
+    , m_app(app)
+    , m_popover(new FilterPopover(this))
+    , m_plain(Icons::torch(false))
+    , m_glow(Icons::torch(true))
+{
+    setObjectName(QStringLiteral("filterButton"));
+    setText(tr("Filter"));
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(this, &QToolButton::clicked, this, &FilterButton::clickedFilter);
+    connect(m_popover, &FilterPopover::filterChosen, &m_app, &AppController::selectFilterAction);
+    connect(&m_app, &AppController::filterImageChanged, this, &FilterButton::selectFilter);
+    selectFilter(m_app.filterGlows());
+}
+
+void FilterButton::clickedFilter()
+{
+    if (m_popover->isVisible()) {
+        m_popover->hide();
+        return;
+    }
+    if (m_app.openFilterPopover())
+        m_popover->popup(this, m_app.filterTag());
+}
+
+void FilterButton::selectFilter(bool glowing)
+{
+    m_glowing = glowing;
+    setIcon(glowing ? m_glow : m_plain);
+    setToolTip(glowing ? tr("A filter is on — click to show all documents") : tr("Filter the documents"));
+}
+
+} // namespace tabo

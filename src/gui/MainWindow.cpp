@@ -1,0 +1,269 @@
+#include "gui/MainWindow.h"
+
+#include "gui/DesignChoiceSheet.h"
+#include "gui/DocumentActions.h"
+#include "gui/DocumentEditor.h"
+#include "gui/DocumentListPane.h"
+#include "gui/ExportSheet.h"
+#include "gui/FileMenu.h"
+#include "gui/FilterButton.h"
+#include "gui/LetterSheet.h"
+#include "gui/PreviewWindow.h"
+#include "gui/SummaryBar.h"
+#include "app/AppController.h"
+#include "app/OutputCommands.h"
+#include "domain/Record.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QEvent>
+#include <QFrame>
+#include <QIcon>
+#include <QMenuBar>
+#include <QSplitter>
+#include <QTableView>
+#include <QTimer>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace tabo {
+
+MainWindow::MainWindow(AppController &app, QWidget *parent)
+    : QMainWindow(parent)
+    , m_app(app)
+{
+    setWindowTitle(QStringLiteral("Tabo"));
+    resize(1280, 800);
+
+    auto *central = new QWidget(this);
+    auto *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    // The list above, the editor below: both get the full width their
+    // columns need.
+    auto *split = new QSplitter(Qt::Vertical, central);
+    split->setChildrenCollapsible(false);
+    m_list = new DocumentListPane(m_app, split);
+    m_editor = new DocumentEditor(m_app, split);
+    split->addWidget(m_list);
+    split->addWidget(m_editor);
+    split->setStretchFactor(0, 2);
+    split->setStretchFactor(1, 5);
+    split->setSizes({ 220, 520 });
+    auto *rule = new QFrame(central);
+    rule->setFrameShape(QFrame::HLine);
+    rule->setFrameShadow(QFrame::Sunken);
+    m_summary = new SummaryBar(m_app, central);
+    layout->addWidget(split, 1);
+    layout->addWidget(rule);
+    layout->addWidget(m_summary);
+    setCentralWidget(central);
+
+    createActions();
+    createToolBar();
+
+    connect(&m_app, &AppController::storeOpened, this, &MainWindow::updateCommands);
+    connect(&m_app, &AppController::storeOpened, this, &MainWindow::selectNewestDocument);
+    selectNewestDocument();
+    connect(&m_app, &AppController::terminateRequested, this, &MainWindow::terminateNow);
+    updateCommands();
+    // tabo-cli or a second window may write to the same store: what they
+    // committed shows within seconds, and at once when the window is activated.
+    auto *sync = new QTimer(this);
+    sync->setInterval(2000);
+    connect(sync, &QTimer::timeout, &m_app, &AppController::syncWithStore);
+    sync->start();
+    // The upgrade was declined while the list opened the store: the window
+    // must not be seen before the application ends.
+    if (m_app.isTerminating())
+        setWindowOpacity(0.0);
+}
+
+void MainWindow::createActions()
+{
+    m_newInvoice = new QAction(QIcon::fromTheme(QStringLiteral("document-new")), tr("New Invoice"), this);
+    m_newInvoice->setObjectName(QStringLiteral("actionNewInvoice"));
+    m_newInvoice->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
+    connect(m_newInvoice, &QAction::triggered, this, [this] { newDocument(true); });
+
+    m_newQuote = new QAction(QIcon::fromTheme(QStringLiteral("document-new")), tr("New Quote"), this);
+    m_newQuote->setObjectName(QStringLiteral("actionNewQuote"));
+    m_newQuote->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N));
+    connect(m_newQuote, &QAction::triggered, this, [this] { newDocument(false); });
+
+    m_quit = new QAction(QIcon::fromTheme(QStringLiteral("application-exit")), tr("Quit"), this);
+    m_quit->setObjectName(QStringLiteral("actionQuit"));
+    m_quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    m_quit->setMenuRole(QAction::QuitRole);
+    connect(m_quit, &QAction::triggered, this, &QWidget::close);
+
+    m_actions = new DocumentActions(m_app, m_editor, this);
+    m_actions->attachDeleteKey(m_list->view());
+
+    m_fileMenu = new FileMenu(m_app, m_editor, this);
+    m_fileMenu->populate(menuBar()->addMenu(tr("&File")), m_quit);
+    QMenu *documents = menuBar()->addMenu(tr("&Documents"));
+    documents->addAction(m_newInvoice);
+    documents->addAction(m_newQuote);
+    documents->addAction(m_actions->duplicate());
+    documents->addAction(m_actions->convert());
+    documents->addSeparator();
+    documents->addAction(m_actions->remove());
+    createOutputActions();
+    QMenu *items = menuBar()->addMenu(tr("&Items"));
+    items->addAction(m_actions->addItem());
+    items->addAction(m_actions->deleteItem());
+}
+
+QAction *MainWindow::addOutputAction(
+    const QString &icon, const QString &text, const char *name, const QKeySequence &key)
+{
+    auto *action = new QAction(QIcon::fromTheme(icon), text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(key);
+    // The page shows what is typed, also what is still being typed.
+    connect(action, &QAction::triggered, m_editor, &DocumentEditor::commitPending);
+    m_outputActions << action;
+    return action;
+}
+
+void MainWindow::createOutputActions()
+{
+    m_preview = new PreviewWindow(m_app, this);
+    m_exportSheet = new ExportSheet(m_app, this);
+    m_letterSheet = new LetterSheet(m_app, m_preview, this);
+    m_designSheet = new DesignChoiceSheet(m_app, this);
+
+    m_previewAction = addOutputAction(QStringLiteral("document-print-preview"), tr("Preview"), "actionPreview",
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
+    m_printAction = addOutputAction(QStringLiteral("document-print"), tr("Print…"), "actionPrint", QKeySequence::Print);
+    m_savePdfAction = addOutputAction(QStringLiteral("document-save-as"), tr("Save as PDF…"), "actionSavePdf",
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    m_emailAction = addOutputAction(
+        QStringLiteral("mail-send"), tr("E-mail…"), "actionEmail", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M));
+    QAction *reminder = addOutputAction(QStringLiteral("appointment-soon"), tr("Reminder…"), "actionReminder",
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
+    QAction *slip = addOutputAction(QStringLiteral("mail-forward"), tr("Delivery Slip…"), "actionDeliverySlip",
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D));
+    QAction *design = addOutputAction(QStringLiteral("preferences-desktop-theme"), tr("Choose Design…"),
+        "actionChooseDesign", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G));
+
+    connect(m_previewAction, &QAction::triggered, m_preview, &PreviewWindow::showPreview);
+    connect(m_printAction, &QAction::triggered, this, [this] { openExport(OutputCommands::Print, this); });
+    connect(m_savePdfAction, &QAction::triggered, this, [this] { openExport(OutputCommands::SavePdf, this); });
+    connect(m_emailAction, &QAction::triggered, this, [this] { openExport(OutputCommands::Email, this); });
+    connect(reminder, &QAction::triggered, this, [this] { openLetter(true); });
+    connect(slip, &QAction::triggered, this, [this] { openLetter(false); });
+    connect(design, &QAction::triggered, m_designSheet, &DesignChoiceSheet::begin);
+    connect(m_preview, &PreviewWindow::exportRequested, this, [this](int kind) { openExport(kind, m_preview); });
+    connect(m_preview, &PreviewWindow::reminderRequested, this, [this] { openLetter(true); });
+    connect(m_preview, &PreviewWindow::slipRequested, this, [this] { openLetter(false); });
+
+    QMenu *output = menuBar()->addMenu(tr("&Output"));
+    output->addActions({ m_previewAction, m_printAction, m_savePdfAction, m_emailAction });
+    output->addSeparator();
+    output->addActions({ reminder, slip });
+    output->addSeparator();
+    output->addAction(design);
+
+    connect(&m_app, &AppController::currentInvoiceChanged, this, &MainWindow::updateOutputCommands);
+    connect(&m_app, &AppController::listChanged, this, &MainWindow::updateOutputCommands);
+    updateOutputCommands();
+}
+
+void MainWindow::openExport(int kind, QWidget *window)
+{
+    m_editor->commitPending();
+    m_exportSheet->begin(kind, window);
+}
+
+void MainWindow::openLetter(bool reminder)
+{
+    m_editor->commitPending();
+    m_letterSheet->begin(reminder ? LetterSheet::Mode::Reminder : LetterSheet::Mode::Slip);
+}
+
+void MainWindow::updateOutputCommands()
+{
+    const bool doc = m_app.currentInvoice();
+    for (QAction *action : std::as_const(m_outputActions))
+        action->setEnabled(doc);
+}
+
+void MainWindow::newDocument(bool invoice)
+{
+    if (invoice ? m_app.addInvoice() : m_app.addQuote())
+        m_editor->beginNewDocument();
+}
+
+void MainWindow::selectNewestDocument()
+{
+    // Opening on the latest document shows where the person left off.
+    const auto &shown = m_app.documentList().arranged();
+    if (!m_app.currentInvoice() && !shown.isEmpty())
+        m_app.setCurrentInvoice(shown.first());
+}
+
+void MainWindow::createToolBar()
+{
+    QToolBar *bar = addToolBar(tr("Documents"));
+    bar->setObjectName(QStringLiteral("mainToolBar"));
+    bar->setMovable(false);
+    bar->setFloatable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar->setIconSize(QSize(22, 22));
+    bar->addAction(m_newInvoice);
+    bar->addAction(m_newQuote);
+    bar->addAction(m_actions->duplicate());
+    bar->addAction(m_actions->convert());
+    bar->addAction(m_actions->remove());
+    bar->addSeparator();
+    bar->addAction(m_actions->addItem());
+    bar->addAction(m_actions->deleteItem());
+    bar->addSeparator();
+    bar->addActions({ m_previewAction, m_printAction, m_savePdfAction, m_emailAction });
+    auto *spacer = new QWidget(bar);
+    spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(spacer);
+    m_filterButton = new FilterButton(m_app, bar);
+    m_filterButton->setIconSize(bar->iconSize());
+    bar->addWidget(m_filterButton);
+}
+
+void MainWindow::updateCommands()
+{
+    // Without a store there is nothing to write into; quitting still works.
+    const bool store = m_app.hasStore();
+    m_newInvoice->setEnabled(store);
+    m_newQuote->setEnabled(store);
+    m_filterButton->setEnabled(store);
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_app.syncWithStore();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_quitDecided) {
+        m_editor->commitPending();
+        if (m_app.applicationShouldTerminate() == AppController::TerminateReply::Cancel) {
+            event->ignore();
+            return;
+        }
+        m_app.applicationWillTerminate();
+        m_quitDecided = true;
+    }
+    event->accept();
+}
+
+void MainWindow::terminateNow()
+{
+    m_quitDecided = true;
+    close();
+}
+
+} // namespace tabo

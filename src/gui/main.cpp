@@ -1,0 +1,94 @@
+#include "gui/FirstStartAssistant.h"
+#include "gui/GuiInteraction.h"
+#include "gui/MainWindow.h"
+#include "gui/PreviewWindow.h"
+#include "app/AppController.h"
+#include "app/OutputCommands.h"
+#include "prefs/Preferences.h"
+#include "render/PdfEngine.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLoggingCategory>
+#include <QTimer>
+
+using namespace tabo;
+
+int main(int argc, char **argv)
+{
+    // The web engine's flags only count before the application object exists.
+    // The web engine reports its graphics set-up at every start; QT_LOGGING_RULES
+    // still turns it back on.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.info=false"));
+    PdfEngine::prepareApplication();
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tabo"));
+    QApplication::setOrganizationName(QString());
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Invoices and quotes for freelancers and small businesses."));
+    parser.addHelpOption();
+    // Grabs the window once it has started and quits: for documentation.
+    QCommandLineOption screenshot(QStringLiteral("screenshot"), QString(), QStringLiteral("file"));
+    screenshot.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(screenshot);
+    // The same for the preview of the newest document, once its PDF is shown.
+    QCommandLineOption screenshotPreview(QStringLiteral("screenshot-preview"), QString(), QStringLiteral("file"));
+    screenshotPreview.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(screenshotPreview);
+    parser.addPositionalArgument(
+        QStringLiteral("files"), QStringLiteral("Refused: open documents from the File menu."));
+    parser.process(application);
+
+    Preferences prefs;
+    GuiInteraction ui;
+    AppController controller(prefs, ui);
+    QObject::connect(
+        &controller, &AppController::terminateRequested, &application, &QCoreApplication::quit, Qt::QueuedConnection);
+
+    // The order matters: building the window opens the store before the
+    // start-up steps mark the installation as started once.
+    MainWindow window(controller);
+    ui.setParentWidget(&window);
+    controller.awakeFromNib();
+    window.show();
+    controller.applicationDidFinishLaunching();
+    const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview);
+    if (controller.needsFirstStartAssistant() && !grabbing) {
+        QTimer::singleShot(350, &window, [&window, &controller] {
+            FirstStartAssistant assistant(controller, &window);
+            assistant.exec();
+        });
+    }
+
+    const QStringList files = parser.positionalArguments();
+    for (const QString &file : files)
+        QTimer::singleShot(0, &controller, [&controller, file] { controller.applicationOpenFile(file); });
+
+    if (parser.isSet(screenshot)) {
+        const QString target = parser.value(screenshot);
+        QTimer::singleShot(400, &window, [&window, target] {
+            if (!window.grab().save(target))
+                qWarning("Could not write the screenshot to %s", qPrintable(target));
+            window.close();
+        });
+    }
+    if (parser.isSet(screenshotPreview)) {
+        const QString target = parser.value(screenshotPreview);
+        PreviewWindow *preview = window.previewWindow();
+        auto grab = [preview, &window, target] {
+            // Time for the view to lay out and paint the page.
+            QTimer::singleShot(600, preview, [preview, &window, target] {
+                if (!preview->grab().save(target))
+                    qWarning("Could not write the screenshot to %s", qPrintable(target));
+                window.close();
+            });
+        };
+        QObject::connect(&controller.outputs(), &OutputCommands::previewReady, preview, grab, Qt::QueuedConnection);
+        QTimer::singleShot(400, &window, [preview, grab] {
+            if (!preview->showPreview())
+                grab();
+        });
+    }
+    return application.exec();
+}

@@ -1,0 +1,47 @@
+# Fails when a source file includes from a layer above its own.
+# cmake -DROOT=<src folder> -P layers.cmake
+#
+# Each folder of src/ has a rank; a file may include from its own folder and
+# from folders of a lower rank. The two programs share a rank, so neither
+# includes the other; the design generator sits beside the core's lowest
+# folder and may use the model only.
+set(rank_base 0)
+set(rank_prefs 1)
+set(rank_domain 2)
+set(rank_store 3)
+set(rank_render 4)
+set(rank_designs 4)
+set(rank_app 5)
+set(rank_cli 6)
+set(rank_gui 6)
+
+if(NOT ROOT)
+  message(FATAL_ERROR "Usage: cmake -DROOT=<src folder> -P layers.cmake")
+endif()
+get_filename_component(ROOT "${ROOT}" ABSOLUTE BASE_DIR "$ENV{PWD}")
+file(GLOB_RECURSE files RELATIVE ${ROOT} ${ROOT}/*.h ${ROOT}/*.cpp)
+set(problems 0)
+foreach(file ${files})
+  string(REGEX MATCH "^[^/]+" folder "${file}")
+  if(NOT DEFINED rank_${folder})
+    message(NOTICE "${file}: the folder “${folder}” has no layer; give it one in tests/layers.cmake")
+    math(EXPR problems "${problems} + 1")
+    continue()
+  endif()
+  file(STRINGS ${ROOT}/${file} includes REGEX "^[ \t]*#[ \t]*include[ \t]*\"[A-Za-z_]+/")
+  foreach(line ${includes})
+    string(REGEX REPLACE "^[ \t]*#[ \t]*include[ \t]*\"([A-Za-z_]+)/.*" "\\1" target "${line}")
+    if(target STREQUAL folder OR NOT DEFINED rank_${target})
+      continue()
+    endif()
+    if(NOT rank_${target} LESS rank_${folder})
+      message(NOTICE "${file} includes “${target}/”, a layer above or beside its own (${folder})")
+      math(EXPR problems "${problems} + 1")
+    endif()
+  endforeach()
+endforeach()
+list(LENGTH files count)
+if(problems GREATER 0)
+  message(FATAL_ERROR "${problems} include(s) against the layers, in ${count} files")
+endif()
+message(STATUS "${count} files, every include points down")

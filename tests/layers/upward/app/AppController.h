@@ -1,0 +1,2 @@
+// Stands for the controller in the layer check's own test.
+#include "domain/Record.h"
