@@ -125,6 +125,29 @@ private Q_SLOTS:
         QVERIFY(!f.out.isBusy());
     }
 
+    // A batch renders each document it is given; the window's document
+    // stays, and nothing tells the views that it changed.
+    void batchLeavesTheCurrentDocument()
+    {
+        if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+            QSKIP("pdftotext (poppler-utils) is missing");
+        Fixture f;
+        Record *other = f.app.addInvoice();
+        other->setText(Invoice::customerName, QStringLiteral("Hans Beispiel"));
+        f.app.setCurrentInvoice(f.doc);
+        QSignalSpy current(&f.app, &AppController::currentInvoiceChanged);
+        QTemporaryDir dir;
+        const QStringList paths{dir.filePath(QStringLiteral("a.pdf")), dir.filePath(QStringLiteral("b.pdf"))};
+        QVERIFY(f.out.renderDocumentsToFiles({f.doc, other}, paths).isEmpty());
+        QCOMPARE(f.app.currentInvoice(), f.doc);
+        QCOMPARE(current.size(), 0);
+        QVERIFY(pdfText(paths[0]).contains(QStringLiteral("Erika Muster")));
+        QVERIFY(pdfText(paths[1]).contains(QStringLiteral("Hans Beispiel")));
+        QVERIFY(!pdfText(paths[1]).contains(QStringLiteral("Erika Muster")));
+        QVERIFY(f.out.invoiceHTMLString(*other).contains(QStringLiteral("Hans Beispiel")));
+        QCOMPARE(f.app.currentInvoice(), f.doc);
+    }
+
     void previewAndLetters()
     {
         if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())

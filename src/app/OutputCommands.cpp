@@ -69,20 +69,19 @@ const Record *OutputCommands::renderDesign() const
     return m_designOverride ? m_designOverride : m_app.designs().currentDesign();
 }
 
-QString OutputCommands::invoiceHTMLString() const
+QString OutputCommands::invoiceHTMLString(const Record &document) const
 {
-    const Record *invoice = m_app.currentInvoice();
-    if (!invoice)
-        return PageRenderer::failureText();
-    return m_renderer->invoiceHTMLString(renderDesign(), *invoice, m_app.items().sortedItems(*invoice), m_mode);
+    return invoiceHTMLString(document, renderDesign());
 }
 
-QString OutputCommands::itemsList() const
+QString OutputCommands::invoiceHTMLString(const Record &document, const Record *design) const
 {
-    const Record *invoice = m_app.currentInvoice();
-    if (!invoice)
-        return QString();
-    return m_renderer->itemsList(renderDesign(), *invoice, m_app.items().sortedItems(*invoice));
+    return m_renderer->invoiceHTMLString(design, document, m_app.items().sortedItems(document), m_mode);
+}
+
+QString OutputCommands::itemsList(const Record &document) const
+{
+    return m_renderer->itemsList(renderDesign(), document, m_app.items().sortedItems(document));
 }
 
 QString OutputCommands::jobTitle(const Record &invoice) const
@@ -299,11 +298,9 @@ void OutputCommands::selectDesign(int index)
     renderInto(Target::DesignChoice, designs.at(index));
 }
 
-bool OutputCommands::renderCurrentToFile(const QString &path)
+bool OutputCommands::renderDocumentToFile(const Record &document, const QString &path)
 {
-    if (!m_app.currentInvoice())
-        return false;
-    return renderHtmlToFile(invoiceHTMLString(), path);
+    return renderHtmlToFile(invoiceHTMLString(document), path);
 }
 
 bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path)
@@ -321,7 +318,6 @@ QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &docume
     if (!canRender())
         return paths;
     const PageSetup setup = PageSetup::fromPreferences(m_app.prefs());
-    Record *const previous = m_app.currentInvoice();
     QStringList failed;
     QEventLoop loop;
     qsizetype next = 0;
@@ -331,8 +327,7 @@ QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &docume
     std::function<void()> feed = [&] {
         while (inFlight < 4 && next < documents.size()) {
             const qsizetype i = next++;
-            m_app.setCurrentInvoice(documents.at(i));
-            const QString html = invoiceHTMLString();
+            const QString html = invoiceHTMLString(*documents.at(i));
             ++inFlight;
             engine().render(html, setup, paths.at(i), [&, i](bool ok) {
                 --inFlight;
@@ -349,7 +344,6 @@ QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &docume
     feed();
     if (inFlight > 0)
         loop.exec(QEventLoop::ExcludeUserInputEvents);
-    m_app.setCurrentInvoice(previous);
     setBusy(-1);
     return failed;
 }
@@ -377,8 +371,7 @@ void OutputCommands::renderInto(Target target, const Record *design)
         failureAlert(target);
         return;
     }
-    const QString html =
-        m_renderer->invoiceHTMLString(design, *invoice, m_app.items().sortedItems(*invoice), m_mode);
+    const QString html = invoiceHTMLString(*invoice, design);
     const QString path = m_app.pdfPath();
     setBusy(+1);
     engine().render(html, PageSetup::fromPreferences(m_app.prefs()), path,

@@ -28,10 +28,13 @@ public:
     explicit OutputCommands(AppController &app);
     ~OutputCommands() override;
 
-    // The page of the current invoice through the current design, in the
-    // current letter mode.
-    QString invoiceHTMLString() const;
-    QString itemsList() const;
+    // The page of `document` through the design pages are rendered with (or
+    // `design`), in the current letter mode. Rendering never changes the
+    // current document: a batch or another process's document is rendered
+    // while the window shows its own.
+    QString invoiceHTMLString(const Record &document) const;
+    QString invoiceHTMLString(const Record &document, const Record *design) const;
+    QString itemsList(const Record &document) const;
     // "%@ | %@ | %@": company name, document title, document number.
     QString jobTitle(const Record &invoice) const;
     const Formatters &formatters() const { return *m_formatters; }
@@ -82,8 +85,8 @@ public:
     // then re-arranges the list and recalculates.
     void markInvoiceAsSent(Record *document);
 
-    // Renders the current page into `path` and waits (command line).
-    bool renderCurrentToFile(const QString &path);
+    // Renders the page of `document` into `path` and waits (command line).
+    bool renderDocumentToFile(const Record &document, const QString &path);
     // Renders any page into `path` and waits (the design preview of the
     // command line).
     bool renderHtmlToFile(const QString &html, const QString &path);

@@ -119,9 +119,9 @@ int RenderCommand::execute(const QStringList &args)
 
 int RenderCommand::writeHtml(Record *document, const QString &path)
 {
-    m_session.controller().setCurrentInvoice(document);
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(m_session.controller().outputs().invoiceHTMLString().toUtf8()) < 0
+    if (!file.open(QIODevice::WriteOnly)
+        || file.write(m_session.controller().outputs().invoiceHTMLString(*document).toUtf8()) < 0
         || !file.commit())
         return failure(QStringLiteral("“%1” could not be written: %2").arg(path, file.errorString()));
     return kExitOk;
@@ -129,8 +129,7 @@ int RenderCommand::writeHtml(Record *document, const QString &path)
 
 int RenderCommand::writePdf(Record *document, const QString &path)
 {
-    m_session.controller().setCurrentInvoice(document);
-    if (!m_session.controller().outputs().renderCurrentToFile(path))
+    if (!m_session.controller().outputs().renderDocumentToFile(*document, path))
         return failure(QStringLiteral("The PDF file “%1” could not be created.").arg(path));
     return kExitOk;
 }
