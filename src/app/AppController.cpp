@@ -602,6 +602,14 @@ void AppController::documentChanged(Record *document)
     saveContext();
 }
 
+void AppController::setDocumentValue(Record *document, int attr, const QVariant &value)
+{
+    if (!document || document->value(attr) == value)
+        return;
+    document->setValue(attr, value);
+    documentChanged(document);
+}
+
 void AppController::documentRemoved(Record *document)
 {
     m_list.remove(document);

@@ -144,10 +144,12 @@ public:
     // Closes the store without reopening (the file can then be replaced).
     Error closeStore();
 
-    // The change observer: after any edit of a document (the editor sets
-    // attributes directly), recalculate it, run the summary pass, keep the
-    // list in date order, save, and tell the views.
+    // The change observer: after any edit of a document, recalculate it, run
+    // the summary pass, keep the list in date order, save, and tell the views.
     void documentChanged(Record *document);
+    // The editor's way to change a document: one attribute, then the change
+    // observer; nothing happens when the value is already there.
+    void setDocumentValue(Record *document, int attr, const QVariant &value);
     // The document's number depends on the other documents: it is computed
     // again inside the save that writes it when another program added
     // documents meanwhile. `countsItself` for a converted quote, which is in

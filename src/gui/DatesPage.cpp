@@ -95,11 +95,7 @@ void DatesPage::commitPending()
 
 void DatesPage::statusChosen(int status)
 {
-    Record *doc = m_binder->document();
-    if (!doc || doc->integer(Invoice::status) == status)
-        return;
-    doc->setValue(Invoice::status, status);
-    m_app.documentChanged(doc);
+    m_app.setDocumentValue(m_binder->document(), Invoice::status, status);
 }
 
 } // namespace tabo

@@ -223,10 +223,7 @@ void FieldBinder::commit(const Binding &b)
         value = static_cast<QCheckBox *>(b.widget)->isChecked();
         break;
     }
-    if (m_doc->value(b.attr) == value)
-        return;
-    m_doc->setValue(b.attr, value);
-    m_app.documentChanged(m_doc);
+    m_app.setDocumentValue(m_doc, b.attr, value);
 }
 
 } // namespace tabo
