@@ -366,7 +366,7 @@ void TestPropertyList::truncatedAndRandomInputIsRejected()
 
 void TestPropertyList::regressionInputs()
 {
-    QDirIterator it(test::sourceDir() + "/tests/plist/regressions", QDir::Files);
+    QDirIterator it(test::sourceDir() + "/tests/plist/regressions", {"*.bin", "*.xml"}, QDir::Files);
     int count = 0;
     while (it.hasNext()) {
         QFile file(it.next());
@@ -379,8 +379,7 @@ void TestPropertyList::regressionInputs()
         QVERIFY2(archived.isValid() || !archiveError.isEmpty(), qPrintable(it.fileName()));
         ++count;
     }
-    if (count == 0)
-        QSKIP("no regression inputs");
+    QVERIFY2(count > 0, "tests/plist/regressions holds no inputs");
 }
 
 void TestPropertyList::filesAreWrittenAtomically()
