@@ -39,7 +39,7 @@ QString resourceTitle(const QString &name)
     QFile f(QStringLiteral(":/designs/%1.design").arg(name));
     if (!f.open(QIODevice::ReadOnly))
         return {};
-    return readDesignFile(f.readAll(), nullptr).value(QStringLiteral("title")).toString();
+    return readDesignFile(f.readAll()).value().value(QStringLiteral("title")).toString();
 }
 
 QList<Record *> byCreation(QList<Record *> list)

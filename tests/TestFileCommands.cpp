@@ -217,13 +217,13 @@ void TestFileCommands::designFile()
     design->setText(Design::css, QStringLiteral("body { margin: 0 }"));
     design->setBool(Design::isDefault, true);
 
-    QString error;
-    QVariantMap read = readDesignFile(designFileData(*design), &error);
-    QVERIFY2(error.isEmpty(), qPrintable(error));
-    QCOMPARE(read, OD::toDictionary(*design));
+    const Result<QVariantMap> read = readDesignFile(designFileData(*design));
+    QVERIFY2(read.ok(), qPrintable(read.error().message()));
+    QCOMPARE(read.value(), OD::toDictionary(*design));
 
-    QVERIFY(readDesignFile("not an archive", &error).isEmpty());
-    QVERIFY(!error.isEmpty());
+    const Result<QVariantMap> refused = readDesignFile("not an archive");
+    QVERIFY(refused.value().isEmpty());
+    QVERIFY(!refused.error().message().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestFileCommands)

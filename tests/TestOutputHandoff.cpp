@@ -65,29 +65,26 @@ private Q_SLOTS:
     {
         PrintRequest request;
         request.jobTitle = QStringLiteral("ACME | Website | 2024-17");
-        QString error;
-
         install(QStringLiteral("lp"), 0);
-        QVERIFY(PrintSystem::printFile(QStringLiteral("/tmp/Invoice.pdf"), request, &error));
+        QVERIFY(!PrintSystem::printFile(QStringLiteral("/tmp/Invoice.pdf"), request));
         QCOMPARE(recorded(), (QStringList{QStringLiteral("-t"), request.jobTitle, QStringLiteral("/tmp/Invoice.pdf")}));
 
         request.printer = QStringLiteral("Office");
         request.copies = 3;
         request.options = QStringList{QStringLiteral("media=A4"), QStringLiteral("sides=two-sided-long-edge")};
-        QVERIFY(PrintSystem::printFile(QStringLiteral("/tmp/Invoice.pdf"), request, &error));
+        QVERIFY(!PrintSystem::printFile(QStringLiteral("/tmp/Invoice.pdf"), request));
         QCOMPARE(recorded(), (QStringList{QStringLiteral("-d"), QStringLiteral("Office"), QStringLiteral("-t"),
                                           request.jobTitle, QStringLiteral("-n"), QStringLiteral("3"),
                                           QStringLiteral("-o"), QStringLiteral("media=A4"), QStringLiteral("-o"),
                                           QStringLiteral("sides=two-sided-long-edge"), QStringLiteral("/tmp/Invoice.pdf")}));
 
         install(QStringLiteral("lp"), 1);
-        QVERIFY(!PrintSystem::printFile(QStringLiteral("/tmp/Invoice.pdf"), request, &error));
-        QVERIFY2(error.contains(QStringLiteral("refused: no such queue")), qPrintable(error));
+        Error error = PrintSystem::printFile(QStringLiteral("/tmp/Invoice.pdf"), request);
+        QVERIFY2(error.message().contains(QStringLiteral("refused: no such queue")), qPrintable(error.message()));
 
         QFile::remove(m_bin.filePath(QStringLiteral("lp")));
-        error.clear();
-        QVERIFY(!PrintSystem::printFile(QStringLiteral("/tmp/Invoice.pdf"), request, &error));
-        QVERIFY2(error.contains(QStringLiteral("\"lp\"")), qPrintable(error));
+        error = PrintSystem::printFile(QStringLiteral("/tmp/Invoice.pdf"), request);
+        QVERIFY2(error.message().contains(QStringLiteral("\"lp\"")), qPrintable(error.message()));
     }
 
     void mail()

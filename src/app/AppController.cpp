@@ -398,10 +398,9 @@ bool AppController::customPathChanged()
         return fail(Error{Error::kAppDomain, 4, QStringLiteral("The folder “%1” does not exist.").arg(folder), {}});
     // The target holds the old file or the complete copy at every moment,
     // never a half-written one.
-    QString reason;
-    if (!StoreFile::writeCopy(*m_store, target, &reason))
+    if (const Error e = StoreFile::writeCopy(*m_store, target))
         return fail(Error{Error::kAppDomain, 5, QStringLiteral("The database could not be moved to “%1”.").arg(folder),
-                          reason});
+                          e.message()});
     QFile::setPermissions(target, QFileInfo(m_storeURL).permissions());
     m_prefs.sync();
     StoreFile::endMove();

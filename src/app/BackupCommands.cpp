@@ -133,19 +133,17 @@ bool restoreRecords(AppController &app, EntityId entity, const QString &path, co
 // other process that has the store open (the window, tabo-cli), and nobody
 // keeps working on a file that was renamed away. Only a store that cannot be
 // opened (damaged, empty), which nobody can be working on, is replaced as a file.
-bool swapIn(AppController &app, StoreFile &copy, QString *reason)
+Error swapIn(AppController &app, StoreFile &copy)
 {
     Store *store = app.hasStore() ? app.managedObjectContext() : nullptr;
     if (store && !store->isDamaged()) {
         StoreFile::pauseForTest();
-        if (const Error e = store->replaceContentFrom(copy.path())) {
-            *reason = e.message();
-            return false;
-        }
+        if (Error e = store->replaceContentFrom(copy.path()))
+            return e;
         app.reopenStore();
-        return true;
+        return {};
     }
-    return copy.swapIn([&app] { app.closeStore(); }, [&app] { return app.reopenStore(); }, reason);
+    return copy.swapIn([&app] { app.closeStore(); }, [&app] { return app.reopenStore(); });
 }
 
 } // namespace
@@ -179,7 +177,11 @@ bool BackupCommands::writeCompleteBackup(const QString &chosenPath, QString *err
     }
     const QFileInfo chosen(chosenPath);
     const QString target = chosen.absolutePath() + QLatin1Char('/') + chosen.completeBaseName() + QStringLiteral(".tabo2db");
-    return StoreFile::writeCopy(*store, target, error);
+    if (const Error e = StoreFile::writeCopy(*store, target)) {
+        *error = e.message();
+        return false;
+    }
+    return true;
 }
 
 bool BackupCommands::restoreCompleteTaboData()
@@ -215,15 +217,14 @@ bool BackupCommands::restoreCompleteBackup(const QString &backupPath, QString *e
     };
 
     StoreFile copy(storePath);
-    QString reason;
     if (copy.path().isEmpty())
         return fail(QStringLiteral("The file “%1” could not be restored. No working copy could be made beside the "
                                    "database.").arg(name));
-    if (!copy.copyFrom(backupPath, &reason))
-        return fail(QStringLiteral("The file “%1” could not be restored. %2").arg(name, reason));
-    if (!copy.isUsable(&reason))
+    if (const Error e = copy.copyFrom(backupPath))
+        return fail(QStringLiteral("The file “%1” could not be restored. %2").arg(name, e.message()));
+    if (const Error e = copy.check())
         return fail(QStringLiteral("The file “%1” is not a Tabo database backup. %2")
-                        .arg(name, reason.replace(copy.path(), backupPath)));
+                        .arg(name, e.message().replace(copy.path(), backupPath)));
     StoreFile::pauseForTest();
     if (m_app.hasStore()) {
         if (const Error e = m_app.saveContext()) {
@@ -231,9 +232,9 @@ bool BackupCommands::restoreCompleteBackup(const QString &backupPath, QString *e
             return false;
         }
     }
-    if (!swapIn(m_app, copy, &reason))
+    if (const Error e = swapIn(m_app, copy))
         return fail(QStringLiteral("The database could not be restored from “%1”. %2 Your previous data are still in "
-                                   "place.").arg(name, reason));
+                                   "place.").arg(name, e.message()));
     return true;
 }
 
@@ -391,15 +392,18 @@ bool BackupCommands::restoreAutomaticallyFromSandbox()
 
     m_app.managedObjectContext();
     StoreFile copy(storePath);
-    QString reason;
-    if (copy.path().isEmpty() || !copy.copyFrom(source, &reason))
-        return fail(QStringLiteral("Failed to create writable database file with message '%1'.").arg(reason), {});
-    if (!copy.isUsable(&reason))
-        return fail(QStringLiteral("The database “%1” cannot be used.").arg(source), reason.replace(copy.path(), source));
+    const Error copied = copy.path().isEmpty()
+                             ? Error::file(QStringLiteral("No working copy could be made beside the database."))
+                             : copy.copyFrom(source);
+    if (copied)
+        return fail(QStringLiteral("Failed to create writable database file with message '%1'.").arg(copied.message()), {});
+    if (const Error e = copy.check())
+        return fail(QStringLiteral("The database “%1” cannot be used.").arg(source),
+                    e.message().replace(copy.path(), source));
     if (m_app.hasStore() && m_app.saveContext())
         return fail({}, {}); // the save error has been presented
-    if (!swapIn(m_app, copy, &reason))
-        return fail(QStringLiteral("The database “%1” could not be replaced.").arg(storePath), reason);
+    if (const Error e = swapIn(m_app, copy))
+        return fail(QStringLiteral("The database “%1” could not be replaced.").arg(storePath), e.message());
     return true;
 }
 

@@ -90,13 +90,12 @@ Record *DesignLibrary::createDesignFromResource(const QString &name)
     Store *store = m_app.managedObjectContext();
     if (!store)
         return nullptr;
-    QString reason;
-    const QVariantMap dictionary = readDesignFile(readResource(name + QLatin1Char('.') + kExtension), &reason);
-    if (dictionary.isEmpty())
-        qWarning("Unable to read the built-in design %s: %s", qPrintable(name), qPrintable(reason));
+    const Result<QVariantMap> dictionary = readDesignFile(readResource(name + QLatin1Char('.') + kExtension));
+    if (!dictionary)
+        qWarning("Unable to read the built-in design %s: %s", qPrintable(name), qPrintable(dictionary.error().message()));
     // A broken resource still gives its (empty) design, which renders the
     // failure text rather than silently falling back to another design.
-    Record *design = dictionary.isEmpty() ? nullptr : OD::createManagedObjectFromDictionary(dictionary, *store);
+    Record *design = dictionary ? OD::createManagedObjectFromDictionary(dictionary.value(), *store) : nullptr;
     return design ? design : store->insert(EntityId::Design);
 }
 
@@ -203,15 +202,14 @@ Record *DesignLibrary::importDesignFile(const QString &path, QString *error)
             *error = file.errorString();
         return nullptr;
     }
-    QString reason;
-    const QVariantMap dictionary = readDesignFile(file.readAll(), &reason);
+    const Result<QVariantMap> dictionary = readDesignFile(file.readAll());
     // Nothing is created from a file that is not a design: an empty design
     // in the list would only puzzle the person.
-    Record *design = dictionary.isEmpty() ? nullptr : OD::createManagedObjectFromDictionary(dictionary, *store);
+    Record *design = dictionary ? OD::createManagedObjectFromDictionary(dictionary.value(), *store) : nullptr;
     if (!design) {
         if (error)
-            *error = reason.isEmpty() ? QStringLiteral("The file is not a Tabo design.")
-                                      : QStringLiteral("The file is not a Tabo design. %1").arg(reason);
+            *error = dictionary ? QStringLiteral("The file is not a Tabo design.")
+                                : QStringLiteral("The file is not a Tabo design. %1").arg(dictionary.error().message());
         return nullptr;
     }
     design->setBool(Design::isDefault, false);

@@ -201,9 +201,13 @@ Record *FileCommands::importInvoiceFile(const QString &path, QString *error)
             *error = QStringLiteral("The file “%1” could not be read: %2").arg(path, file.errorString());
         return nullptr;
     }
-    QVariantMap dictionary = archivedDictionary(file.readAll(), kTaboDic, error);
-    if (dictionary.isEmpty())
+    Result<QVariantMap> archived = archivedDictionary(file.readAll(), kTaboDic);
+    if (!archived) {
+        if (error)
+            *error = archived.error().message();
         return nullptr;
+    }
+    QVariantMap &dictionary = archived.value();
     dictionary.insert(OD::kClassKey, QStringLiteral("Invoice"));
     m_app.syncWithStore();
     Record *invoice = OD::createManagedObjectFromDictionary(dictionary, *store);

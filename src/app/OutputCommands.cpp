@@ -220,10 +220,10 @@ bool OutputCommands::printWorkingPdf(const Record &invoice)
     request.printer = m_printer;
     if (m_app.prefs().integer(P::printBehavior) == 1 && !m_app.ui().printDialog(request))
         return false;
-    QString error;
-    if (PrintSystem::printFile(m_app.pdfPath(), request, &error))
+    const Error error = PrintSystem::printFile(m_app.pdfPath(), request);
+    if (!error)
         return true;
-    m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
+    m_app.ui().alert(QStringLiteral("Error!"), error.message(), {kOK});
     return false;
 }
 

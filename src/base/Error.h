@@ -23,6 +23,10 @@ struct Error
     }
 
     static inline const QString kAppDomain = QStringLiteral("YOUR_ERROR_DOMAIN");
+    // Files Tabo reads and writes itself (stores, copies, design files): the
+    // description says what happened to which file.
+    static inline const QString kFileDomain = QStringLiteral("TaboFile");
+    static Error file(const QString &description) { return Error{kFileDomain, 1, description, {}}; }
 };
 
 } // namespace tabo

@@ -24,18 +24,14 @@ QStringList PrintSystem::lpArguments(const QString &pdfPath, const PrintRequest 
     return args;
 }
 
-bool PrintSystem::printFile(const QString &pdfPath, const PrintRequest &request, QString *error)
+Error PrintSystem::printFile(const QString &pdfPath, const PrintRequest &request)
 {
     QProcess lp;
     lp.setProgram(QStringLiteral("lp"));
     lp.setArguments(lpArguments(pdfPath, request));
     lp.setStandardInputFile(QProcess::nullDevice());
     lp.start();
-    auto fail = [&](const QString &reason) {
-        if (error)
-            *error = reason;
-        return false;
-    };
+    const auto fail = [](const QString &reason) { return Error{kPrintDomain, 1, reason, {}}; };
     if (!lp.waitForStarted())
         return fail(QStringLiteral("The print system could not be reached: the program \"lp\" was not found."));
     if (!lp.waitForFinished(LpTimeoutMs)) {
@@ -50,7 +46,7 @@ bool PrintSystem::printFile(const QString &pdfPath, const PrintRequest &request,
             reason = QStringLiteral("lp ended with code %1").arg(lp.exitCode());
         return fail(QStringLiteral("The document could not be printed: %1").arg(reason));
     }
-    return true;
+    return {};
 }
 
 } // namespace tabo

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "base/Error.h"
+
 #include <QString>
 #include <QStringList>
 
 namespace tabo {
+
+inline const QString kPrintDomain = QStringLiteral("TaboPrint");
 
 // What the print dialog settles: the job goes to `printer` (empty: the
 // system's default) with CUPS options such as "sides=two-sided-long-edge".
@@ -21,8 +25,8 @@ class PrintSystem
 {
 public:
     static QStringList lpArguments(const QString &pdfPath, const PrintRequest &request);
-    // False with a one-line reason when `lp` is missing or refuses the job.
-    static bool printFile(const QString &pdfPath, const PrintRequest &request, QString *error);
+    // Refused with a one-line reason when `lp` is missing or refuses the job.
+    static Error printFile(const QString &pdfPath, const PrintRequest &request);
 };
 
 } // namespace tabo

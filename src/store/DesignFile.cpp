@@ -11,22 +11,16 @@ const QString kDesignDic = QStringLiteral("designDic");
 
 } // namespace
 
-QVariantMap archivedDictionary(const QByteArray &data, const QString &key, QString *error)
+Result<QVariantMap> archivedDictionary(const QByteArray &data, const QString &key)
 {
     QString reason;
     const QVariant root = KeyedArchive::unarchive(data, &reason);
-    if (!root.isValid()) {
-        if (error)
-            *error = QStringLiteral("Not an archive: %1").arg(reason);
-        return {};
-    }
+    if (!root.isValid())
+        return Error::file(QStringLiteral("Not an archive: %1").arg(reason));
     const QVariant value = root.toMap().value(key);
     if (root.metaType() != QMetaType::fromType<QVariantMap>() || value.metaType() != QMetaType::fromType<QVariantMap>()
-        || value.toMap().isEmpty()) {
-        if (error)
-            *error = QStringLiteral("The archive holds no “%1”.").arg(key);
-        return {};
-    }
+        || value.toMap().isEmpty())
+        return Error::file(QStringLiteral("The archive holds no “%1”.").arg(key));
     return value.toMap();
 }
 
@@ -37,11 +31,11 @@ QByteArray designFileData(const Record &design)
     return KeyedArchive::archive(QVariantMap{{kDesignDic, dictionary}});
 }
 
-QVariantMap readDesignFile(const QByteArray &data, QString *error)
+Result<QVariantMap> readDesignFile(const QByteArray &data)
 {
-    QVariantMap dictionary = archivedDictionary(data, kDesignDic, error);
-    if (!dictionary.isEmpty())
-        dictionary.insert(ObjectDictionary::kClassKey, QStringLiteral("Design"));
+    Result<QVariantMap> dictionary = archivedDictionary(data, kDesignDic);
+    if (dictionary)
+        dictionary.value().insert(ObjectDictionary::kClassKey, QStringLiteral("Design"));
     return dictionary;
 }
 

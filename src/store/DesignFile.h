@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVariantMap>
@@ -11,14 +13,13 @@ class Record;
 // The files Tabo writes as keyed archives around one dictionary: designs
 // ("designDic") and exported documents ("taboDic").
 
-// The dictionary under `key` of an archive's root, or an empty map with a
-// reason (not an archive, no such dictionary, an empty one).
-QVariantMap archivedDictionary(const QByteArray &data, const QString &key, QString *error);
+// The dictionary under `key` of an archive's root; refused when the data is
+// not an archive or holds no such (or an empty) dictionary.
+Result<QVariantMap> archivedDictionary(const QByteArray &data, const QString &key);
 
 // A design file: {"designDic": the design's dictionary, "class" "Design"}.
 QByteArray designFileData(const Record &design);
-// The design dictionary of a design file ("class" set to "Design"), or an
-// empty map with a reason.
-QVariantMap readDesignFile(const QByteArray &data, QString *error);
+// The design dictionary of a design file ("class" set to "Design").
+Result<QVariantMap> readDesignFile(const QByteArray &data);
 
 } // namespace tabo

@@ -42,14 +42,14 @@ void syncPath(const QString &path, bool folder)
 }
 
 // rename(2): replaces `to` in one step, so a crash leaves the old or the new file.
-bool renameOver(const QString &from, const QString &to, QString *reason)
+Error renameOver(const QString &from, const QString &to)
 {
     if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0)
-        return true;
-    *reason = QStringLiteral("“%1” could not be renamed to “%2”: %3.")
-                  .arg(from, to, QString::fromLocal8Bit(std::strerror(errno)));
-    qWarning().noquote() << QStringLiteral("Unable to move temporary store: %1").arg(*reason);
-    return false;
+        return {};
+    const Error e = Error::file(QStringLiteral("“%1” could not be renamed to “%2”: %3.")
+                                    .arg(from, to, QString::fromLocal8Bit(std::strerror(errno))));
+    qWarning().noquote() << QStringLiteral("Unable to move temporary store: %1").arg(e.description);
+    return e;
 }
 
 void removeStoreFiles(const QString &path)
@@ -73,17 +73,14 @@ int firstRow(sqlite3 *db, const char *sql, QString *value)
 
 // Whether the file is a complete, undamaged store of ours. The raw checks come
 // first because opening creates the tables in an empty database.
-bool isUsableStore(const QString &path, bool checkIntegrity, QString *reason)
+Error checkStoreFile(const QString &path, bool checkIntegrity)
 {
-    reason->clear();
     const QFileInfo info(path);
     if (!info.isFile()) {
-        *reason = QStringLiteral("It does not exist or is not a file.");
-        return false;
+        return Error::file(QStringLiteral("It does not exist or is not a file."));
     }
     if (info.size() == 0) {
-        *reason = QStringLiteral("It is empty.");
-        return false;
+        return Error::file(QStringLiteral("It is empty."));
     }
     sqlite3 *db = nullptr;
     QString version, tables, check = QStringLiteral("ok");
@@ -97,26 +94,20 @@ bool isUsableStore(const QString &path, bool checkIntegrity, QString *reason)
     const QString message = QString::fromUtf8(sqlite3_errmsg(db));
     sqlite3_close(db);
     if (rc == SQLITE_NOTADB)
-        *reason = QStringLiteral("It is not a database file.");
-    else if (rc != SQLITE_ROW || check != QStringLiteral("ok"))
-        *reason = QStringLiteral("It is damaged or incomplete (%1).").arg(rc == SQLITE_ROW ? check : message);
-    else if (version.toInt() == 0)
-        *reason = tables.toInt() > 0 ? QStringLiteral("It is a database of another program.")
-                                     : QStringLiteral("It holds no Tabo data.");
-    if (!reason->isEmpty())
-        return false;
+        return Error::file(QStringLiteral("It is not a database file."));
+    if (rc != SQLITE_ROW || check != QStringLiteral("ok"))
+        return Error::file(QStringLiteral("It is damaged or incomplete (%1).").arg(rc == SQLITE_ROW ? check : message));
+    if (version.toInt() == 0)
+        return Error::file(tables.toInt() > 0 ? QStringLiteral("It is a database of another program.")
+                                              : QStringLiteral("It holds no Tabo data."));
 
     Store store(path);
-    if (const Error e = store.open()) {
-        *reason = e.message();
-        return false;
-    }
+    if (const Error e = store.open())
+        return Error::file(e.message());
     store.close();
-    if (QFileInfo::exists(path + QStringLiteral("-wal"))) {
-        *reason = QStringLiteral("Its log could not be written back.");
-        return false;
-    }
-    return true;
+    if (QFileInfo::exists(path + QStringLiteral("-wal")))
+        return Error::file(QStringLiteral("Its log could not be written back."));
+    return {};
 }
 
 // Brings the file a restore replaced back to `storePath`. Whatever stands there
@@ -125,12 +116,11 @@ bool isUsableStore(const QString &path, bool checkIntegrity, QString *reason)
 void bringBackPrevious(const QString &storePath, bool keepAside)
 {
     const QString previous = storePath + kPrevious;
-    QString reason;
     if (QFileInfo::exists(storePath)) {
         if (keepAside) {
-            renameOver(storePath, storePath + kDamaged, &reason);
+            renameOver(storePath, storePath + kDamaged);
             if (QFileInfo::exists(storePath + QStringLiteral("-wal")))
-                renameOver(storePath + QStringLiteral("-wal"), storePath + kDamaged + QStringLiteral("-wal"), &reason);
+                renameOver(storePath + QStringLiteral("-wal"), storePath + kDamaged + QStringLiteral("-wal"));
         }
         removeStoreFiles(storePath);
     }
@@ -138,8 +128,8 @@ void bringBackPrevious(const QString &storePath, bool keepAside)
     QFile::remove(storePath + QStringLiteral("-shm"));
     QFile::remove(previous + QStringLiteral("-shm"));
     if (QFileInfo::exists(previous + QStringLiteral("-wal")))
-        renameOver(previous + QStringLiteral("-wal"), storePath + QStringLiteral("-wal"), &reason);
-    renameOver(previous, storePath, &reason);
+        renameOver(previous + QStringLiteral("-wal"), storePath + QStringLiteral("-wal"));
+    renameOver(previous, storePath);
     syncPath(QFileInfo(storePath).absolutePath(), true);
 }
 
@@ -167,41 +157,32 @@ StoreFile::~StoreFile()
         removeStoreFiles(m_path);
 }
 
-bool StoreFile::copyFrom(const QString &source, QString *reason)
+Error StoreFile::copyFrom(const QString &source)
 {
     QFile in(source);
-    if (!in.open(QIODevice::ReadOnly)) {
-        *reason = QStringLiteral("It could not be read: %1.").arg(in.errorString());
-        return false;
-    }
+    if (!in.open(QIODevice::ReadOnly)) 
+        return Error::file(QStringLiteral("It could not be read: %1.").arg(in.errorString()));
     QFile out(m_path);
-    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        *reason = QStringLiteral("“%1” could not be written: %2.").arg(m_path, out.errorString());
-        return false;
-    }
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate)) 
+        return Error::file(QStringLiteral("“%1” could not be written: %2.").arg(m_path, out.errorString()));
     while (!in.atEnd()) {
         const QByteArray chunk = in.read(1 << 20);
-        if (chunk.isEmpty() && in.error() != QFileDevice::NoError) {
-            *reason = QStringLiteral("It could not be read: %1.").arg(in.errorString());
-            return false;
-        }
-        if (out.write(chunk) != chunk.size()) {
-            *reason = QStringLiteral("“%1” could not be written: %2.").arg(m_path, out.errorString());
-            return false;
-        }
+        if (chunk.isEmpty() && in.error() != QFileDevice::NoError) 
+            return Error::file(QStringLiteral("It could not be read: %1.").arg(in.errorString()));
+        if (out.write(chunk) != chunk.size()) 
+            return Error::file(QStringLiteral("“%1” could not be written: %2.").arg(m_path, out.errorString()));
     }
     out.flush();
     ::fsync(out.handle());
-    return true;
+    return {};
 }
 
-bool StoreFile::isUsable(QString *reason) const
+Error StoreFile::check() const
 {
-    return isUsableStore(m_path, true, reason);
+    return checkStoreFile(m_path, true);
 }
 
-bool StoreFile::swapIn(const std::function<void()> &closeStore, const std::function<bool()> &reopenStore,
-                       QString *reason)
+Error StoreFile::swapIn(const std::function<void()> &closeStore, const std::function<bool()> &reopenStore)
 {
     const QString &storePath = m_storePath;
     const QString previous = storePath + kPrevious;
@@ -210,42 +191,44 @@ bool StoreFile::swapIn(const std::function<void()> &closeStore, const std::funct
     closeStore();
     pauseForTest();
     QFile::remove(storePath + QStringLiteral("-shm"));
-    if (QFileInfo::exists(storePath) && !renameOver(storePath, previous, reason)) {
-        reopenStore();
-        return false;
+    if (QFileInfo::exists(storePath)) {
+        if (Error e = renameOver(storePath, previous)) {
+            reopenStore();
+            return e;
+        }
     }
-    if (QFileInfo::exists(storePath + QStringLiteral("-wal"))
-        && !renameOver(storePath + QStringLiteral("-wal"), previous + QStringLiteral("-wal"), reason)) {
-        bringBackPrevious(storePath, false);
-        reopenStore();
-        return false;
+    if (QFileInfo::exists(storePath + QStringLiteral("-wal"))) {
+        if (Error e = renameOver(storePath + QStringLiteral("-wal"), previous + QStringLiteral("-wal"))) {
+            bringBackPrevious(storePath, false);
+            reopenStore();
+            return e;
+        }
     }
     syncPath(folder, true);
     pauseForTest();
     // The restored file keeps the permissions the person gave the store.
     if (QFileInfo::exists(previous))
         QFile::setPermissions(m_path, QFileInfo(previous).permissions());
-    if (!renameOver(m_path, storePath, reason)) {
+    if (Error e = renameOver(m_path, storePath)) {
         bringBackPrevious(storePath, false);
         reopenStore();
-        return false;
+        return e;
     }
     m_kept = true;
     syncPath(folder, true);
     pauseForTest();
     if (!reopenStore()) {
         qWarning().noquote() << QStringLiteral("Unable to add new store: %1").arg(storePath);
-        *reason = QStringLiteral("The restored database could not be opened.");
         closeStore();
         if (QFileInfo::exists(previous))
             bringBackPrevious(storePath, false);
         reopenStore();
-        return false;
+        return Error::file(QStringLiteral("The restored database could not be opened."));
     }
     pauseForTest();
     removeStoreFiles(previous);
     syncPath(folder, true);
-    return true;
+    return {};
 }
 
 void StoreFile::recoverInterruptedRestore(const QString &storePath)
@@ -262,14 +245,15 @@ void StoreFile::recoverInterruptedRestore(const QString &storePath)
         return;
     // A restored file is only ever put in place complete and checked, so
     // opening it is proof enough.
-    QString reason = QStringLiteral("The restored database is missing.");
-    if (info.exists() && isUsableStore(storePath, false, &reason)) {
+    const Error problem = info.exists() ? checkStoreFile(storePath, false)
+                                        : Error::file(QStringLiteral("The restored database is missing."));
+    if (!problem) {
         qInfo().noquote() << QStringLiteral("An interrupted restore of “%1” is complete; removing the previous database.")
                                  .arg(storePath);
         removeStoreFiles(previous);
         return;
     }
-    qWarning().noquote() << QStringLiteral("An interrupted restore of “%1” is undone: %2").arg(storePath, reason);
+    qWarning().noquote() << QStringLiteral("An interrupted restore of “%1” is undone: %2").arg(storePath, problem.description);
     bringBackPrevious(storePath, true);
 }
 
@@ -364,7 +348,6 @@ void StoreFile::finishInterruptedMove(const QString &storePath)
     }
     if (moverAlive)
         return; // the mover puts the copy in place before it syncs the preferences
-    QString reason;
     // Opening would make a new store of a missing or empty file; the source
     // may be open elsewhere, so its log is not asked to be written back.
     if (!QFileInfo(source).isFile() || QFileInfo(source).size() == 0) {
@@ -379,11 +362,11 @@ void StoreFile::finishInterruptedMove(const QString &storePath)
                                     .arg(source, e.message());
         return endMove();
     }
-    if (writeCopy(from, target, &reason))
+    if (const Error e = writeCopy(from, target))
+        qWarning().noquote() << e.description;
+    else
         qInfo().noquote() << QStringLiteral("Finished the interrupted move of the database from “%1” to “%2”.")
                                  .arg(source, target);
-    else
-        qWarning().noquote() << reason;
     from.close();
     endMove();
 }
@@ -399,7 +382,7 @@ void StoreFile::removeInterruptedCopies()
     setPendingCopies({});
 }
 
-bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
+Error StoreFile::writeCopy(Store &store, const QString &target)
 {
     // VACUUM INTO writes a consistent copy, log included, into a file beside
     // the target; synced and renamed, the finished copy appears in one step.
@@ -413,9 +396,10 @@ bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
             tempPath = candidate;
     }
     if (tempPath.isEmpty()) {
-        *error = QStringLiteral("“%1” could not be written: no free name for a working copy beside it.").arg(target);
-        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(*error);
-        return false;
+        const Error e = Error::file(
+            QStringLiteral("“%1” could not be written: no free name for a working copy beside it.").arg(target));
+        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(e.description);
+        return e;
     }
     setPendingCopies(pendingCopies() << tempPath);
     const auto done = [&] {
@@ -430,12 +414,12 @@ bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
     const int rc = sqlite3_step(stmt);
     sqlite3_finalize(stmt);
     if (rc != SQLITE_DONE) {
-        *error = QStringLiteral("“%1” could not be written: %2.")
-                     .arg(target, QString::fromUtf8(sqlite3_errmsg(store.handle())));
-        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(*error);
+        const Error e = Error::file(QStringLiteral("“%1” could not be written: %2.")
+                                        .arg(target, QString::fromUtf8(sqlite3_errmsg(store.handle()))));
+        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(e.description);
         QFile::remove(tempPath);
         done();
-        return false;
+        return e;
     }
     syncPath(tempPath, false);
     pauseForTest();
@@ -444,15 +428,16 @@ bool StoreFile::writeCopy(Store &store, const QString &target, QString *error)
     QFile::remove(target + QStringLiteral("-wal"));
     QFile::remove(target + QStringLiteral("-shm"));
     if (::rename(tempName.constData(), QFile::encodeName(target).constData()) != 0) {
-        *error = QStringLiteral("“%1” could not be written: %2.").arg(target, QString::fromLocal8Bit(std::strerror(errno)));
-        qWarning().noquote() << QStringLiteral("Unable to acopyItemAtURL: %1").arg(*error);
+        const Error e = Error::file(
+            QStringLiteral("“%1” could not be written: %2.").arg(target, QString::fromLocal8Bit(std::strerror(errno))));
+        qWarning().noquote() << QStringLiteral("Unable to acopyItemAtURL: %1").arg(e.description);
         QFile::remove(tempPath);
         done();
-        return false;
+        return e;
     }
     syncPath(QFileInfo(target).absolutePath(), true);
     done();
-    return true;
+    return {};
 }
 
 } // namespace tabo

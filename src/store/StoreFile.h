@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Error.h"
+
 #include <QString>
 
 #include <functional>
@@ -22,14 +24,13 @@ public:
     StoreFile &operator=(const StoreFile &) = delete;
 
     QString path() const { return m_path; }
-    bool copyFrom(const QString &source, QString *reason);
-    // Whether the copy is a complete, undamaged store of ours.
-    bool isUsable(QString *reason) const;
+    Error copyFrom(const QString &source);
+    // Refused unless the copy is a complete, undamaged store of ours.
+    Error check() const;
     // Puts the checked copy in place of the store. The callbacks close and
     // open the store the application uses; on failure the previous store is
     // open again.
-    bool swapIn(const std::function<void()> &closeStore, const std::function<bool()> &reopenStore,
-                QString *reason);
+    Error swapIn(const std::function<void()> &closeStore, const std::function<bool()> &reopenStore);
 
     // Finishes or undoes a restore that was interrupted (a crash, a kill)
     // before the store at `storePath` is opened: the restored file stays when
@@ -38,7 +39,7 @@ public:
     // Writes a consistent single-file copy of the open store to `target`
     // (a file beside it, synced, then renamed: `target` is the old file or
     // the complete copy, whenever the process dies).
-    static bool writeCopy(Store &store, const QString &target, QString *error);
+    static Error writeCopy(Store &store, const QString &target);
     // Removes the unfinished copies of a process that died while writing them.
     static void removeInterruptedCopies();
 
