@@ -48,8 +48,10 @@ public:
     QString storeFilePath() const;
     QString storeURL() const { return m_storeURL; }
 
-    // The store, opened on first use. nullptr when there is none; the reason
-    // has been presented once.
+    // The open store, through which every command reads and changes records.
+    // Opened on first use (the window asks for it as it fills its lists), so
+    // that the first-start assistant and the upgrade prompt come first.
+    // nullptr when there is none; the reason has been presented once.
     Store *managedObjectContext();
     bool hasStore() const { return m_store != nullptr; }
     bool isTerminating() const { return m_terminating; }
@@ -63,7 +65,11 @@ public:
     void syncWithStore();
     void saveAction();
 
-    // Start-up, in this order.
+    // Start-up, in this order. The first runs once the main window exists:
+    // it makes the data folder and settles the working PDF and backup paths,
+    // which the window's first actions rely on. The second marks the session
+    // as running (a crash leaves it so) and applies the one-time settings
+    // updates of earlier versions.
     void awakeFromNib();
     void applicationDidFinishLaunching();
 
@@ -71,8 +77,9 @@ public:
     TerminateReply applicationShouldTerminate();
     void applicationWillTerminate();
 
-    // Moves the store to the folder now named by the preferences. The caller
-    // relaunches when this returns true.
+    // Moves the store to the folder now named by the preferences, which the
+    // caller sets without syncing them: they are written once the copy is in
+    // place. The caller relaunches when this returns true.
     bool customPathChanged();
     // Runs before a store move so that the person has a copy (the complete
     // backup with its save panel); a cancelled backup does not stop the move.
@@ -86,7 +93,7 @@ public:
 
     QString backupPath() const { return m_backupPath; }
     // The working PDF of every rendering and the e-mail attachment, in the
-    // application's data folder (set in awakeFromNib, or on first use).
+    // application's data folder (settled at start-up, or on first use).
     QString pdfPath() const;
     QString pdfEmailPath() const;
     void createBackupPath();

@@ -35,19 +35,19 @@ public:
     // A design made from the built-in design file of that name (not saved).
     Record *createDesignFromResource(const QString &name);
 
-    // `addDesign:` "New Design" from the "Invoice", "Item" and "CSS"
+    // `addDesign` "New Design" from the "Invoice", "Item" and "CSS"
     // resources, not default; saved. The caller starts editing its title.
     Record *addDesign();
-    // `deleteDesign:` after the "Delete Design" confirmation; false when
+    // `deleteDesign` after the "Delete Design" confirmation; false when
     // declined.
     bool deleteDesign(Record *design);
-    // `makeDefaultDesign:` the only default.
+    // `makeDefaultDesign` the only default.
     void makeDefaultDesign(Record *design);
-    // `importDesign:` through the "Import Tabo Design" open panel; nullptr
+    // `importDesign` through the "Import Tabo Design" open panel; nullptr
     // when cancelled or unreadable. Keeps the file's `uniqueID` and `title`.
     Record *importDesign();
     Record *importDesignFile(const QString &path, QString *error);
-    // `exportDesign:` through the "Export Tabo Design" save panel.
+    // `exportDesign` through the "Export Tabo Design" save panel.
     bool exportDesign(const Record *design);
     bool exportDesignFile(const Record *design, const QString &path, QString *error);
 
@@ -55,7 +55,7 @@ public:
     void setSelectedDesignIndex(int index);
     int selectedDesignIndex() const;
 
-    // The text of a resource of `addDesign:` ("Invoice", "Item", "CSS").
+    // The text of a resource of `addDesign` ("Invoice", "Item", "CSS").
     static QString defaultResourceText(const QString &name);
 
 private:

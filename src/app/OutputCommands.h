@@ -48,33 +48,33 @@ public:
     // "Error!" "No design available. …" when there is no design; false then.
     bool checkDesignsAvailable();
 
-    // `showPreview:` / `generatePreview`: clears the letter flags and renders
+    // `showPreview` / `generatePreview`: clears the letter flags and renders
     // the main preview; previewReady follows. False when refused.
     bool showPreview();
     void generatePreview();
 
-    // `openReminderSheet:` / `openSlipSheet:`: the sheet's four fields,
+    // `openReminderSheet` / `openSlipSheet`: the sheet's four fields,
     // filled from the preferences.
     LetterTexts openReminderSheet() const;
     LetterTexts openSlipSheet() const;
-    // `generateReminder:` / `generateSlip:`: the preview in that letter mode.
+    // `generateReminder` / `generateSlip`: the preview in that letter mode.
     void generateReminder(const LetterTexts &texts);
     void generateSlip(const LetterTexts &texts);
 
-    // `printInvoice:` (0), `pdfInvoice:` (1), `emailInvoice:` (2) and the
+    // `printInvoice` (0), `pdfInvoice` (1), `emailInvoice` (2) and the
     // document export (3): sets `exportKind`, renders into the export sheet
     // (`loadExportPDF`); exportReady follows. False when refused.
     bool openExport(int kind);
     int exportKind() const { return m_exportKind; }
     static QString exportSheetTitle(int kind);
     void loadExportPDF();
-    // `exportCommand:`, the export sheet's OK: performs `exportKind`, then
+    // `exportCommand`, the export sheet's OK: performs `exportKind`, then
     // marks an invoice as sent when `markInvoiceAsSent` is on, on every path.
     void exportCommand();
-    // `cancelExport:`
+    // `cancelExport`
     void cancelExport();
 
-    // `selectDesign:`: makes the design at `index` (of the library's list)
+    // `selectDesign`: makes the design at `index` (of the library's list)
     // the stored choice and renders it; designPreviewReady follows.
     void selectDesign(int index);
 

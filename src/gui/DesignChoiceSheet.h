@@ -34,7 +34,7 @@ public:
     void accept() override;
 
 private:
-    // `selectDesign:`
+    // `selectDesign`
     void select(int row);
     // `createTemplatePDF`
     void designPreviewReady(const QString &path);

@@ -29,9 +29,9 @@ public:
     QPushButton *okButton() const { return m_ok; }
     QLabel *titleLabel() const { return m_title; }
 
-    // `exportCommand:` after the sheet has ended.
+    // `exportCommand` after the sheet has ended.
     void accept() override;
-    // `cancelExport:`
+    // `cancelExport`
     void reject() override;
 
 private:

@@ -26,7 +26,7 @@ public:
 
     LetterSheet(AppController &app, PreviewWindow *preview, QWidget *parent = nullptr);
 
-    // `openReminderSheet:` / `openSlipSheet:`: closes an open preview and
+    // `openReminderSheet` / `openSlipSheet`: closes an open preview and
     // shows the sheet filled from the preferences.
     void begin(Mode mode);
     Mode mode() const { return m_mode; }
@@ -38,7 +38,7 @@ public:
     QPlainTextEdit *footerField() const { return m_footer; }
     QPushButton *generateButton() const { return m_generate; }
 
-    // `generateReminder:` / `generateSlip:`
+    // `generateReminder` / `generateSlip`
     void accept() override;
 
 private:

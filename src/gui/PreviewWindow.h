@@ -26,7 +26,7 @@ public:
 
     explicit PreviewWindow(AppController &app, QWidget *parent = nullptr);
 
-    // `showPreview:`: closes an open preview, then shows and renders the
+    // `showPreview`: closes an open preview, then shows and renders the
     // current document anew. False when nothing is rendered.
     bool showPreview();
     // Shows the window waiting for the rendering that `start` begins (the

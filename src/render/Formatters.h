@@ -16,12 +16,14 @@ class Formatters
 public:
     explicit Formatters(const Preferences &prefs, const QLocale &locale = QLocale());
 
-    // `stringFromNumber:`: two decimals, the currency sign of the preferences.
+    // Money: two decimals and the currency sign of the preferences, so that a
+    // page shows amounts the way the person's invoices always have.
     QString stringFromNumber(double value) const;
-    // `decimalStringFromNumber:`: up to three decimals, trailing zeros dropped
-    // (0.05 × 100 prints "5", 7.0000005 prints "7").
+    // Quantities and rates: up to three decimals, trailing zeros dropped, so
+    // that a float's noise never reaches paper (0.05 × 100 prints "5",
+    // 7.0000005 prints "7").
     QString decimalStringFromNumber(double value) const;
-    // `htmlLineBreakStringFromString:`: every "\n" becomes "<br />".
+    // Every "\n" becomes "<br />": multi-line fields keep their lines on a page.
     static QString htmlLineBreakStringFromString(const QString &text);
 
 private:
