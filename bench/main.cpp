@@ -6,10 +6,10 @@
 #include "RenderBench.h"
 #include "StoreGenerator.h"
 
-#include "QuietInteraction.h"
 #include "app/AppController.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
+#include "QuietInteraction.h"
 #include "render/PdfEngine.h"
 #include "store/Store.h"
 

@@ -1,14 +1,14 @@
 #include "CommandSupport.h"
 
 #include "app/AppController.h"
-#include "app/FileCommands.h"
 #include "app/DesignLibrary.h"
-#include "render/SampleDocument.h"
+#include "app/FileCommands.h"
 #include "domain/Calculator.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
-#include "store/Store.h"
+#include "render/SampleDocument.h"
 #include "store/DesignFile.h"
+#include "store/Store.h"
 
 #include <QFile>
 #include <QtTest>

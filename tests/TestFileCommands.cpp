@@ -4,11 +4,11 @@
 #include "app/FileCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
+#include "store/DesignFile.h"
 #include "store/KeyedArchive.h"
 #include "store/ObjectDictionary.h"
 #include "store/PropertyList.h"
 #include "store/Store.h"
-#include "store/DesignFile.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -3,9 +3,9 @@
 
 #include "CommandSupport.h"
 
+#include "app/DesignLibrary.h"
 #include "app/ItemCommands.h"
 #include "app/OutputCommands.h"
-#include "app/DesignLibrary.h"
 #include "domain/Record.h"
 #include "render/Formatters.h"
 #include "render/PdfEngine.h"

@@ -1,5 +1,5 @@
-#include "TestSupport.h"
 #include "prefs/Preferences.h"
+#include "TestSupport.h"
 
 #include <QDateTime>
 #include <QDir>

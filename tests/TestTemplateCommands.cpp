@@ -1,10 +1,10 @@
 #include "CommandSupport.h"
 
 #include "app/AppController.h"
+#include "app/TemplateCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
-#include "app/TemplateCommands.h"
 
 #include <QtTest>
 

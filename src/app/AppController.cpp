@@ -2,12 +2,13 @@
 
 #include "app/AccountingExport.h"
 #include "app/BackupCommands.h"
-#include "app/DocumentCommands.h"
-#include "app/OutputCommands.h"
 #include "app/DesignLibrary.h"
+#include "app/DocumentCommands.h"
 #include "app/FileCommands.h"
 #include "app/Interaction.h"
 #include "app/ItemCommands.h"
+#include "app/OutputCommands.h"
+#include "app/TemplateCommands.h"
 #include "base/Clock.h"
 #include "domain/Numbering.h"
 #include "domain/Record.h"
@@ -16,7 +17,6 @@
 #include "prefs/Preferences.h"
 #include "store/Store.h"
 #include "store/StoreFile.h"
-#include "app/TemplateCommands.h"
 
 #include <QDebug>
 #include <QDir>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Error.h"
 #include "domain/Calculator.h"
 #include "domain/DocumentList.h"
-#include "base/Error.h"
 
 #include <QObject>
 #include <QString>

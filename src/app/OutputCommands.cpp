@@ -1,10 +1,10 @@
 #include "app/OutputCommands.h"
 
 #include "app/AppController.h"
+#include "app/DesignLibrary.h"
 #include "app/FileCommands.h"
 #include "app/Interaction.h"
 #include "app/ItemCommands.h"
-#include "app/DesignLibrary.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "render/Formatters.h"

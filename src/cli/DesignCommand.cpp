@@ -1,14 +1,14 @@
 #include "cli/DesignCommand.h"
 
 #include "app/AppController.h"
+#include "app/DesignLibrary.h"
 #include "app/OutputCommands.h"
 #include "cli/Console.h"
 #include "cli/JsonWriter.h"
 #include "cli/OutputRun.h"
 #include "cli/Session.h"
-#include "app/DesignLibrary.h"
-#include "render/SampleDocument.h"
 #include "domain/Record.h"
+#include "render/SampleDocument.h"
 
 #include <QCommandLineParser>
 

@@ -1,10 +1,10 @@
 #include "cli/OutputRun.h"
 
 #include "app/AppController.h"
+#include "app/DesignLibrary.h"
 #include "app/OutputCommands.h"
 #include "cli/Console.h"
 #include "cli/Session.h"
-#include "app/DesignLibrary.h"
 #include "domain/Record.h"
 
 namespace tabo::cli {

@@ -4,11 +4,11 @@
 #include "render/PageRenderer.h"
 
 #include "app/AppController.h"
+#include "app/DesignLibrary.h"
 #include "app/OutputCommands.h"
 #include "cli/Console.h"
 #include "cli/OutputRun.h"
 #include "cli/Session.h"
-#include "app/DesignLibrary.h"
 #include "domain/Record.h"
 #include "render/PageRenderer.h"
 

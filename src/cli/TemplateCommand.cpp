@@ -1,12 +1,12 @@
 #include "cli/TemplateCommand.h"
 
 #include "app/AppController.h"
+#include "app/TemplateCommands.h"
 #include "cli/Console.h"
 #include "cli/JsonWriter.h"
 #include "cli/Session.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
-#include "app/TemplateCommands.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>

@@ -3,9 +3,9 @@
 #include "base/Clock.h"
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
+#include "domain/RecordOwner.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
-#include "domain/RecordOwner.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,11 +1,11 @@
 #include "gui/AddressPopover.h"
 
-#include "gui/ContactsTab.h"
-#include "gui/PlainTextField.h"
 #include "app/AppController.h"
 #include "app/Interaction.h"
 #include "domain/Contacts.h"
 #include "domain/Record.h"
+#include "gui/ContactsTab.h"
+#include "gui/PlainTextField.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
 

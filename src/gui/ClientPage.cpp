@@ -1,9 +1,9 @@
 #include "gui/ClientPage.h"
 
+#include "domain/Record.h"
 #include "gui/AddressPopover.h"
 #include "gui/FieldBinder.h"
 #include "gui/PlainTextField.h"
-#include "domain/Record.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,10 +1,10 @@
 #include "gui/DesignChoiceSheet.h"
 
-#include "gui/PdfPane.h"
 #include "app/AppController.h"
-#include "app/OutputCommands.h"
 #include "app/DesignLibrary.h"
+#include "app/OutputCommands.h"
 #include "domain/Record.h"
+#include "gui/PdfPane.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

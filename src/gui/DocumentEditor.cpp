@@ -1,12 +1,12 @@
 #include "gui/DocumentEditor.h"
 
+#include "app/AppController.h"
+#include "domain/Record.h"
 #include "gui/ClientPage.h"
 #include "gui/DatesPage.h"
 #include "gui/DocumentHeader.h"
 #include "gui/ItemsPage.h"
 #include "gui/TextsPage.h"
-#include "app/AppController.h"
-#include "domain/Record.h"
 
 #include <QLabel>
 #include <QStackedWidget>

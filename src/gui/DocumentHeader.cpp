@@ -1,8 +1,8 @@
 #include "gui/DocumentHeader.h"
 
+#include "domain/Record.h"
 #include "gui/DocumentTableModel.h"
 #include "gui/Formats.h"
-#include "domain/Record.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "gui/ExportSheet.h"
 
-#include "gui/PdfPane.h"
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
+#include "gui/PdfPane.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

@@ -1,11 +1,11 @@
 #include "gui/FileMenu.h"
 
-#include "gui/AccountingExportSheet.h"
-#include "gui/DocumentEditor.h"
 #include "app/AppController.h"
 #include "app/BackupCommands.h"
 #include "app/FileCommands.h"
 #include "domain/Record.h"
+#include "gui/AccountingExportSheet.h"
+#include "gui/DocumentEditor.h"
 #include "prefs/Preferences.h"
 
 #include <QAction>

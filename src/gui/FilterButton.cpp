@@ -1,8 +1,8 @@
 #include "gui/FilterButton.h"
 
+#include "app/AppController.h"
 #include "gui/FilterPopover.h"
 #include "gui/Icons.h"
-#include "app/AppController.h"
 
 namespace tabo {
 

@@ -1,10 +1,10 @@
 #include "gui/ItemPopover.h"
 
-#include "gui/Formats.h"
-#include "gui/HintLabel.h"
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
+#include "gui/Formats.h"
+#include "gui/HintLabel.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
 

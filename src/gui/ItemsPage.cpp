@@ -1,5 +1,8 @@
 #include "gui/ItemsPage.h"
 
+#include "app/AppController.h"
+#include "app/ItemCommands.h"
+#include "domain/Record.h"
 #include "gui/DiscountPopover.h"
 #include "gui/HintLabel.h"
 #include "gui/ItemPopover.h"
@@ -7,9 +10,6 @@
 #include "gui/ShippingPopover.h"
 #include "gui/TemplatePopover.h"
 #include "gui/TotalsPanel.h"
-#include "app/AppController.h"
-#include "domain/Record.h"
-#include "app/ItemCommands.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

@@ -1,5 +1,8 @@
 #include "gui/MainWindow.h"
 
+#include "app/AppController.h"
+#include "app/OutputCommands.h"
+#include "domain/Record.h"
 #include "gui/DesignChoiceSheet.h"
 #include "gui/DocumentActions.h"
 #include "gui/DocumentEditor.h"
@@ -10,9 +13,6 @@
 #include "gui/LetterSheet.h"
 #include "gui/PreviewWindow.h"
 #include "gui/SummaryBar.h"
-#include "app/AppController.h"
-#include "app/OutputCommands.h"
-#include "domain/Record.h"
 
 #include <QAction>
 #include <QCloseEvent>

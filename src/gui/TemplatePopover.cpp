@@ -1,12 +1,12 @@
 #include "gui/TemplatePopover.h"
 
-#include "gui/HintLabel.h"
-#include "gui/PlainTextField.h"
 #include "app/AppController.h"
 #include "app/Interaction.h"
-#include "domain/Record.h"
-#include "prefs/Preferences.h"
 #include "app/TemplateCommands.h"
+#include "domain/Record.h"
+#include "gui/HintLabel.h"
+#include "gui/PlainTextField.h"
+#include "prefs/Preferences.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

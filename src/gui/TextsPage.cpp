@@ -1,8 +1,8 @@
 #include "gui/TextsPage.h"
 
+#include "domain/Record.h"
 #include "gui/FieldBinder.h"
 #include "gui/PlainTextField.h"
-#include "domain/Record.h"
 
 #include <QGridLayout>
 #include <QLabel>

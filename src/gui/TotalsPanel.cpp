@@ -1,7 +1,7 @@
 #include "gui/TotalsPanel.h"
 
-#include "gui/Formats.h"
 #include "domain/Record.h"
+#include "gui/Formats.h"
 #include "prefs/Preferences.h"
 
 #include <QFrame>

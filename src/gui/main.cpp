@@ -1,9 +1,9 @@
+#include "app/AppController.h"
+#include "app/OutputCommands.h"
 #include "gui/FirstStartAssistant.h"
 #include "gui/GuiInteraction.h"
 #include "gui/MainWindow.h"
 #include "gui/PreviewWindow.h"
-#include "app/AppController.h"
-#include "app/OutputCommands.h"
 #include "prefs/Preferences.h"
 #include "render/PdfEngine.h"
 

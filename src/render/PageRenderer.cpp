@@ -1,8 +1,8 @@
 #include "render/PageRenderer.h"
 
-#include "prefs/Locations.h"
 #include "domain/Numbering.h"
 #include "domain/Record.h"
+#include "prefs/Locations.h"
 #include "prefs/Preferences.h"
 #include "render/Formatters.h"
 #include "render/Placeholders.h"

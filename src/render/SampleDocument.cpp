@@ -1,7 +1,7 @@
 #include "render/SampleDocument.h"
 
-#include "domain/Calculator.h"
 #include "base/Clock.h"
+#include "domain/Calculator.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "store/KeyedArchive.h"

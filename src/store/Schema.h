@@ -1,7 +1,7 @@
 #pragma once
 
-#include "domain/EntityModel.h"
 #include "base/Error.h"
+#include "domain/EntityModel.h"
 
 #include <QString>
 #include <QStringList>

@@ -6,20 +6,20 @@
 #include "gui/DocumentTableModel.h"
 #include "gui/GuiInteraction.h"
 #include "gui/ItemPopover.h"
-#include "gui/ItemTableModel.h"
 #include "gui/ItemsPage.h"
-#include "gui/ShippingPopover.h"
-#include "gui/TemplatePopover.h"
+#include "gui/ItemTableModel.h"
 #include "gui/MainWindow.h"
 #include "gui/PlainTextField.h"
+#include "gui/ShippingPopover.h"
+#include "gui/TemplatePopover.h"
 #include "TestSupport.h"
 #include "WindowFixture.h"
 
 #include "app/AppController.h"
+#include "app/TemplateCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
-#include "app/TemplateCommands.h"
 
 #include <QAction>
 #include <QCheckBox>

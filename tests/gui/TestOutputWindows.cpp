@@ -9,8 +9,8 @@
 #include "WindowFixture.h"
 
 #include "app/AppController.h"
-#include "app/OutputCommands.h"
 #include "app/DesignLibrary.h"
+#include "app/OutputCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "render/PdfEngine.h"

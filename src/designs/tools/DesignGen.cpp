@@ -8,10 +8,10 @@
 // SOURCE_DIR/PreviewItems.json (array of item attributes) → PreviewItems.plist
 // SOURCE_DIR/defaults/* are copied as they are.
 
-#include "store/DesignFile.h"
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
+#include "store/DesignFile.h"
 #include "store/KeyedArchive.h"
 #include "store/ObjectDictionary.h"
 
