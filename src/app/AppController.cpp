@@ -376,21 +376,18 @@ bool AppController::customPathChanged()
     if (!m_store)
         return false;
     const QString target = storeFilePath();
-    if (QFileInfo(target).absoluteFilePath() == QFileInfo(m_storeURL).absoluteFilePath())
+    if (Locations::sameFile(target, m_storeURL))
         return false; // the store is already there: deleting "the target" would delete it
     // Noted before the backup panel gives the event loop a chance to write the
     // preferences that name the target.
     StoreFile::beginMove(m_storeURL, target);
     const auto fail = [this](const Error &e) {
         StoreFile::endMove();
-        if (e)
-            m_ui.presentError(e);
+        m_ui.presentError(e);
         return false;
     };
     if (m_backupBeforeMove)
         m_backupBeforeMove();
-    if (!m_store)
-        return fail({});
     if (const Error e = m_store->save())
         return fail(e);
     const QString folder = QFileInfo(target).absolutePath();

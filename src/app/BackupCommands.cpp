@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "app/Interaction.h"
 #include "domain/Record.h"
+#include "prefs/Locations.h"
 #include "prefs/Preferences.h"
 #include "store/ObjectDictionary.h"
 #include "store/PropertyList.h"
@@ -24,14 +25,6 @@ const QString kWarning = QStringLiteral("Warning!");
 const QString kOK = QStringLiteral("OK");
 const QString kRestore = QStringLiteral("Restore…");
 const QString kCancel = QStringLiteral("Cancel");
-
-bool samePath(const QString &a, const QString &b)
-{
-    const QFileInfo fa(a), fb(b);
-    if (fa.exists() && fb.exists())
-        return fa.canonicalFilePath() == fb.canonicalFilePath();
-    return fa.absoluteFilePath() == fb.absoluteFilePath();
-}
 
 bool writeRecords(AppController &app, EntityId entity, const QString &path, bool saveFirst, QString *error)
 {
@@ -377,7 +370,7 @@ bool BackupCommands::restoreAutomaticallyFromSandbox()
 {
     const QString source = AppController::applicationFilesDirectory() + QStringLiteral("/Tabo.mbdb");
     const QString storePath = m_app.storeFilePath();
-    if (samePath(source, storePath))
+    if (Locations::sameFile(source, storePath))
         return false;
     qInfo().noquote() << QStringLiteral("restoreAutomaticallyFromSandbox '%1'.").arg(storePath);
     const auto fail = [this](const QString &description, const QString &reason) {

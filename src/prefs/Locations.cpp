@@ -1,6 +1,7 @@
 #include "prefs/Locations.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace tabo::Locations {
@@ -25,6 +26,14 @@ QString settingsFile()
 QString automaticBackupFile()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QStringLiteral("/Tabo_Backup.mbdb");
+}
+
+bool sameFile(const QString &a, const QString &b)
+{
+    const QFileInfo fa(a), fb(b);
+    if (fa.exists() && fb.exists())
+        return fa.canonicalFilePath() == fb.canonicalFilePath();
+    return fa.absoluteFilePath() == fb.absoluteFilePath();
 }
 
 } // namespace tabo::Locations

@@ -19,6 +19,10 @@ QString settingsFile();
 // ~/Documents/Tabo_Backup.mbdb: the automatic backup of the store.
 QString automaticBackupFile();
 
+// Whether two paths name the same file: through links when both exist, so
+// that a store is never copied or restored onto itself.
+bool sameFile(const QString &a, const QString &b);
+
 } // namespace Locations
 
 } // namespace tabo

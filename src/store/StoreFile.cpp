@@ -301,11 +301,6 @@ QString movePath()
     return Locations::dataFile(QStringLiteral("store-move"));
 }
 
-bool sameFile(const QString &a, const QString &b)
-{
-    return QFileInfo(a).absoluteFilePath() == QFileInfo(b).absoluteFilePath();
-}
-
 } // namespace
 
 void StoreFile::beginMove(const QString &source, const QString &target)
@@ -339,31 +334,22 @@ void StoreFile::finishInterruptedMove(const QString &storePath)
     const bool moverAlive = pid > 0 && (::kill(pid, 0) == 0 || errno == EPERM);
     if (QFileInfo::exists(target))
         return endMove(); // the copy is in place: it is only ever renamed there whole
-    if (!sameFile(storePath, target)) {
-        // The preferences never came to name the target; a live mover may
-        // still be copying.
-        if (!moverAlive)
-            endMove();
-        return;
-    }
+    // A live mover is still copying; it syncs the preferences only after.
     if (moverAlive)
-        return; // the mover puts the copy in place before it syncs the preferences
+        return;
+    if (!Locations::sameFile(storePath, target))
+        return endMove(); // the preferences never came to name the target
     // Opening would make a new store of a missing or empty file; the source
     // may be open elsewhere, so its log is not asked to be written back.
-    if (!QFileInfo(source).isFile() || QFileInfo(source).size() == 0) {
-        qWarning().noquote() << QStringLiteral("The interrupted move of the database from “%1” cannot be finished: "
-                                               "it is missing or empty.")
-                                    .arg(source);
-        return endMove();
-    }
     Store from(source);
-    if (const Error e = from.open()) {
+    Error e = !QFileInfo(source).isFile() || QFileInfo(source).size() == 0
+                  ? Error::file(QStringLiteral("It is missing or empty."))
+                  : from.open();
+    if (!e)
+        e = writeCopy(from, target);
+    if (e)
         qWarning().noquote() << QStringLiteral("The interrupted move of the database from “%1” cannot be finished: %2")
                                     .arg(source, e.message());
-        return endMove();
-    }
-    if (const Error e = writeCopy(from, target))
-        qWarning().noquote() << e.description;
     else
         qInfo().noquote() << QStringLiteral("Finished the interrupted move of the database from “%1” to “%2”.")
                                  .arg(source, target);
