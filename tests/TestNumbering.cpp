@@ -103,11 +103,19 @@ void TestNumbering::dateInLocale()
     QFETCH(QByteArray, locale);
     QFETCH(QString, pattern);
     QFETCH(QString, expected);
-    setIcuDefaults(locale.constData(), "UTC");
+    // The documents' region names the months, whatever the desktop's locale.
+    setIcuDefaults("ja_JP", "UTC");
     test::TempHome home;
     Preferences prefs(home.path() + QStringLiteral("/prefs.conf"));
     prefs.setString(Preferences::prefsDatePattern, pattern);
+    prefs.setString(Preferences::prefsRegion, QString::fromLatin1(locale));
     QCOMPARE(Numbering::getPatternDateStringFromDate(prefs, test::utc(2026, 3, 5)), expected);
+
+    // A store from before the region: the installed language decides.
+    prefs.remove(Preferences::prefsRegion);
+    prefs.setInteger(Preferences::languageDefaults, 2);
+    prefs.setString(Preferences::prefsDatePattern, QStringLiteral("%MONTHLONG%"));
+    QCOMPARE(Numbering::getPatternDateStringFromDate(prefs, test::utc(2026, 3, 5)), QStringLiteral("mars"));
 }
 
 void TestNumbering::dateFollowsZone()

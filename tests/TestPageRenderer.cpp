@@ -67,6 +67,7 @@ private Q_SLOTS:
     void logo();
     void hostileValuesEnd();
     void fillingMatchesPlainReplace();
+    void typedTextAndRegion();
 };
 
 void TestPageRenderer::formatters()
@@ -292,3 +293,29 @@ void TestPageRenderer::fillingMatchesPlainReplace()
 
 QTEST_GUILESS_MAIN(TestPageRenderer)
 #include "TestPageRenderer.moc"
+
+void TestPageRenderer::typedTextAndRegion()
+{
+    Fixture f;
+    // Plain text prints as typed; the texts people format stay markup.
+    f.prefs.setString(P::prefsName, u"Müller & Söhne <GmbH>"_s);
+    f.invoice.setText(Invoice::address, u"Firma A<B & C\nHauptstr. 1"_s);
+    f.invoice.setText(Invoice::subject, u"Projekt <Alpha> & Beta"_s);
+    f.invoice.setText(Invoice::footer, u"<b>Bank</b>"_s);
+    Record *item = f.addItem(u"Rohr <DN 50>"_s);
+    item->setText(Item::unit, u"m<sup>2</sup>"_s);
+    f.design.setText(Design::item, u"%ITEMSTITLE%/%ITEMSUNIT%"_s);
+    QCOMPARE(f.render(u"%COMPANY%|%CLIENTADDRESS%|%SUBJECT%|%FOOTER%|%ITEMSLIST%"_s),
+             u"Müller &amp; Söhne &lt;GmbH&gt;|Firma A&lt;B &amp; C<br />Hauptstr. 1|Projekt &lt;Alpha&gt; &amp; Beta|"
+             u"<b>Bank</b>|Rohr &lt;DN 50&gt;/m&lt;sup&gt;2&lt;/sup&gt;"_s);
+
+    // Amounts follow the documents' region, not the desktop's locale.
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    const Formatters regional(f.prefs);
+    f.prefs.setString(P::prefsCurrency, u"€"_s);
+    f.prefs.setString(P::prefsRegion, u"fr_FR"_s);
+    QCOMPARE(regional.stringFromNumber(406.89), u"406,89\u00a0€"_s);
+    QCOMPARE(regional.decimalStringFromNumber(1.5), u"1,5"_s);
+    f.prefs.setString(P::prefsRegion, u"de_CH"_s);
+    QCOMPARE(regional.decimalStringFromNumber(1234.5), u"1’234.5"_s);
+}

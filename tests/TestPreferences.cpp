@@ -162,6 +162,9 @@ void TestPreferences::syntaxColourFallback()
 {
     test::TempHome home;
     P prefs(home.configFile());
+    QCOMPARE(prefs.string(P::syntaxTags), QString());
+    prefs.registerDefaults({{QStringLiteral("SyntaxColoring:Color:Tags"), QStringLiteral("#2471a3")},
+                            {QStringLiteral("SyntaxColoring:Color:Strings"), QStringLiteral("#c0392b")}});
     QCOMPARE(prefs.string(P::syntaxTags), QStringLiteral("#2471a3"));
     QVERIFY(!prefs.contains(P::syntaxTags));
 

@@ -53,13 +53,14 @@ struct CachedFormat
     std::unique_ptr<icu::SimpleDateFormat> format;
 };
 
-const icu::SimpleDateFormat *formatterFor(const QString &pattern)
+const icu::SimpleDateFormat *formatterFor(const QString &pattern, const QString &region)
 {
     constexpr std::size_t kCacheSize = 8;
     thread_local std::vector<CachedFormat> cache;
 
     const icu::UnicodeString icuPattern = toIcu(pattern);
-    const icu::Locale &locale = icu::Locale::getDefault();
+    const icu::Locale locale = region.isEmpty() ? icu::Locale::getDefault()
+                                                : icu::Locale::createCanonical(region.toUtf8().constData());
     std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createDefault());
     icu::UnicodeString zoneId;
     if (zone)
@@ -119,7 +120,14 @@ QString clientNumberString(const Preferences &prefs, qsizetype recentAddressCoun
                         now);
 }
 
-QString patternDateString(const QString &datePattern, Date date)
+QString patternRefusal(const QString &pattern)
+{
+    if (pattern.contains(QLatin1String("%COUNT%")))
+        return {};
+    return QStringLiteral("The pattern needs %COUNT%, or every document gets the same number.");
+}
+
+QString patternDateString(const QString &datePattern, Date date, const QString &region)
 {
     if (!date.isValid())
         return QString();
@@ -130,7 +138,7 @@ QString patternDateString(const QString &datePattern, Date date)
     pattern.replace(QLatin1String("%YEARSHORT%"), QLatin1String("yy"));
     pattern.replace(QLatin1String("%YEARLONG%"), QLatin1String("yyyy"));
 
-    const icu::SimpleDateFormat *format = formatterFor(pattern);
+    const icu::SimpleDateFormat *format = formatterFor(pattern, region);
     if (!format)
         return QString();
     icu::UnicodeString out;
@@ -140,7 +148,7 @@ QString patternDateString(const QString &datePattern, Date date)
 
 QString getPatternDateStringFromDate(const Preferences &prefs, Date date)
 {
-    return patternDateString(prefs.string(Preferences::prefsDatePattern), date);
+    return patternDateString(prefs.string(Preferences::prefsDatePattern), date, prefs.documentRegion());
 }
 
 } // namespace tabo::Numbering

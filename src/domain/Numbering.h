@@ -23,9 +23,15 @@ QString quoteNumberString(const Preferences &prefs, const Summary &summary, Date
 QString convertedInvoiceNumberString(const Preferences &prefs, const Summary &summary, Date now);
 QString clientNumberString(const Preferences &prefs, qsizetype recentAddressCount, Date now);
 
+// Why `pattern` cannot number documents (empty when it can): without
+// "%COUNT%" every document of a day would get the same number.
+QString patternRefusal(const QString &pattern);
+
 // `prefsDatePattern` with its placeholders turned into Unicode date-field
-// symbols and formatted by ICU in the user's locale and time zone.
-QString patternDateString(const QString &datePattern, Date date);
+// symbols and formatted by ICU in the user's time zone, with the month names
+// of `region` (a locale such as "fr_FR"; empty: the process's locale).
+QString patternDateString(const QString &datePattern, Date date, const QString &region = QString());
+// In the documents' region.
 QString getPatternDateStringFromDate(const Preferences &prefs, Date date);
 
 } // namespace Numbering

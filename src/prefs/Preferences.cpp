@@ -30,12 +30,9 @@ using Type = Preferences::Type;
 const std::array<Preferences::KeyInfo, Preferences::KeyCount> &table()
 {
     static const std::array<Preferences::KeyInfo, Preferences::KeyCount> keys = {{
-#define TABO_PREF_ROW(id, name, type) {Preferences::id, QStringLiteral(name), Type::type, QVariant()},
-#define TABO_PREF_ROW_D(id, name, type, fallback)                                                   \
-    {Preferences::id, QStringLiteral(name), Type::type, QVariant(QStringLiteral(fallback))},
-        TABO_PREF_KEYS(TABO_PREF_ROW, TABO_PREF_ROW_D)
+#define TABO_PREF_ROW(id, name, type) {Preferences::id, QStringLiteral(name), Type::type},
+        TABO_PREF_KEYS(TABO_PREF_ROW)
 #undef TABO_PREF_ROW
-#undef TABO_PREF_ROW_D
     }};
     return keys;
 }
@@ -258,7 +255,7 @@ QVariant Preferences::value(Key key) const
     const KeyInfo &k = info(key);
     const QVariant v = m_settings->value(k.name);
     if (!v.isValid())
-        return k.fallback;
+        return m_registered.value(k.name);
     switch (k.type) {
     case Type::String:
         if (v.metaType().id() == QMetaType::QByteArray || v.metaType().id() == QMetaType::QStringList)
@@ -390,6 +387,25 @@ QString Preferences::toText(Key key) const
     case Type::Data: return QString::fromLatin1(v.toByteArray().toBase64());
     default: return v.toString();
     }
+}
+
+void Preferences::registerDefaults(const QVariantMap &defaults)
+{
+    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it)
+        m_registered.insert(it.key(), it.value());
+}
+
+QString Preferences::documentRegion() const
+{
+    const QString region = string(prefsRegion).trimmed();
+    if (!region.isEmpty())
+        return region;
+    // Stores from before the region existed: the language they installed.
+    static const char *const regions[] = {"en_US", "de_DE", "fr_FR", "es_ES"};
+    const qint64 language = integer(languageDefaults);
+    if (contains(languageDefaults) && language >= 0 && language <= 3)
+        return QLatin1String(regions[language]);
+    return QLocale::system().name();
 }
 
 QString Preferences::languageDefaultsResource(qint64 languageDefaults)

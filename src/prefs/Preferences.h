@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QVariant>
+#include <QVariantMap>
 
 #include <memory>
 
@@ -21,10 +22,8 @@ class Preferences
 public:
     enum Key : int {
 #define TABO_PREF_ENUM(id, name, type) id,
-#define TABO_PREF_ENUM_D(id, name, type, fallback) id,
-        TABO_PREF_KEYS(TABO_PREF_ENUM, TABO_PREF_ENUM_D)
+        TABO_PREF_KEYS(TABO_PREF_ENUM)
 #undef TABO_PREF_ENUM
-#undef TABO_PREF_ENUM_D
         KeyCount
     };
     enum class Type { String, Int, Bool, Real, Date, Data };
@@ -34,7 +33,6 @@ public:
         Key key;
         QString name;
         Type type;
-        QVariant fallback; // registered default; never written
     };
 
     // $XDG_CONFIG_HOME/Tabo/Tabo.conf
@@ -56,8 +54,17 @@ public:
     float single(Key key) const { return float(real(key)); }
     Date date(Key key) const;
     QByteArray data(Key key) const;
-    // The typed value, the fallback, or an invalid QVariant.
+    // The typed value, the registered default, or an invalid QVariant.
     QVariant value(Key key) const;
+
+    // `registerDefaults`: values that stand in for keys nobody stored; they
+    // are never written, so a later change of the defaults reaches everyone
+    // who kept them. Keys by their stored names.
+    void registerDefaults(const QVariantMap &defaults);
+
+    // The locale documents are written for ("de_DE"): `prefsRegion`, else
+    // the one of the installed language defaults, else the desktop's.
+    QString documentRegion() const;
 
     void setString(Key key, const QString &value);
     void setInteger(Key key, qint64 value);
@@ -91,6 +98,7 @@ public:
 
 private:
     std::unique_ptr<QSettings> m_settings;
+    QVariantMap m_registered;
 };
 
 } // namespace tabo

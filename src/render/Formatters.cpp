@@ -44,42 +44,64 @@ QString withCodeSpaced(QString text, const QString &sign)
 
 } // namespace
 
+Formatters::Formatters(const Preferences &prefs)
+    : m_prefs(prefs)
+    , m_fixed(false)
+{
+}
+
 Formatters::Formatters(const Preferences &prefs, const QLocale &locale)
     : m_prefs(prefs)
+    , m_fixed(true)
     , m_locale(locale)
 {
+}
+
+const QLocale &Formatters::locale() const
+{
+    if (m_fixed)
+        return m_locale;
+    // Built again only when the region changed: a page formats many numbers.
+    const QString region = m_prefs.documentRegion();
+    if (region != m_region) {
+        m_region = region;
+        m_locale = QLocale(region);
+    }
+    return m_locale;
 }
 
 QString Formatters::stringFromNumber(double value) const
 {
     if (!std::isfinite(value))
         return QString();
+    const QLocale &loc = locale();
     // Accounting brackets ("($5.00)") would read oddly on a credit note: the
     // amount is laid out unsigned and the locale's minus put in front.
     const double magnitude = std::fabs(value);
-    const QString minus = value < 0 && magnitude >= 0.005 ? m_locale.negativeSign() : QString();
+    const QString minus = value < 0 && magnitude >= 0.005 ? loc.negativeSign() : QString();
     const QString sign = m_prefs.string(Preferences::prefsCurrency);
     if (sign.isEmpty())
-        return minus + withoutMarker(m_locale.toCurrencyString(magnitude, QString(kSignMarker), 2));
+        return minus + withoutMarker(loc.toCurrencyString(magnitude, QString(kSignMarker), 2));
     // The C locale (no LANG set) has no currency layout of its own; a sign
     // goes first there, as most readers expect.
-    if (m_locale.language() == QLocale::C && !sign.front().isLetter())
-        return minus + sign + m_locale.toString(magnitude, 'f', 2);
-    return minus + withCodeSpaced(m_locale.toCurrencyString(magnitude, sign, 2), sign);
+    if (loc.language() == QLocale::C && !sign.front().isLetter())
+        return minus + sign + loc.toString(magnitude, 'f', 2);
+    return minus + withCodeSpaced(loc.toCurrencyString(magnitude, sign, 2), sign);
 }
 
 QString Formatters::decimalStringFromNumber(double value) const
 {
     if (!std::isfinite(value))
         return QString();
+    const QLocale &loc = locale();
     // Whatever rounds to zero prints as zero, never as "-0".
     if (std::fabs(value) < 0.0005)
-        return m_locale.toString(0);
-    QString text = m_locale.toString(value, 'f', 3);
-    const QString point = m_locale.decimalPoint();
+        return loc.toString(0);
+    QString text = loc.toString(value, 'f', 3);
+    const QString point = loc.decimalPoint();
     if (text.lastIndexOf(point) < 0)
         return text;
-    const QString zero = m_locale.zeroDigit();
+    const QString zero = loc.zeroDigit();
     while (text.endsWith(zero))
         text.chop(zero.size());
     if (text.endsWith(point))
@@ -92,6 +114,11 @@ QString Formatters::htmlLineBreakStringFromString(const QString &text)
     QString result = text;
     result.replace(QLatin1Char('\n'), QLatin1String("<br />"));
     return result;
+}
+
+QString Formatters::htmlTextFromPlainText(const QString &text)
+{
+    return htmlLineBreakStringFromString(text.toHtmlEscaped());
 }
 
 } // namespace tabo

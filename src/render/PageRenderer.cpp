@@ -115,6 +115,8 @@ QString PageRenderer::invoiceHTMLString(
         return failureText();
 
     const auto pref = [this](P::Key key) { return [this, key] { return m_prefs.string(key); }; };
+    // What a person typed as plain text prints as typed: "A<B" is no tag.
+    const auto typed = [&](int attr) { return [&, attr] { return Formatters::htmlTextFromPlainText(invoice.text(attr)); }; };
     const auto money = [&](int attr) {
         return
             [&, attr] { return invoice.isNull(attr) ? QString() : m_formatters.stringFromNumber(invoice.num(attr)); };
@@ -133,23 +135,23 @@ QString PageRenderer::invoiceHTMLString(
 
     Placeholders page(design->text(Design::invoice));
     page.replace(u"%CSS%", design->text(Design::css));
-    page.replace(u"%COMPANY%", pref(P::prefsName));
+    page.replace(u"%COMPANY%", [&] { return Formatters::htmlTextFromPlainText(m_prefs.string(P::prefsName)); });
     page.replace(u"%SLOGAN%", pref(P::prefsSlogan));
     page.replace(u"%COMPANYCONTACT%",
         [&] { return Formatters::htmlLineBreakStringFromString(m_prefs.string(P::prefsContact)); });
-    page.replace(u"%LETTERTITLE%", letter ? letter->title : invoice.text(Invoice::title));
-    page.replace(
-        u"%CLIENTADDRESS%", [&] { return Formatters::htmlLineBreakStringFromString(invoice.text(Invoice::address)); });
+    page.replace(u"%LETTERTITLE%",
+        [&] { return Formatters::htmlTextFromPlainText(letter ? letter->title : invoice.text(Invoice::title)); });
+    page.replace(u"%CLIENTADDRESS%", typed(Invoice::address));
     page.replace(u"%CONDITIONS%", letterText(&LetterTexts::conditions, Invoice::conditions));
     page.replace(u"%MISCELLANEOUS%", letterText(&LetterTexts::misc, Invoice::misc1));
     page.replace(u"%FOOTER%", letterText(&LetterTexts::footer, Invoice::footer));
-    page.replace(u"%DISPATCHED%", invoice.text(Invoice::dispatchNumber));
+    page.replace(u"%DISPATCHED%", typed(Invoice::dispatchNumber));
     page.replace(u"%DATE%", date(Invoice::date));
     page.replace(u"%DUEDATE%", date(slip ? Invoice::dispatched : Invoice::due));
-    page.replace(u"%NUMBER%", invoice.text(Invoice::number));
-    page.replace(u"%CLIENTNUMBER%", invoice.text(Invoice::clientNumber));
-    page.replace(u"%CLIENTNAME%", invoice.text(Invoice::customerName));
-    page.replace(u"%CLIENTVATID%", invoice.text(Invoice::customerVATID));
+    page.replace(u"%NUMBER%", typed(Invoice::number));
+    page.replace(u"%CLIENTNUMBER%", typed(Invoice::clientNumber));
+    page.replace(u"%CLIENTNAME%", typed(Invoice::customerName));
+    page.replace(u"%CLIENTVATID%", typed(Invoice::customerVATID));
     page.replace(u"%LOCDATE%", pref(P::locDate));
     const P::Key dueLabel = invoice.integer(Invoice::kind) == 0 ? P::locExpiration
         : reminder                                              ? P::locOverdue
@@ -159,8 +161,8 @@ QString PageRenderer::invoiceHTMLString(
     page.replace(u"%LOCNUMBER%", pref(P::locNumber));
     page.replace(u"%LOCCLIENTNUMBER%", pref(P::locClientNumber));
     page.replace(u"%LOCDISPATCHED%", pref(P::locDispatched));
-    page.replace(u"%CURRENCY%", invoice.text(Invoice::currency));
-    page.replace(u"%SUBJECT%", invoice.text(Invoice::subject));
+    page.replace(u"%CURRENCY%", typed(Invoice::currency));
+    page.replace(u"%SUBJECT%", typed(Invoice::subject));
     page.replace(u"%SUBTOTAL%", money(Invoice::subAmount));
     page.replace(u"%TOTAL%", money(Invoice::amount));
     page.replace(u"%LOCSUBTOTAL%", pref(P::locSubtotal));
@@ -169,10 +171,9 @@ QString PageRenderer::invoiceHTMLString(
     if (invoice.boolean(Invoice::isDiscountEnabled)) {
         const bool isAmount = invoice.integer(Invoice::discountKind) == 0;
         page.replace(u"%LOCDISCOUNT%", [&] {
-            const QString title = invoice.text(Invoice::discountTitle);
-            return invoice.boolean(Invoice::hasDiscountSubtitle)
-                ? withSubtitle(title, invoice.text(Invoice::discountSubtitle))
-                : title;
+            const QString title = typed(Invoice::discountTitle)();
+            return invoice.boolean(Invoice::hasDiscountSubtitle) ? withSubtitle(title, typed(Invoice::discountSubtitle)())
+                                                                 : title;
         });
         page.replace(u"%DISCOUNTKINDCHAR%", isAmount ? QStringLiteral("-") : QStringLiteral("%"));
         page.replace(u"%DISCOUNT%", [&] {
@@ -191,10 +192,9 @@ QString PageRenderer::invoiceHTMLString(
     if (invoice.boolean(Invoice::isShippingEnabled)) {
         page.replace(u"%SHIPPING%", money(Invoice::shippingAmount));
         page.replace(u"%LOCSHIPPING%", [&] {
-            const QString title = invoice.text(Invoice::shippingTitle);
-            return invoice.boolean(Invoice::hasShippingSubtitle)
-                ? withSubtitle(title, invoice.text(Invoice::shippingSubtitle))
-                : title;
+            const QString title = typed(Invoice::shippingTitle)();
+            return invoice.boolean(Invoice::hasShippingSubtitle) ? withSubtitle(title, typed(Invoice::shippingSubtitle)())
+                                                                 : title;
         });
     } else {
         page.replace(u"%SHIPPING%", QString());
@@ -205,7 +205,8 @@ QString PageRenderer::invoiceHTMLString(
 
     for (const TaxFields &tax : kPageTaxes) {
         const bool enabled = m_prefs.boolean(tax.enabled);
-        page.replace(tax.title, [&] { return enabled ? m_prefs.string(tax.titleKey) : QString(); });
+        page.replace(tax.title,
+            [&] { return enabled ? Formatters::htmlTextFromPlainText(m_prefs.string(tax.titleKey)) : QString(); });
         page.replace(tax.amount, [&] { return enabled ? money(tax.amountAttr)() : QString(); });
         page.replace(tax.rate, [&] {
             const double percent = invoice.num(tax.percentAttr) * 100.0;
@@ -239,7 +240,7 @@ QString PageRenderer::itemsList(const Record *design, const Record &invoice, con
         labels[i] = m_prefs.string(kRowLabels[i].key);
     // A row knows no discount kind.
     const QString discountKindChar = QStringLiteral("%");
-    const QString currency = invoice.text(Invoice::currency);
+    const QString currency = Formatters::htmlTextFromPlainText(invoice.text(Invoice::currency));
 
     QString list;
     // Rows grow by their values; one reservation keeps appending linear.
@@ -260,13 +261,15 @@ QString PageRenderer::itemsList(const Record *design, const Record &invoice, con
         Placeholders row = rowTemplate;
         row.replace(u"%ITEMNUMBER%", [&] { return m_formatters.decimalStringFromNumber(number); });
         row.replace(u"%ITEMSQUANTITY%", decimal(Item::unitCount));
-        row.replace(u"%ITEMSUNIT%", item->text(Item::unit));
+        const auto typed = [&](int attr) {
+            return [&, attr] { return Formatters::htmlTextFromPlainText(item->text(attr)); };
+        };
+        row.replace(u"%ITEMSUNIT%", typed(Item::unit));
         row.replace(u"%ITEMSBASEAMOUNT%", money(Item::baseAmount));
-        row.replace(u"%ITEMSSKU%", useSKU ? item->text(Item::sku) : QString());
+        row.replace(u"%ITEMSSKU%", [&] { return useSKU ? typed(Item::sku)() : QString(); });
         row.replace(u"%ITEMSSUBAMOUNT%", [&] { return showSubAmount ? money(Item::subAmount)() : QString(); });
-        row.replace(u"%ITEMSTITLE%", item->text(Item::title));
-        row.replace(
-            u"%ITEMSSUBTITLE%", [&] { return Formatters::htmlLineBreakStringFromString(item->text(Item::subtitle)); });
+        row.replace(u"%ITEMSTITLE%", typed(Item::title));
+        row.replace(u"%ITEMSSUBTITLE%", typed(Item::subtitle));
         row.replace(u"%ITEMSAMOUNT%", money(Item::amount));
 
         for (const ItemTaxFields &tax : kRowTaxes) {
@@ -285,7 +288,7 @@ QString PageRenderer::itemsList(const Record *design, const Record &invoice, con
                 const float gross = base + base * item->single(tax.percentAttr);
                 return m_formatters.stringFromNumber(gross);
             });
-            row.replace(tax.title, item->text(tax.titleAttr));
+            row.replace(tax.title, typed(tax.titleAttr));
             row.replace(tax.percent, [&] {
                 if (item->isNull(tax.percentAttr))
                     return QString();
