@@ -13,6 +13,7 @@
 #include "domain/Numbering.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
+#include "editing/SyntaxDefinition.h"
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
@@ -48,6 +49,7 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_outputs(std::make_unique<OutputCommands>(*this))
 {
     setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });
+    SyntaxDefinition::registerColorDefaults(m_prefs);
 }
 
 AppController::~AppController()
@@ -409,6 +411,50 @@ bool AppController::customPathChanged()
     Q_EMIT listChanged();
     Q_EMIT summaryChanged();
     return managedObjectContext() != nullptr;
+}
+
+bool AppController::chooseCustomDatabasePath(bool use)
+{
+    const bool wasCustom = m_prefs.boolean(P::useCustomPath);
+    const QString oldPath = m_prefs.string(P::customDatabasePath);
+    QString folder;
+    if (use) {
+        m_ui.alert(QStringLiteral("Hint!"),
+                   QStringLiteral("For your own safety Tabo will create a backup of your current data before moving "
+                                  "your database to the changed location. You may want to save it temporarily on "
+                                  "your desktop.\n\nAfterwards Tabo will automatically restart."),
+                   {QStringLiteral("OK")});
+        Interaction::FileRequest request;
+        request.title = QStringLiteral("Choose Custom Database Path");
+        request.chooseFolders = true;
+        request.canCreateFolders = true;
+        folder = m_ui.openFile(request);
+    }
+    // Not synced here: the move writes the preferences once the copy is in
+    // place, so a kill in between never names a folder without the store.
+    m_prefs.setBool(P::useCustomPath, !folder.isEmpty());
+    if (!folder.isEmpty())
+        m_prefs.setString(P::customDatabasePath, folder);
+    const bool moved = customPathChanged();
+    if (m_store && !Locations::sameFile(storeFilePath(), m_storeURL)) {
+        m_prefs.setBool(P::useCustomPath, wasCustom);
+        m_prefs.setString(P::customDatabasePath, oldPath);
+    }
+    return moved;
+}
+
+bool AppController::installLanguageDefaults(qint64 languageDefaults)
+{
+    static const char *const names[] = {"English", "German", "French", "Spanish"};
+    if (Preferences::languageDefaultsResource(languageDefaults).isEmpty())
+        return false;
+    const int answer = m_ui.alert(
+        QStringLiteral("Install %1 Defaults?").arg(QLatin1String(names[languageDefaults])),
+        QStringLiteral("The labels, text blocks, numbering patterns and counters, taxes and paper size are replaced by the %1 "
+                       "defaults. Your company details, documents and designs stay as they are.")
+            .arg(QLatin1String(names[languageDefaults])),
+        {QStringLiteral("Install"), QStringLiteral("Cancel")});
+    return answer == 0 && firstAssiTabAction(languageDefaults);
 }
 
 Error AppController::closeStore()

@@ -85,6 +85,18 @@ public:
     // backup with its save panel); a cancelled backup does not stop the move.
     void setBackupBeforeMove(std::function<void()> backup) { m_backupBeforeMove = std::move(backup); }
 
+    // The Data pane's switch for `useCustomPath`. On: the "Hint!" alert,
+    // then the folder panel; a chosen folder becomes `customDatabasePath`,
+    // a cancel turns the switch off. Either way the store follows
+    // (`customPathChanged`). A move that fails leaves both keys as they were,
+    // so the next start finds the store where it still is. True when the
+    // store was moved.
+    bool chooseCustomDatabasePath(bool use);
+
+    // "Install language defaults…": after a confirmation that they replace
+    // the current texts. False when declined or nothing was installed.
+    bool installLanguageDefaults(qint64 languageDefaults);
+
     void restartApp();
     // The first page of the first-start assistant: installs the language
     // defaults chosen by `languageDefaults`. False when nothing was installed.

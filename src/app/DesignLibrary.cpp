@@ -139,6 +139,13 @@ Record *DesignLibrary::addDesign()
     return design;
 }
 
+void DesignLibrary::setDesignText(Record *design, int attr, const QString &text)
+{
+    if (!design || design->isDeleted() || design->text(attr) == text)
+        return;
+    design->setText(attr, text);
+}
+
 bool DesignLibrary::deleteDesign(Record *design)
 {
     Store *store = m_app.managedObjectContext();

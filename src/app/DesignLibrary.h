@@ -51,6 +51,10 @@ public:
     bool exportDesign(const Record *design);
     bool exportDesignFile(const Record *design, const QString &path, QString *error);
 
+    // An edit of a design's title or texts (`title`, `invoice`, `item`,
+    // `css`); saved with the next save, so typing does not write each key.
+    void setDesignText(Record *design, int attr, const QString &text);
+
     // Mirrors the list selection into `selectedDesign`.
     void setSelectedDesignIndex(int index);
     int selectedDesignIndex() const;

@@ -115,4 +115,10 @@ void FileMenu::openAccountingSheet(int sendToTag)
     sheet->begin(sendToTag);
 }
 
+QList<QAction *> FileMenu::backupActions() const
+{
+    return {m_backupDatabase, m_restoreDatabase, m_backupDocuments, m_restoreDocuments, m_backupCatalogue,
+            m_restoreCatalogue, m_restoreAutomatic};
+}
+
 } // namespace tabo

@@ -26,6 +26,8 @@ public:
     void populate(QMenu *menu, QAction *quit);
 
     QAction *exportDocument() const { return m_exportDocument; }
+    // Back up and restore the database, documents, catalogue; the automatic backup.
+    QList<QAction *> backupActions() const;
     QAction *importDocument() const { return m_importDocument; }
     QAction *sendToVorlux() const { return m_sendToVorlux; }
     QAction *sendToQuandrella() const { return m_sendToQuandrella; }

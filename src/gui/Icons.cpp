@@ -1,5 +1,6 @@
 #include "gui/Icons.h"
 
+#include <QFont>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QPainter>
@@ -65,6 +66,33 @@ QIcon torch(bool glowing)
         QPainter painter(&pixmap);
         paintTorch(painter, size, glowing);
         painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+QIcon themed(const QString &themeName, QChar letter, const QColor &tint)
+{
+    if (QIcon::hasThemeIcon(themeName))
+        return QIcon::fromTheme(themeName);
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter p(&pixmap);
+        p.setRenderHint(QPainter::Antialiasing);
+        const qreal inset = size / 16.0;
+        const QRectF tile(inset, inset, size - 2 * inset, size - 2 * inset);
+        p.setPen(Qt::NoPen);
+        p.setBrush(tint);
+        p.drawRoundedRect(tile, size / 5.0, size / 5.0);
+        QFont font = QGuiApplication::font();
+        font.setBold(true);
+        font.setPixelSize(int(size * 0.55));
+        p.setFont(font);
+        p.setPen(Qt::white);
+        p.drawText(tile, Qt::AlignCenter, QString(letter));
+        p.end();
         icon.addPixmap(pixmap);
     }
     return icon;

@@ -11,6 +11,7 @@
 #include "gui/FileMenu.h"
 #include "gui/FilterButton.h"
 #include "gui/LetterSheet.h"
+#include "gui/PreferencePanel.h"
 #include "gui/PreviewWindow.h"
 #include "gui/SummaryBar.h"
 
@@ -102,6 +103,12 @@ void MainWindow::createActions()
 
     m_fileMenu = new FileMenu(m_app, m_editor, this);
     m_fileMenu->populate(menuBar()->addMenu(tr("&File")), m_quit);
+    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    m_preferences = edit->addAction(tr("Preferences…"));
+    m_preferences->setObjectName(QStringLiteral("actionPreferences"));
+    m_preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    m_preferences->setMenuRole(QAction::PreferencesRole);
+    connect(m_preferences, &QAction::triggered, this, [this] { preferencePanel()->showPanel(); });
     QMenu *documents = menuBar()->addMenu(tr("&Documents"));
     documents->addAction(m_newInvoice);
     documents->addAction(m_newQuote);
@@ -264,6 +271,13 @@ void MainWindow::terminateNow()
 {
     m_quitDecided = true;
     close();
+}
+
+QVPreferencePanel *MainWindow::preferencePanel()
+{
+    if (!m_preferencePanel)
+        m_preferencePanel = new QVPreferencePanel(m_app, m_fileMenu, this);
+    return m_preferencePanel;
 }
 
 } // namespace tabo

@@ -17,6 +17,7 @@ class FileMenu;
 class FilterButton;
 class LetterSheet;
 class PreviewWindow;
+class QVPreferencePanel;
 class SummaryBar;
 
 // The main window: the document list with its filter button and summary, and
@@ -42,6 +43,9 @@ public:
     ExportSheet *exportSheet() const { return m_exportSheet; }
     LetterSheet *letterSheet() const { return m_letterSheet; }
     DesignChoiceSheet *designChoiceSheet() const { return m_designSheet; }
+    QAction *preferencesAction() const { return m_preferences; }
+    // Built on first use.
+    QVPreferencePanel *preferencePanel();
 
 protected:
     // Every quit, from the menu or the window's close button, ends here.
@@ -80,6 +84,8 @@ private:
     ExportSheet *m_exportSheet = nullptr;
     LetterSheet *m_letterSheet = nullptr;
     DesignChoiceSheet *m_designSheet = nullptr;
+    QAction *m_preferences = nullptr;
+    QVPreferencePanel *m_preferencePanel = nullptr;
     bool m_quitDecided = false;
 };
 

@@ -1,18 +1,59 @@
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
+#include "gui/DesignPane.h"
 #include "gui/FirstStartAssistant.h"
 #include "gui/GuiInteraction.h"
 #include "gui/MainWindow.h"
+#include "gui/PreferencePanel.h"
 #include "gui/PreviewWindow.h"
 #include "prefs/Preferences.h"
 #include "render/PdfEngine.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QLoggingCategory>
 #include <QTimer>
 
+#include <functional>
+#include <memory>
+
 using namespace tabo;
+
+namespace {
+
+// Every pane of the preferences into `folder` ("1-Company.png" …), the Design
+// pane with its stylesheet and live preview; then quits.
+void grabPreferencePanes(tabo::MainWindow &window, const QString &folder)
+{
+    using tabo::QVPreferencePanel;
+    QDir().mkpath(folder);
+    QVPreferencePanel *panel = window.preferencePanel();
+    panel->showPanel();
+    auto next = std::make_shared<std::function<void(int)>>();
+    *next = [panel, folder, next, &window](int pane) {
+        if (pane == QVPreferencePanel::PaneCount) {
+            panel->close();
+            window.close();
+            return;
+        }
+        panel->selectPane(QVPreferencePanel::Pane(pane));
+        const bool design = pane == QVPreferencePanel::Design;
+        if (design)
+            panel->designPane()->showEditor(tabo::DesignPane::Stylesheet);
+        // The Design pane waits for its sample page.
+        QTimer::singleShot(design ? 2500 : 300, panel, [panel, folder, next, pane] {
+            const QString file = QStringLiteral("%1/%2-%3.png").arg(folder).arg(pane + 1).arg(
+                QVPreferencePanel::paneLabel(QVPreferencePanel::Pane(pane)));
+            if (!panel->grab().save(file))
+                qWarning("Could not write the screenshot to %s", qPrintable(file));
+            (*next)(pane + 1);
+        });
+    };
+    (*next)(0);
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -36,6 +77,10 @@ int main(int argc, char **argv)
     QCommandLineOption screenshotPreview(QStringLiteral("screenshot-preview"), QString(), QStringLiteral("file"));
     screenshotPreview.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(screenshotPreview);
+    QCommandLineOption screenshotPreferences(QStringLiteral("screenshot-preferences"), QString(),
+                                             QStringLiteral("folder"));
+    screenshotPreferences.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(screenshotPreferences);
     parser.addPositionalArgument(
         QStringLiteral("files"), QStringLiteral("Refused: open documents from the File menu."));
     parser.process(application);
@@ -53,7 +98,8 @@ int main(int argc, char **argv)
     controller.awakeFromNib();
     window.show();
     controller.applicationDidFinishLaunching();
-    const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview);
+    const bool grabbing =
+        parser.isSet(screenshot) || parser.isSet(screenshotPreview) || parser.isSet(screenshotPreferences);
     if (controller.needsFirstStartAssistant() && !grabbing) {
         QTimer::singleShot(350, &window, [&window, &controller] {
             FirstStartAssistant assistant(controller, &window);
@@ -89,6 +135,10 @@ int main(int argc, char **argv)
             if (!preview->showPreview())
                 grab();
         });
+    }
+    if (parser.isSet(screenshotPreferences)) {
+        const QString folder = parser.value(screenshotPreferences);
+        QTimer::singleShot(400, &window, [&window, folder] { grabPreferencePanes(window, folder); });
     }
     return application.exec();
 }

@@ -1,0 +1,562 @@
+#include "gui/PreferencePanel.h"
+
+#include "app/AppController.h"
+#include "app/DesignLibrary.h"
+#include "app/Interaction.h"
+#include "domain/Numbering.h"
+#include "gui/DesignPane.h"
+#include "gui/FileMenu.h"
+#include "gui/HintLabel.h"
+#include "gui/Icons.h"
+#include "gui/LogoWell.h"
+#include "gui/PlainTextField.h"
+#include "gui/PrefsBinder.h"
+#include "base/Clock.h"
+#include "prefs/Locations.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QToolButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace tabo {
+
+namespace {
+
+using P = Preferences;
+
+struct PaneInfo
+{
+    const char *identifier;
+    const char *label;
+    const char *title;
+    const char *theme;
+    char letter;
+    QRgb tint;
+};
+
+// The Data pane's title names the other platform's synchronisation; its
+// label and the window title here say what it holds.
+constexpr std::array<PaneInfo, QVPreferencePanel::PaneCount> kPanes {{
+    {"View1ItemIdentifier", "Company", "Company", "x-office-address-book", 'C', 0xff2e7d32},
+    {"View2ItemIdentifier", "Invoice", "Invoice", "x-office-document", 'I', 0xff1565c0},
+    {"View3ItemIdentifier", "Taxes", "Taxes", "accessories-calculator", '%', 0xffc62828},
+    {"View4ItemIdentifier", "Template", "Template", "x-office-document-template", 'T', 0xff6a1b9a},
+    {"View5ItemIdentifier", "Design", "Design", "applications-graphics", 'D', 0xffef6c00},
+    {"View6ItemIdentifier", "Region", "Region", "preferences-desktop-locale", 'R', 0xff00838f},
+    {"View7ItemIdentifier", "Clients", "Clients", "system-users", 'K', 0xff4e342e},
+    {"View9ItemIdentifier", "Data", "Data", "drive-harddisk", 'S', 0xff455a64},
+}};
+
+// A field with the line that explains a refusal under it.
+QWidget *withHint(PrefsBinder *binder, QWidget *field)
+{
+    HintLabel *hint = binder->hintFor(field);
+    if (!hint)
+        return field;
+    auto *box = new QWidget;
+    auto *layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(field);
+    layout->addWidget(hint);
+    return box;
+}
+
+QFormLayout *newForm(QWidget *parent)
+{
+    auto *form = new QFormLayout(parent);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return form;
+}
+
+QLabel *note(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setWordWrap(true);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+} // namespace
+
+QVPreferencePanel::QVPreferencePanel(AppController &app, FileMenu *fileMenu, QWidget *parent)
+    : QMainWindow(parent)
+    , m_app(app)
+    , m_fileMenu(fileMenu)
+    , m_binder(new PrefsBinder(app.prefs(), this))
+    , m_toolbar(new QToolBar)
+    , m_group(new QActionGroup(this))
+    , m_holder(new QWidget)
+    , m_holderLayout(new QVBoxLayout(m_holder))
+{
+    setObjectName(QStringLiteral("QVPreferencePanel"));
+    setWindowTitle(tr("Preferences"));
+    m_toolbar->setObjectName(QStringLiteral("%1.qvpreferencepanel.toolbar").arg(QApplication::applicationName()));
+    m_toolbar->setMovable(false);
+    m_toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    m_toolbar->setIconSize(QSize(32, 32));
+    addToolBar(m_toolbar);
+    setCentralWidget(m_holder);
+    m_holderLayout->setContentsMargins(16, 12, 16, 16);
+
+    for (int i = 0; i < PaneCount; ++i) {
+        const PaneInfo &info = kPanes[std::size_t(i)];
+        QAction *action = m_toolbar->addAction(
+            Icons::themed(QLatin1String(info.theme), QLatin1Char(info.letter), QColor::fromRgba(info.tint)),
+            tr(info.label));
+        action->setObjectName(QLatin1String(info.identifier));
+        action->setCheckable(true);
+        m_group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, i] { selectPane(Pane(i)); });
+        m_actions << action;
+    }
+
+    m_designPane = new DesignPane(app);
+    m_panes = {createCompanyPane(), createInvoicePane(), createTaxesPane(), createTemplatePane(),
+               m_designPane, createRegionPane(), createClientsPane(), createDataPane()};
+    for (QWidget *pane : std::as_const(m_panes))
+        pane->hide();
+    connect(m_binder, &PrefsBinder::changed, this, [this](P::Key key) {
+        if (key == P::prefsDatePattern || key == P::prefsRegion)
+            updateDateExample();
+        // Paper, margins and labels change the sample page.
+        m_designPane->preferencesChanged();
+    });
+}
+
+QVPreferencePanel::~QVPreferencePanel() = default;
+
+QString QVPreferencePanel::paneLabel(Pane pane)
+{
+    return tr(kPanes[std::size_t(pane)].label);
+}
+
+QString QVPreferencePanel::paneTitle(Pane pane)
+{
+    return tr(kPanes[std::size_t(pane)].title);
+}
+
+void QVPreferencePanel::showPanel()
+{
+    m_binder->reload();
+    m_logo->reload();
+    updateStorePath();
+    m_designPane->reload();
+    selectPane(Company);
+    show();
+    raise();
+    activateWindow();
+}
+
+void QVPreferencePanel::selectPane(Pane pane)
+{
+    if (pane < 0 || pane >= PaneCount)
+        return;
+    m_actions.at(pane)->setChecked(true);
+    setWindowTitle(paneTitle(pane));
+    if (pane == m_current)
+        return;
+    if (m_current != PaneCount) {
+        QWidget *old = m_panes.at(m_current);
+        m_holderLayout->removeWidget(old);
+        old->hide();
+    }
+    m_current = pane;
+    QWidget *view = m_panes.at(pane);
+    m_holderLayout->addWidget(view);
+    view->show();
+    if (pane == Design)
+        m_designPane->paneShown();
+    // The window takes the new pane's size, within the screen.
+    const QSize hint = view->sizeHint().expandedTo(view->minimumSizeHint())
+        + QSize(32, 28 + m_toolbar->sizeHint().height());
+    QSize size = hint.expandedTo(QSize(560, 0));
+    if (const QScreen *s = screen())
+        size = size.boundedTo(s->availableSize());
+    setMinimumSize(0, 0);
+    resize(size);
+}
+
+QWidget *QVPreferencePanel::createCompanyPane()
+{
+    auto *pane = new QWidget;
+    QFormLayout *form = newForm(pane);
+    form->addRow(tr("Company name:"), m_binder->text(P::prefsName));
+    form->addRow(tr("Slogan:"), m_binder->text(P::prefsSlogan));
+    form->addRow(tr("Contact:"), m_binder->block(P::prefsContact, 5));
+    form->addRow(tr("Letterbox line:"), m_binder->text(P::prefsLetterbox));
+    form->addRow(QString(), note(tr("The sender line above the address, read through a window envelope.")));
+    m_logo = new LogoWell(m_app);
+    form->addRow(tr("Logo:"), m_logo);
+    QLineEdit *currency = m_binder->text(P::prefsCurrency);
+    currency->setMaximumWidth(80);
+    form->addRow(tr("Currency sign:"), currency);
+    return pane;
+}
+
+QWidget *QVPreferencePanel::createInvoicePane()
+{
+    auto *pane = new QWidget;
+    auto *column = new QVBoxLayout(pane);
+    const auto numbering = [this](const QString &title, P::Key pattern, P::Key count, P::Key hasNumber, P::Key hasDays,
+                                  P::Key days, const QString &daysLabel) {
+        auto *box = new QGroupBox(title);
+        QFormLayout *form = newForm(box);
+        form->addRow(tr("Pattern:"), withHint(m_binder, m_binder->pattern(pattern)));
+        form->addRow(tr("Counter:"), withHint(m_binder, m_binder->number(count, 0, 999999999, tr("The counter"))));
+        form->addRow(QString(), m_binder->check(hasNumber, tr("New documents get a number")));
+        form->addRow(QString(), m_binder->check(hasDays, daysLabel));
+        form->addRow(tr("Days:"), withHint(m_binder, m_binder->number(days, 0, 3650, tr("The number of days"))));
+        return box;
+    };
+    column->addWidget(numbering(tr("Invoices"), P::invPattern, P::invCount, P::invHaveNumber, P::invHaveDueDate,
+                                P::invDefaultDueDate, tr("New invoices get a due date")));
+    column->addWidget(numbering(tr("Quotes"), P::quotPattern, P::quotCount, P::quotHaveNumber, P::quotHaveValidity,
+                                P::quotDefaultValidity, tr("New quotes get a validity date")));
+    column->addWidget(note(tr("Patterns take %COUNT%, %YEAR%, %MONTH% and %DAY%.")));
+    auto *output = new QGroupBox(tr("Output"));
+    QFormLayout *form = newForm(output);
+    form->addRow(QString(), m_binder->check(P::markInvoiceAsSent, tr("Printing or mailing marks an invoice as sent")));
+    form->addRow(tr("Print:"), m_binder->choice(P::printBehavior, {tr("At once, on the default printer"),
+                                                                    tr("After the print dialog")}));
+    form->addRow(tr("Export documents as:"), m_binder->choice(P::exportFormat, {tr("Tabo document"), tr("XML")}));
+    form->addRow(tr("Sort lines by:"), m_binder->choice(P::itemSortOrder, {tr("Title"), tr("Order of entry"),
+                                                                            tr("Newest first"), tr("Highest amount")}));
+    column->addWidget(output);
+    return pane;
+}
+
+QWidget *QVPreferencePanel::createTaxesPane()
+{
+    auto *pane = new QWidget;
+    auto *column = new QVBoxLayout(pane);
+    auto *grid = new QGridLayout;
+    grid->addWidget(new QLabel(tr("Title")), 0, 1);
+    grid->addWidget(new QLabel(tr("Rate (%)")), 0, 2);
+    struct Tax
+    {
+        P::Key enabled, title, rate, compound;
+    };
+    const std::array<Tax, 3> taxes {{{P::tax1Enabled, P::tax1Title, P::tax1Rate, P::KeyCount},
+                                     {P::tax2Enabled, P::tax2Title, P::tax2Rate, P::tax2IsCompound},
+                                     {P::tax3Enabled, P::tax3Title, P::tax3Rate, P::tax3IsCompound}}};
+    int row = 1;
+    for (const Tax &tax : taxes) {
+        grid->addWidget(m_binder->check(tax.enabled, tr("Tax %1").arg(row)), row, 0, Qt::AlignTop);
+        grid->addWidget(m_binder->text(tax.title), row, 1, Qt::AlignTop);
+        QLineEdit *rate = m_binder->rate(tax.rate);
+        rate->setMaximumWidth(90);
+        grid->addWidget(withHint(m_binder, rate), row, 2, Qt::AlignTop);
+        if (tax.compound != P::KeyCount)
+            grid->addWidget(m_binder->check(tax.compound, tr("Compound")), row, 3, Qt::AlignTop);
+        ++row;
+    }
+    column->addLayout(grid);
+    column->addWidget(note(tr("A compound tax is computed on the net amount plus the taxes before it.")));
+    column->addWidget(m_binder->check(P::beforeTaxesBool, tr("Take the discount before taxes")));
+    column->addWidget(m_binder->check(P::showSingleTaxAmounts, tr("Show each line's tax amounts")));
+    column->addWidget(m_binder->check(P::showItemSubAmount, tr("Show each line's amount before tax")));
+    column->addStretch();
+    return pane;
+}
+
+QWidget *QVPreferencePanel::createTemplatePane()
+{
+    auto *pane = new QWidget;
+    auto *column = new QVBoxLayout(pane);
+    auto *tabs = new QTabWidget;
+    tabs->setObjectName(QStringLiteral("templateTabs"));
+    struct Texts
+    {
+        const char *title;
+        P::Key conditions, footer, misc;
+    };
+    const std::array<Texts, 4> kinds {{{"Invoice", P::tempInvConditions, P::tempInvFooter, P::tempInvMisc},
+                                       {"Quote", P::tempQuotConditions, P::tempQuotFooter, P::tempQuotMisc},
+                                       {"Reminder", P::tempRemConditions, P::tempRemFooter, P::tempRemMisc},
+                                       {"Slip", P::tempSlipConditions, P::tempSlipFooter, P::tempSlipMisc}}};
+    for (const Texts &kind : kinds) {
+        auto *page = new QWidget;
+        QFormLayout *form = newForm(page);
+        form->addRow(tr("Conditions:"), m_binder->block(kind.conditions, 4));
+        form->addRow(tr("Footer:"), m_binder->block(kind.footer, 3));
+        form->addRow(tr("Free text:"), m_binder->block(kind.misc, 3));
+        tabs->addTab(page, tr(kind.title));
+    }
+    auto *mail = new QWidget;
+    newForm(mail)->addRow(tr("E-mail text:"), m_binder->block(P::tempEmailBody, 8));
+    tabs->addTab(mail, tr("E-mail"));
+    column->addWidget(tabs);
+    column->addWidget(note(tr("These texts are copied into new documents and may hold HTML.")));
+
+    auto *output = new QGroupBox(tr("Paper and rows"));
+    QFormLayout *form = newForm(output);
+    form->addRow(tr("Paper size:"), m_binder->choice(P::tempPaperSize, {tr("US Letter"), tr("US Legal"), tr("A4"),
+                                                                         tr("B4 (JIS)"), tr("B5 (JIS)")}));
+    form->addRow(QString(), m_binder->check(P::printBorderless, tr("Print and write PDFs without page margins")));
+    form->addRow(QString(), m_binder->check(P::tempUseSKU, tr("Show article numbers on rows")));
+    form->addRow(tr("Account book font:"), m_binder->text(P::tempBorderFont));
+    form->addRow(QString(), m_binder->check(P::tempPrintNumbers, tr("Number the account book's pages")));
+    form->addRow(QString(), m_binder->check(P::tempPrintDetails, tr("Print the account book with details")));
+    column->addWidget(output);
+    return pane;
+}
+
+QWidget *QVPreferencePanel::createRegionPane()
+{
+    auto *pane = new QWidget;
+    auto *column = new QVBoxLayout(pane);
+    auto *top = new QWidget;
+    QFormLayout *form = newForm(top);
+    form->setContentsMargins(0, 0, 0, 0);
+    auto *region = new QComboBox;
+    region->setEditable(true);
+    region->setObjectName(QStringLiteral("prefsRegion"));
+    for (const char *name : {"en_US", "en_GB", "de_DE", "de_AT", "de_CH", "fr_FR", "fr_BE", "fr_CH", "es_ES", "es_MX",
+                             "it_IT", "nl_NL"}) {
+        const QLocale locale {QString::fromLatin1(name)};
+        region->addItem(QStringLiteral("%1 (%2)").arg(locale.nativeLanguageName(), locale.nativeTerritoryName()),
+                        QLatin1String(name));
+    }
+    const auto showRegion = [this, region] {
+        const QString current = m_app.prefs().documentRegion();
+        const int at = region->findData(current);
+        if (at >= 0)
+            region->setCurrentIndex(at);
+        else
+            region->setEditText(current);
+    };
+    showRegion();
+    connect(m_binder, &PrefsBinder::changed, region, [showRegion](P::Key key) {
+        if (key == P::languageDefaults)
+            showRegion();
+    });
+    auto *regionHint = new HintLabel;
+    const auto setRegion = [this, region, regionHint](const QString &text) {
+        const int at = region->findText(text);
+        const QString name = at >= 0 ? region->itemData(at).toString() : text.trimmed();
+        // A name QLocale does not know falls back to "C": refuse it.
+        if (QLocale(name).name() == QLatin1String("C")) {
+            regionHint->showMessage(tr("“%1” is no region; use a name such as de_DE or fr_FR.").arg(text));
+            return;
+        }
+        regionHint->clearMessage();
+        m_app.prefs().setString(P::prefsRegion, name);
+        updateDateExample();
+        m_designPane->preferencesChanged();
+    };
+    connect(region, &QComboBox::activated, this, [region, setRegion] { setRegion(region->currentText()); });
+    connect(region->lineEdit(), &QLineEdit::editingFinished, this, [region, setRegion] {
+        setRegion(region->currentText());
+    });
+    auto *regionBox = new QWidget;
+    auto *regionColumn = new QVBoxLayout(regionBox);
+    regionColumn->setContentsMargins(0, 0, 0, 0);
+    regionColumn->addWidget(region);
+    regionColumn->addWidget(regionHint);
+    form->addRow(tr("Documents' region:"), regionBox);
+    form->addRow(QString(), note(tr("Numbers, amounts and month names on documents follow this region.")));
+    form->addRow(tr("Date pattern:"), m_binder->text(P::prefsDatePattern));
+    m_dateExample = new QLabel;
+    m_dateExample->setObjectName(QStringLiteral("dateExample"));
+    form->addRow(tr("Today:"), m_dateExample);
+    form->addRow(tr("Address pattern:"), m_binder->block(P::prefsAddressPattern, 4));
+    column->addWidget(top);
+
+    auto *labels = new QGroupBox(tr("Words printed on documents"));
+    auto *grid = new QGridLayout(labels);
+    const P::Key locKeys[] = {P::locInvoice, P::locQuote, P::locReminder, P::locSlip, P::locInvoiceNumber,
+                              P::locQuoteNumber, P::locClientNumber, P::locNumber, P::locNo, P::locDate, P::locDue,
+                              P::locOverdue, P::locExpiration, P::locDispatched, P::locDescription, P::locQuantity,
+                              P::locUnit, P::locUnitPrice, P::locSKUNumber, P::locNet, P::locSubtotal, P::locTaxes,
+                              P::locDiscount, P::locShipping, P::locTotal, P::locPageOf};
+    int i = 0;
+    for (const P::Key key : locKeys) {
+        const int row = i % 13;
+        const int col = (i / 13) * 2;
+        // "locUnitPrice" reads "Unit price".
+        QString name = key == P::locSKUNumber ? QStringLiteral("SKU number") : Preferences::info(key).name.mid(3);
+        for (qsizetype c = name.size() - 1; c > 0; --c) {
+            if (name.at(c).isUpper() && name.at(c - 1).isLower())
+                name.insert(c, QLatin1Char(' '));
+        }
+        if (key != P::locSKUNumber)
+            name = name.left(1) + name.mid(1).toLower();
+        grid->addWidget(new QLabel(name + QLatin1Char(':')), row, col, Qt::AlignRight);
+        grid->addWidget(m_binder->text(key), row, col + 1);
+        ++i;
+    }
+    column->addWidget(labels);
+
+    auto *install = new QPushButton(tr("Install Language Defaults…"));
+    install->setObjectName(QStringLiteral("installLanguageDefaults"));
+    connect(install, &QPushButton::clicked, this, &QVPreferencePanel::installLanguage);
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(install);
+    column->addLayout(row);
+    updateDateExample();
+    return pane;
+}
+
+void QVPreferencePanel::installLanguage()
+{
+    const QStringList languages {tr("English"), tr("German"), tr("French"), tr("Spanish")};
+    bool ok = false;
+    const QString chosen = QInputDialog::getItem(this, tr("Install Language Defaults"),
+                                                 tr("Language of the documents' words and texts:"), languages,
+                                                 int(std::clamp<qint64>(m_app.prefs().integer(P::languageDefaults), 0, 3)),
+                                                 false, &ok);
+    if (!ok)
+        return;
+    if (m_app.installLanguageDefaults(languages.indexOf(chosen))) {
+        m_binder->reload();
+        Q_EMIT m_binder->changed(P::languageDefaults);
+        updateDateExample();
+    }
+}
+
+void QVPreferencePanel::updateDateExample()
+{
+    if (!m_dateExample)
+        return;
+    const Preferences &prefs = m_app.prefs();
+    m_dateExample->setText(Numbering::patternDateString(prefs.string(P::prefsDatePattern), tabo::now(),
+                                                        prefs.documentRegion()));
+}
+
+QWidget *QVPreferencePanel::createClientsPane()
+{
+    auto *pane = new QWidget;
+    QFormLayout *form = newForm(pane);
+    form->addRow(tr("Client number pattern:"), withHint(m_binder, m_binder->pattern(P::clientPattern)));
+    form->addRow(tr("Counter:"),
+                 withHint(m_binder, m_binder->number(P::clientCount, 0, 999999999, tr("The counter"))));
+    form->addRow(tr("Name in the salutation:"),
+                 m_binder->choice(P::clientNamePatternTag, {tr("Last name"), tr("First and last name"),
+                                                           tr("Title and last name"), tr("Title and first name"),
+                                                           tr("Title, first and last name")}));
+    QLineEdit *vcard = m_binder->text(P::contactsVCardFile);
+    auto *choose = new QPushButton(tr("Choose…"));
+    connect(choose, &QPushButton::clicked, this, [this, vcard] {
+        Interaction::FileRequest request;
+        request.title = tr("Choose Contacts File");
+        request.extensions = {QStringLiteral("vcf"), QStringLiteral("vcard")};
+        const QString path = m_app.ui().openFile(request);
+        if (path.isEmpty())
+            return;
+        m_app.prefs().setString(P::contactsVCardFile, path);
+        vcard->setText(path);
+    });
+    auto *row = new QHBoxLayout;
+    row->addWidget(vcard);
+    row->addWidget(choose);
+    form->addRow(tr("Contacts (vCard file):"), row);
+    return pane;
+}
+
+QWidget *QVPreferencePanel::createDataPane()
+{
+    auto *pane = new QWidget;
+    auto *column = new QVBoxLayout(pane);
+    auto *location = new QGroupBox(tr("Database"));
+    QFormLayout *form = newForm(location);
+    auto *custom = new QCheckBox(tr("Keep the database in a folder of my choice"));
+    custom->setObjectName(QStringLiteral("useCustomPath"));
+    connect(custom, &QCheckBox::clicked, this, [this, custom](bool on) {
+        m_app.chooseCustomDatabasePath(on);
+        custom->setChecked(m_app.prefs().boolean(P::useCustomPath));
+        updateStorePath();
+    });
+    form->addRow(QString(), custom);
+    m_storePath = new QLineEdit;
+    m_storePath->setObjectName(QStringLiteral("storePath"));
+    m_storePath->setReadOnly(true);
+    form->addRow(tr("Stored in:"), m_storePath);
+    auto *openStore = new QPushButton(tr("Show in Folder"));
+    connect(openStore, &QPushButton::clicked, this, [this] {
+        m_app.ui().openWithDefaultApplication(QFileInfo(m_app.storeFilePath()).absolutePath());
+    });
+    form->addRow(QString(), openStore);
+    connect(m_binder, &PrefsBinder::changed, custom, [this, custom] {
+        custom->setChecked(m_app.prefs().boolean(P::useCustomPath));
+    });
+    custom->setChecked(m_app.prefs().boolean(P::useCustomPath));
+    column->addWidget(location);
+
+    auto *backups = new QGroupBox(tr("Backups"));
+    auto *grid = new QGridLayout(backups);
+    if (m_fileMenu) {
+        int i = 0;
+        for (QAction *action : m_fileMenu->backupActions()) {
+            auto *button = new QToolButton;
+            button->setDefaultAction(action);
+            button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+            button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+            grid->addWidget(button, i / 2, i % 2);
+            ++i;
+        }
+    }
+    auto *automatic = new QLabel(tr("The automatic backup is kept in %1").arg(QFileInfo(Locations::automaticBackupFile()).absolutePath()));
+    automatic->setWordWrap(true);
+    automatic->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    grid->addWidget(automatic, 4, 0, 1, 2);
+    auto *openBackups = new QPushButton(tr("Show Automatic Backup"));
+    connect(openBackups, &QPushButton::clicked, this, [this] {
+        m_app.ui().openWithDefaultApplication(QFileInfo(Locations::automaticBackupFile()).absolutePath());
+    });
+    grid->addWidget(openBackups, 5, 1);
+    column->addWidget(backups);
+    column->addStretch();
+    updateStorePath();
+    return pane;
+}
+
+void QVPreferencePanel::updateStorePath()
+{
+    if (m_storePath)
+        m_storePath->setText(m_app.storeFilePath());
+}
+
+void QVPreferencePanel::saveState()
+{
+    m_designPane->saveSelection();
+    m_app.prefs().sync();
+}
+
+void QVPreferencePanel::closeEvent(QCloseEvent *event)
+{
+    saveState();
+    QMainWindow::closeEvent(event);
+}
+
+void QVPreferencePanel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow() && isVisible())
+        saveState();
+    QMainWindow::changeEvent(event);
+}
+
+} // namespace tabo
