@@ -11,6 +11,11 @@
 #include "render/SampleDocument.h"
 
 #include <QCommandLineParser>
+#include <QFile>
+#include <QSaveFile>
+#include <QStringDecoder>
+
+#include <array>
 
 namespace tabo::cli {
 
@@ -23,9 +28,12 @@ const QString kNoDesign = QStringLiteral("No design available. Please download o
 DesignCommand::DesignCommand(Session &session)
     : Command(session, QStringLiteral("design"),
               QStringLiteral("list [--json] | add [TITLE] | delete TITLE [--yes] | default TITLE | import FILE | "
-                             "export TITLE FILE | preview FILE.pdf [--design TITLE]"),
+                             "export TITLE FILE | preview FILE.pdf [--design TITLE] | "
+                             "get TITLE [--invoice FILE] [--item FILE] [--css FILE] | "
+                             "set TITLE [--invoice FILE] [--item FILE] [--css FILE]"),
               QStringLiteral("Manage the designs documents are rendered with; preview writes the sample document "
-                             "through a design (the default one unless --design) as a PDF. TITLE may also be a "
+                             "through a design (the default one unless --design) as a PDF. get writes a design's page, row and stylesheet "
+                             "to files and set reads them back, to edit a design in any editor. TITLE may also be a "
                              "design's unique ID."))
 {
 }
@@ -41,7 +49,11 @@ int DesignCommand::execute(const QStringList &args)
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
     const QCommandLineOption design(QStringLiteral("design"), QStringLiteral("Design to preview."),
                                     QStringLiteral("TITLE"));
-    parser.addOptions({json, design});
+    const QCommandLineOption invoice(QStringLiteral("invoice"), QStringLiteral("The page's HTML file."),
+                                     QStringLiteral("FILE"));
+    const QCommandLineOption item(QStringLiteral("item"), QStringLiteral("The row's HTML file."), QStringLiteral("FILE"));
+    const QCommandLineOption css(QStringLiteral("css"), QStringLiteral("The stylesheet file."), QStringLiteral("FILE"));
+    parser.addOptions({json, design, invoice, item, css});
     int code = kExitOk;
     if (!parseConfirmed(parser, args, 1, 3, &code))
         return code;
@@ -52,6 +64,15 @@ int DesignCommand::execute(const QStringList &args)
         return usageError(QStringLiteral("--json belongs to “design list”."));
     if (parser.isSet(design) && action != QLatin1String("preview"))
         return usageError(QStringLiteral("--design belongs to “design preview”."));
+    const TextFiles files {parser.value(invoice), parser.value(item), parser.value(css)};
+    const bool texts = action == QLatin1String("get") || action == QLatin1String("set");
+    if (files.any() && !texts)
+        return usageError(QStringLiteral("--invoice, --item and --css belong to “design get” and “design set”."));
+    if (texts && n == 2) {
+        if (!files.any())
+            return usageError(QStringLiteral("Name at least one of --invoice, --item and --css."));
+        return action == QLatin1String("get") ? getTexts(pos.at(1), files) : setTexts(pos.at(1), files);
+    }
     if (action == QLatin1String("list") && n == 1)
         return list(parser.isSet(json));
     if (action == QLatin1String("add") && n <= 2)
@@ -183,6 +204,54 @@ int DesignCommand::preview(const QString &path, const QString *title)
     if (!outputs.renderHtmlToFile(html, path))
         return failure(QStringLiteral("The PDF file “%1” could not be created.").arg(path));
     return kExitOk;
+}
+
+int DesignCommand::getTexts(const QString &title, const TextFiles &files)
+{
+    QString error;
+    const Record *design = OutputRun::design(m_session, title, &error);
+    if (!design)
+        return error.isEmpty() ? kExitFailure : failure(error);
+    const std::array<std::pair<QString, int>, 3> parts {
+        {{files.invoice, Design::invoice}, {files.item, Design::item}, {files.css, Design::css}}};
+    for (const auto &[path, attr] : parts) {
+        if (path.isEmpty())
+            continue;
+        QSaveFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(design->text(attr).toUtf8()) < 0 || !file.commit())
+            return failure(QStringLiteral("“%1” could not be written.").arg(path));
+    }
+    return kExitOk;
+}
+
+int DesignCommand::setTexts(const QString &title, const TextFiles &files)
+{
+    QString error;
+    Record *design = OutputRun::design(m_session, title, &error);
+    if (!design)
+        return error.isEmpty() ? kExitFailure : failure(error);
+    const std::array<std::pair<QString, int>, 3> parts {
+        {{files.invoice, Design::invoice}, {files.item, Design::item}, {files.css, Design::css}}};
+    // Every file is read before anything changes: a bad one changes nothing.
+    std::array<QString, 3> texts;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const QString &path = parts[i].first;
+        if (path.isEmpty())
+            continue;
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return failure(QStringLiteral("“%1” cannot be read.").arg(path));
+        const QByteArray data = file.readAll();
+        QStringDecoder utf8(QStringDecoder::Utf8);
+        texts[i] = utf8(data);
+        if (utf8.hasError())
+            return failure(QStringLiteral("“%1” is not UTF-8 text.").arg(path));
+    }
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        if (!parts[i].first.isEmpty())
+            m_session.controller().designs().setDesignText(design, parts[i].second, texts[i]);
+    }
+    return m_session.controller().saveContext() ? kExitFailure : kExitOk;
 }
 
 } // namespace tabo::cli

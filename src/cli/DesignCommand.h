@@ -24,6 +24,15 @@ private:
     int importFile(const QString &path);
     int exportFile(const QString &title, const QString &path);
     int preview(const QString &path, const QString *title);
+    // The page, row and stylesheet texts to files (get) or from files (set),
+    // so that a design can be edited in any editor.
+    struct TextFiles
+    {
+        QString invoice, item, css;
+        bool any() const { return !invoice.isEmpty() || !item.isEmpty() || !css.isEmpty(); }
+    };
+    int getTexts(const QString &title, const TextFiles &files);
+    int setTexts(const QString &title, const TextFiles &files);
 };
 
 } // namespace tabo::cli

@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "cli/Console.h"
+#include "cli/JsonWriter.h"
 #include "cli/Session.h"
 #include "prefs/Preferences.h"
 
@@ -10,20 +11,29 @@
 namespace tabo::cli {
 
 PrefsCommand::PrefsCommand(Session &session)
-    : Command(session, QStringLiteral("prefs"), QStringLiteral("get KEY | set KEY VALUE | install-language N"),
-              QStringLiteral("Read or write a preference; install the language defaults "
-                             "(0 English, 1 German, 2 French, 3 Spanish)."))
+    : Command(session, QStringLiteral("prefs"), QStringLiteral("list [--json] | get KEY | set KEY VALUE | install-language N"),
+              QStringLiteral("List every preference with its type and value (stored, or the default); read or "
+                             "write one; install the language defaults (0 English, 1 German, 2 French, 3 Spanish)."))
 {
 }
 
 int PrefsCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
+    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
+    parser.addOption(json);
     int code = kExitOk;
-    if (!parse(parser, args, 2, 3, &code, true))
+    // Values may start with a dash ("-5"), so options come first, except
+    // after "list", which takes no value.
+    const bool listing = !args.isEmpty() && args.constFirst() == QLatin1String("list");
+    if (!parse(parser, args, 1, 3, &code, !listing))
         return code;
     const QStringList pos = parser.positionalArguments();
     const QString &action = pos.at(0);
+    if (parser.isSet(json) && action != QLatin1String("list"))
+        return usageError(QStringLiteral("--json belongs to “prefs list”."));
+    if (action == QLatin1String("list") && pos.size() == 1)
+        return list(parser.isSet(json));
     if (action == QLatin1String("get") && pos.size() == 2)
         return get(pos.at(1));
     if (action == QLatin1String("set") && pos.size() == 3)
@@ -31,6 +41,36 @@ int PrefsCommand::execute(const QStringList &args)
     if (action == QLatin1String("install-language") && pos.size() == 2)
         return installLanguage(pos.at(1));
     return usageError();
+}
+
+int PrefsCommand::list(bool json)
+{
+    // The controller registers the defaults that stand in for unset keys.
+    m_session.controller();
+    const Preferences &prefs = m_session.prefs();
+    QStringList lines;
+    for (int i = 0; i < Preferences::KeyCount; ++i) {
+        const auto key = Preferences::Key(i);
+        const Preferences::KeyInfo &info = Preferences::info(key);
+        const QString type = Preferences::typeName(info.type);
+        const QString text = prefs.toText(key);
+        if (!json) {
+            lines << info.name + QLatin1Char('\t') + type + QLatin1Char('\t') + QString(text).replace(QLatin1Char('\n'), QLatin1String("\\n"));
+            continue;
+        }
+        QString value;
+        switch (info.type) {
+        case Preferences::Type::Bool: value = prefs.boolean(key) ? QStringLiteral("true") : QStringLiteral("false"); break;
+        case Preferences::Type::Int: value = QString::number(prefs.integer(key)); break;
+        case Preferences::Type::Real: value = JsonWriter::number(prefs.real(key)); break;
+        default: value = JsonWriter::string(text); break;
+        }
+        lines << QStringLiteral("{\"key\": %1, \"type\": %2, \"value\": %3, \"stored\": %4}")
+                     .arg(JsonWriter::string(info.name), JsonWriter::string(type), value,
+                          prefs.contains(key) ? QStringLiteral("true") : QStringLiteral("false"));
+    }
+    printOut(json ? QLatin1Char('[') + lines.join(QStringLiteral(",\n")) + QLatin1Char(']') : lines.join(QLatin1Char('\n')));
+    return kExitOk;
 }
 
 int PrefsCommand::get(const QString &key)

@@ -12,6 +12,7 @@ public:
     int execute(const QStringList &args) override;
 
 private:
+    int list(bool json);
     int get(const QString &key);
     int set(const QString &key, const QString &value);
     int installLanguage(const QString &number);

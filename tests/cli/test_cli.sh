@@ -63,6 +63,10 @@ expect "tax1Rate" "$OUT" 0.19
 run 1 prefs get noSuchKey
 run 1 prefs set invHaveDueDate maybe
 run 1 prefs set noSuchKey 1
+run 0 prefs list
+grep -qx $'tax1Rate\treal\t0.19' <<<"$OUT" || bad "prefs list: ${OUT:0:300}"
+run 0 prefs list --json
+jcheck '[x for x in d if x["key"] == "tax1Rate"] == [{"key": "tax1Rate", "type": "real", "value": 0.19, "stored": True}] and [x["value"][0] for x in d if x["key"] == "SyntaxColoring:Color:Tags"] == ["#"] and len(d) > 140'
 
 # --- documents, lines and totals --------------------------------------------
 run 0 new invoice; A=$OUT
@@ -332,6 +336,16 @@ run 0 design default Mine
 run 0 design list
 grep -qx '\* Mine' <<<"$OUT" || bad "the default design is starred: $OUT"
 run 0 design export Mine "$T/mine.design"
+# A design edited in one's own editor and put back; a bad file changes nothing.
+run 0 design get Mine --css "$T/mine.css" --item "$T/mine-row.html"
+grep -q . "$T/mine.css" || bad "design get wrote no stylesheet"
+printf 'body { color: #123456; }\n' >"$T/mine.css"
+run 0 design set Mine --css "$T/mine.css"
+printf '\xff\xfe' >"$T/bad.html"
+run 1 design set Mine --css "$T/mine-row.html" --invoice "$T/bad.html"
+run 0 design get Mine --css "$T/back.css"
+expect "design set" "$(<"$T/back.css")" "body { color: #123456; }"
+run 2 design get Mine
 run 1 design delete Mine # not without consent
 run 0 design delete Mine --yes
 run 1 design export Mine "$T/gone.design"
