@@ -1,5 +1,6 @@
 #include "gui/PlainTextField.h"
 
+#include <QMimeData>
 #include <QTextDocument>
 
 namespace tabo {
@@ -30,8 +31,10 @@ QSize PlainTextField::sizeHint() const
 
 void PlainTextField::setTextIfChanged(const QString &text)
 {
-    if (toPlainText() != text)
+    if (toPlainText() != text) {
+        wrapFor(text);
         setPlainText(text);
+    }
     setModified(false);
 }
 
@@ -43,6 +46,29 @@ bool PlainTextField::isModified() const
 void PlainTextField::setModified(bool modified)
 {
     document()->setModified(modified);
+}
+
+void PlainTextField::wrapFor(const QString &text)
+{
+    constexpr qsizetype kLongRun = 2000;
+    qsizetype run = 0;
+    bool longRun = false;
+    for (const QChar c : text) {
+        run = c.isSpace() ? 0 : run + 1;
+        if (run > kLongRun) {
+            longRun = true;
+            break;
+        }
+    }
+    if (longRun)
+        setWordWrapMode(QTextOption::WrapAnywhere);
+}
+
+void PlainTextField::insertFromMimeData(const QMimeData *source)
+{
+    if (source && source->hasText())
+        wrapFor(source->text());
+    QPlainTextEdit::insertFromMimeData(source);
 }
 
 void PlainTextField::focusOutEvent(QFocusEvent *event)

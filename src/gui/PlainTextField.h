@@ -27,8 +27,13 @@ Q_SIGNALS:
 
 protected:
     void focusOutEvent(QFocusEvent *event) override;
+    void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    // Qt lays out a long line without a break opportunity in quadratic time
+    // (a pasted megabyte would take minutes): such text wraps anywhere.
+    void wrapFor(const QString &text);
+
     int m_lines = 0;
 };
 
