@@ -11,6 +11,7 @@
 #include "render/SampleDocument.h"
 
 #include <QFile>
+#include <QPointer>
 
 namespace tabo {
 
@@ -120,7 +121,11 @@ void DesignPreview::render()
     m_rendering = true;
     const QString path = livePdfPath();
     m_app.outputs().engine().render(sampleHtml(&design), PageSetup::fromPreferences(m_app.prefs()), path,
-                                    [this, path](bool ok) {
+                                    [this, alive = QPointer<DesignPreview>(this), path](bool ok) {
+                                        // The engine outlives the pane and answers
+                                        // what it still holds when it goes.
+                                        if (!alive)
+                                            return;
                                         m_rendering = false;
                                         if (ok)
                                             Q_EMIT ready(path);

@@ -62,7 +62,12 @@ OutputCommands::OutputCommands(AppController &app)
 {
 }
 
-OutputCommands::~OutputCommands() = default;
+OutputCommands::~OutputCommands()
+{
+    // The engine fails what it still holds as it goes; nobody is left to tell.
+    m_closing = true;
+    m_engine.reset();
+}
 
 const Record *OutputCommands::renderDesign() const
 {
@@ -380,6 +385,8 @@ void OutputCommands::renderInto(Target target, const Record *design)
 
 void OutputCommands::finishRender(Target target, bool ok)
 {
+    if (m_closing)
+        return;
     setBusy(-1);
     if (!ok) {
         failureAlert(target);

@@ -140,6 +140,7 @@ private:
     LetterMode m_mode;
     int m_exportKind = 0;
     bool m_busy = false;
+    bool m_closing = false;
     int m_running = 0;
     const Record *m_designOverride = nullptr;
     QString m_printer;
