@@ -1,8 +1,9 @@
 // Speed and memory of the foundation on a generated store of 100,000
-// documents with 500,000 lines, then the speed of rendering documents. Prints
-// two tables (--render-only: the second alone); exits non-zero only when the
-// data cannot be made.
+// documents with 500,000 lines, then the speed of rendering documents and of
+// the design editors. Prints three tables (--render-only or --editor-only:
+// that one alone); exits non-zero only when the data cannot be made.
 
+#include "EditorBench.h"
 #include "RenderBench.h"
 #include "StoreGenerator.h"
 
@@ -19,7 +20,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -162,15 +163,23 @@ int storeTable()
 
 int main(int argc, char **argv)
 {
-    // The web engine needs its flags before, and a GUI application.
+    // The web engine needs its flags before, and the editors a widget application.
     PdfEngine::prepareApplication();
-    QGuiApplication app(argc, argv);
+    QApplication app(argc, argv);
     const bool renderOnly = QCoreApplication::arguments().contains(QStringLiteral("--render-only"));
+    if (QCoreApplication::arguments().contains(QStringLiteral("--editor-only")))
+        return bench::runEditorBench();
     if (!renderOnly) {
         if (const int code = storeTable(); code != 0)
             return code;
         std::printf("\n");
     }
     std::fflush(stdout);
-    return bench::runRenderBench(QCoreApplication::applicationDirPath() + QStringLiteral("/tabo-cli"));
+    if (const int code = bench::runRenderBench(QCoreApplication::applicationDirPath() + QStringLiteral("/tabo-cli")))
+        return code;
+    if (renderOnly)
+        return 0;
+    std::printf("\n");
+    std::fflush(stdout);
+    return bench::runEditorBench();
 }

@@ -2,9 +2,13 @@
 
 #include "editing/SyntaxDefinition.h"
 
+#include <QHash>
+#include <QStringList>
+
 #include <algorithm>
 #include <bitset>
 #include <memory>
+#include <unordered_set>
 
 namespace tabo::SyntaxColoring {
 
@@ -74,14 +78,44 @@ void colorStrings(QStringView s, const SyntaxComponent &c, std::uint8_t mode, Mo
     }
 }
 
+struct ViewHash
+{
+    std::size_t operator()(QStringView v) const noexcept { return qHash(v); }
+};
+
 void colorIdentifiers(QStringView s, const SyntaxComponent &c, std::uint8_t mode, Modes &modes)
 {
     auto inWord = std::make_unique<std::bitset<65536>>();
     for (QChar ch : c.charset)
         inWord->set(ch.unicode());
+    // A keyword made of identifier characters can only match a whole run of
+    // them, so one pass over the runs with a look-up serves them all; the
+    // others are searched for one by one.
+    std::unordered_set<QStringView, ViewHash> words;
+    QStringList others;
     for (const QString &word : c.keywords) {
         if (word.isEmpty())
             continue;
+        if (std::all_of(word.begin(), word.end(), [&](QChar ch) { return inWord->test(ch.unicode()); }))
+            words.insert(word);
+        else
+            others << word;
+    }
+    if (!words.empty()) {
+        for (qsizetype i = 0; i < s.size();) {
+            if (!inWord->test(s[i].unicode())) {
+                ++i;
+                continue;
+            }
+            qsizetype e = i + 1;
+            while (e < s.size() && inWord->test(s[e].unicode()))
+                ++e;
+            if (words.count(s.sliced(i, e - i)))
+                fill(modes, i, e, mode);
+            i = e;
+        }
+    }
+    for (const QString &word : std::as_const(others)) {
         for (qsizetype a = s.indexOf(word); a >= 0; a = s.indexOf(word, a + word.size())) {
             const qsizetype e = a + word.size();
             // A keyword inside a longer identifier stays plain.

@@ -57,7 +57,8 @@ SyntaxColorizer::SyntaxColorizer(const QString &definitionName, const Preference
     // Connected before the highlighter's own slot, so the modes are current
     // when it paints the edited blocks.
     connect(document, &QTextDocument::contentsChange, this, &SyntaxColorizer::contentsChange);
-    m_modes.assign(document->toPlainText().size(), 0);
+    m_text = document->toPlainText();
+    m_modes.assign(m_text.size(), 0);
     m_highlighter->setDocument(document);
     reloadColors();
 }
@@ -91,7 +92,7 @@ void SyntaxColorizer::recolorRange(qsizetype location, qsizetype length)
     if (m_busy)
         return;
     m_busy = true;
-    const QString text = m_document->toPlainText();
+    const QString &text = m_text;
     m_modes.resize(text.size(), 0);
     location = std::clamp<qsizetype>(location, 0, text.size());
     length = std::clamp<qsizetype>(length, 0, text.size() - location);
@@ -129,7 +130,8 @@ void SyntaxColorizer::contentsChange(int position, int removed, int added)
     const std::uint8_t inherited = at > 0 ? m_modes[at - 1] : 0;
     m_modes.insert(m_modes.begin() + at, std::size_t(added), inherited);
 
-    const QString text = m_document->toPlainText();
+    syncText(position, removed, added);
+    const QString &text = m_text;
     m_modes.resize(text.size(), 0);
     if (m_indent && removed == 0 && added == 1 && position < text.size() && text.at(position) == QLatin1Char('\n')) {
         // Not inside the document's own change: on the next turn of the loop.
@@ -143,9 +145,34 @@ void SyntaxColorizer::contentsChange(int position, int removed, int added)
         recolorRange(range.location, range.length);
 }
 
+void SyntaxColorizer::syncText(int position, int removed, int added)
+{
+    // The whole text is copied only when the change does not fit the copy
+    // (a document replaced whole counts its closing separator).
+    const qsizetype documentSize = m_document->characterCount() - 1;
+    if (position < 0 || position + removed > m_text.size() || position + added > documentSize) {
+        m_text = m_document->toPlainText();
+        return;
+    }
+    QTextCursor cursor(m_document);
+    cursor.setPosition(position);
+    cursor.setPosition(position + added, QTextCursor::KeepAnchor);
+    QString inserted = cursor.selectedText();
+    // As the document's plain text has them.
+    for (QChar &c : inserted) {
+        if (c == QChar::ParagraphSeparator || c == QChar::LineSeparator)
+            c = QLatin1Char('\n');
+        else if (c == QChar::Nbsp)
+            c = QLatin1Char(' ');
+    }
+    m_text.replace(position, removed, inserted);
+    if (m_text.size() != documentSize)
+        m_text = m_document->toPlainText();
+}
+
 void SyntaxColorizer::keepIndentation(int breakPosition)
 {
-    const QString text = m_document->toPlainText();
+    const QString &text = m_text;
     if (breakPosition >= text.size() || text.at(breakPosition) != QLatin1Char('\n'))
         return;
     const QString indentation = SyntaxColoring::indentationBefore(text, breakPosition);

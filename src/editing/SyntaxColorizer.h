@@ -54,6 +54,7 @@ public:
 private:
     class Highlighter;
     void contentsChange(int position, int removed, int added);
+    void syncText(int position, int removed, int added);
     void keepIndentation(int breakPosition);
 
     const Preferences &m_prefs;
@@ -61,6 +62,9 @@ private:
     SyntaxDefinition m_baseDefinition;
     SyntaxDefinition m_definition;
     QVector<QTextCharFormat> m_formats; // by mode
+    // The document's plain text, kept in step edit by edit: copying it whole
+    // on every keystroke would cost more than colouring.
+    QString m_text;
     SyntaxColoring::Modes m_modes;
     std::unique_ptr<Highlighter> m_highlighter;
     SyntaxColoring::Range m_last;
