@@ -139,10 +139,30 @@ void TestSyntaxColoring::colorizerFollowsEdits()
     doc.undo();
     QVERIFY(doc.toPlainText().endsWith(u"<td>"_s));
 
+    // Pastes over several lines, a non-breaking space, undo and redo: the
+    // colorizer's view of the text stays the document's, so its modes are
+    // those of a fresh pass.
+    doc.setPlainText(u"a { color: red; }\nb { width: 1px; }"_s);
+    cursor = QTextCursor(&doc);
+    cursor.setPosition(2);
+    cursor.insertText(u"{}\ni\u00a0{ color:\tblue; }\n"_s);
+    cursor.setPosition(5);
+    cursor.setPosition(9, QTextCursor::KeepAnchor);
+    cursor.insertText(u"width"_s);
+    doc.undo();
+    doc.redo();
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText(u"\r\nc { color: green }"_s);
+    const QString now = doc.toPlainText();
+    const SyntaxColoring::Modes fresh = SyntaxColoring::colorText(now, colorizer.definition());
+    for (qsizetype i = 0; i < now.size(); ++i)
+        QCOMPARE(colorizer.modeAt(i), fresh[i] ? colorizer.definition().modeName(fresh[i]) : QString());
+    QCOMPARE(colorizer.modeAt(now.lastIndexOf(u"color"_s)), u"Identifiers"_s);
+
     // A user's colour reaches the text.
     prefs.setString(Preferences::syntaxIdentifiers, u"#010203"_s);
     colorizer.reloadColors();
-    QCOMPARE(colorizer.colorAt(4), QColor(1, 2, 3));
+    QCOMPARE(colorizer.colorAt(now.lastIndexOf(u"color"_s)), QColor(1, 2, 3));
 }
 
 QTEST_MAIN(TestSyntaxColoring)
