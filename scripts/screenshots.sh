@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Renders page 1 of every built-in design with the sample document into
-# docs/screenshots/designs/, in a temporary home (your own data is not touched).
+# docs/screenshots/designs/, then shoots the preview and preferences windows,
+# in a temporary home (your own data is not touched).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build="${BUILD_DIR:-build}"
@@ -45,3 +46,7 @@ id=$("$cli" new invoice)
 "$cli" add-item "$id" title="Hosting, first year" price=120 quantity=1 tax1=1
 xvfb-run -a "$(cd "$build" && pwd)/tabo" --screenshot-preview docs/screenshots/preview.png
 echo "preview: docs/screenshots/preview.png"
+
+# Each pane of the preferences window.
+xvfb-run -a -s '-screen 0 1600x1000x24' "$(cd "$build" && pwd)/tabo" --screenshot-preferences docs/screenshots/preferences
+echo "preferences: docs/screenshots/preferences/"
