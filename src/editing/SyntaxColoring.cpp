@@ -26,56 +26,53 @@ void fill(Modes &modes, qsizetype from, qsizetype to, std::uint8_t mode)
     std::fill(modes.begin() + from, modes.begin() + to, mode);
 }
 
-void colorBlockComments(QStringView s, const SyntaxComponent &c, std::uint8_t mode, Modes &modes)
+// Colours every run that opens with `c.start`; `endOf` says where a run that
+// opened at `a` (text starting at `from`) ends.
+template<typename EndOf>
+void colorRuns(QStringView s, const SyntaxComponent &c, std::uint8_t mode, Modes &modes, EndOf endOf)
 {
     for (qsizetype pos = 0;;) {
         const qsizetype a = s.indexOf(c.start, pos);
         if (a < 0)
             return;
-        const qsizetype b = s.indexOf(c.end, a + c.start.size());
-        // An unclosed comment runs to the end of what is coloured.
-        const qsizetype e = b < 0 ? s.size() : b + c.end.size();
+        const qsizetype e = endOf(a + c.start.size());
         fill(modes, a, e, mode);
         pos = e;
     }
+}
+
+void colorBlockComments(QStringView s, const SyntaxComponent &c, std::uint8_t mode, Modes &modes)
+{
+    colorRuns(s, c, mode, modes, [&](qsizetype from) {
+        const qsizetype b = s.indexOf(c.end, from);
+        // An unclosed comment runs to the end of what is coloured.
+        return b < 0 ? s.size() : b + c.end.size();
+    });
 }
 
 void colorOneLineComments(QStringView s, const SyntaxComponent &c, std::uint8_t mode, Modes &modes)
 {
-    for (qsizetype pos = 0;;) {
-        const qsizetype a = s.indexOf(c.start, pos);
-        if (a < 0)
-            return;
-        qsizetype e = a + c.start.size();
+    colorRuns(s, c, mode, modes, [&](qsizetype e) {
         while (e < s.size() && !isLineBreak(s[e]))
             ++e;
-        fill(modes, a, e, mode);
-        pos = e;
-    }
+        return e;
+    });
 }
 
 void colorStrings(QStringView s, const SyntaxComponent &c, std::uint8_t mode, Modes &modes)
 {
-    for (qsizetype pos = 0;;) {
-        const qsizetype a = s.indexOf(c.start, pos);
-        if (a < 0)
-            return;
-        qsizetype from = a + c.start.size();
-        qsizetype e = s.size();
+    colorRuns(s, c, mode, modes, [&](qsizetype from) {
         for (;;) {
             const qsizetype b = s.indexOf(c.end, from);
             if (b < 0)
-                break;
+                return s.size();
             if (b > 0 && s[b - 1] == c.escape) {
                 from = b + c.end.size();
                 continue;
             }
-            e = b + c.end.size();
-            break;
+            return b + c.end.size();
         }
-        fill(modes, a, e, mode);
-        pos = e;
-    }
+    });
 }
 
 struct ViewHash
