@@ -41,6 +41,7 @@ class TestItemCommands : public QObject
 private Q_SLOTS:
     void newLinesAndCatalogue();
     void badNumbersAreRefused();
+    void taxesOfNewLines();
     void deleteAndEditLines();
     void shippingAndDiscount();
     void sortOrders();
@@ -90,6 +91,50 @@ void TestItemCommands::badNumbersAreRefused()
     QVERIFY(ItemCommands::parseNumber(QStringLiteral(" 12.5 "), &v) && v == 12.5);
     QVERIFY(ItemCommands::parseNumber(QStringLiteral("1.234,5"), &v) && v == 1234.5);
     QLocale::setDefault(QLocale::c());
+
+    // The documents' region reads a German price on an English desktop; the
+    // message names the field as the person knows it.
+    f.prefs.setString(P::prefsRegion, QStringLiteral("de_DE"));
+    Record *line = f.add(QStringLiteral("Consulting"), QStringLiteral("12,50"));
+    QVERIFY(line);
+    QCOMPARE(line->num(Item::baseAmount), 12.5);
+    QVERIFY(!f.items.editItem(line, QStringLiteral("baseAmount"), QStringLiteral("zwölf"), &f.error));
+    QCOMPARE(f.error, QStringLiteral("The price “zwölf” is not a number."));
+}
+
+void TestItemCommands::taxesOfNewLines()
+{
+    Fixture f;
+    QVERIFY(f.app.firstAssiTabAction(1)); // German: 19 % and 7 % both charged
+    QVERIFY(f.prefs.boolean(P::tax1Enabled) && f.prefs.boolean(P::tax2Enabled));
+    ItemFields fields = f.items.newItemFields();
+    QVERIFY(fields.tax1 && !fields.tax2 && !fields.tax3);
+    QCOMPARE(fields.quantity, QStringLiteral("1"));
+
+    // The last line's taxes carry over, and so does a line without tax.
+    fields.title = QStringLiteral("Book");
+    fields.price = QStringLiteral("10");
+    fields.tax1 = false;
+    fields.tax2 = true;
+    QVERIFY(f.items.addItem(fields, &f.error));
+    fields = f.items.newItemFields();
+    QVERIFY(!fields.tax1 && fields.tax2);
+    fields.title = QStringLiteral("Export");
+    fields.price = QStringLiteral("10");
+    fields.tax2 = false;
+    QVERIFY(f.items.addItem(fields, &f.error));
+    fields = f.items.newItemFields();
+    QVERIFY(!fields.tax1 && !fields.tax2 && !fields.tax3);
+
+    // A tax no longer charged is not ticked; the first charged one is.
+    f.prefs.setBool(P::tax1Enabled, false);
+    ItemCommands fresh(f.app);
+    fields = fresh.newItemFields(); // the newest line of the document stands in
+    QVERIFY(!fields.tax1 && !fields.tax2);
+    f.items.addItem({QStringLiteral("Tea"), {}, {}, {}, {}, QStringLiteral("3"), QStringLiteral("1"), true, false, false},
+                    &f.error);
+    fields = f.items.newItemFields();
+    QVERIFY(!fields.tax1 && fields.tax2);
 }
 
 void TestItemCommands::deleteAndEditLines()

@@ -8,6 +8,7 @@
 #include "prefs/Preferences.h"
 #include "store/Store.h"
 
+#include <QHash>
 #include <QLocale>
 
 #include <algorithm>
@@ -49,16 +50,31 @@ QString numberText(double v)
 }
 
 // A typed number for the field called `what`; sets *error when it is not one.
-bool readField(const QString &text, const QString &what, double *value, QString *error)
+bool readField(const ItemCommands &commands, const QString &text, const QString &what, double *value, QString *error)
 {
     // Price and quantity are single precision: a larger number would be
     // stored as infinity.
-    if (ItemCommands::parseNumber(text, value) && fitsAttribute(AttrType::Float, *value))
+    if (commands.parseInRegion(text, value) && fitsAttribute(AttrType::Float, *value))
         return true;
     if (error)
         *error = text.trimmed().isEmpty() ? QStringLiteral("The %1 is empty; please enter a number.").arg(what)
                                           : QStringLiteral("The %1 “%2” is not a number.").arg(what, text);
     return false;
+}
+
+// A line's field as the person knows it.
+QString fieldWords(const QString &key)
+{
+    static const QHash<QString, QString> words = {
+        {QStringLiteral("baseAmount"), QStringLiteral("price")},
+        {QStringLiteral("unitCount"), QStringLiteral("quantity")},
+        {QStringLiteral("tax1Percent"), QStringLiteral("rate of the first tax")},
+        {QStringLiteral("tax2Percent"), QStringLiteral("rate of the second tax")},
+        {QStringLiteral("tax3Percent"), QStringLiteral("rate of the third tax")},
+        {QStringLiteral("amount"), QStringLiteral("amount")},
+        {QStringLiteral("subAmount"), QStringLiteral("net amount")},
+    };
+    return words.value(key, key);
 }
 
 void setError(QString *error, const QString &text)
@@ -74,7 +90,12 @@ Record *documentOf(const Record &item)
 
 } // namespace
 
-bool ItemCommands::parseNumber(const QString &text, double *value)
+bool ItemCommands::parseInRegion(const QString &text, double *value) const
+{
+    return parseNumber(text, value, QLocale(m_app.prefs().documentRegion()));
+}
+
+bool ItemCommands::parseNumber(const QString &text, double *value, const QLocale &region)
 {
     const QString t = text.trimmed();
     if (t.isEmpty())
@@ -86,12 +107,59 @@ bool ItemCommands::parseNumber(const QString &text, double *value)
     bool ok = false;
     double v = c.toDouble(t, &ok);
     if (!ok)
+        v = region.toDouble(t, &ok);
+    if (!ok)
         v = QLocale().toDouble(t, &ok);
     if (!ok || !std::isfinite(v))
         return false;
     if (value)
         *value = v;
     return true;
+}
+
+ItemFields ItemCommands::newItemFields() const
+{
+    const Preferences &prefs = m_app.prefs();
+    bool charged[3];
+    for (int k = 0; k < 3; ++k)
+        charged[k] = prefs.boolean(kTaxEnabled[k]);
+    ItemFields f;
+    f.quantity = QStringLiteral("1");
+    bool *taxes[3] = {&f.tax1, &f.tax2, &f.tax3};
+    // Without a line added in this run, the newest line of the document
+    // stands for the last one.
+    bool last[3] = {false, false, false};
+    bool known = m_hasLastTaxes;
+    if (known) {
+        std::copy(std::begin(m_lastTaxes), std::end(m_lastTaxes), std::begin(last));
+    } else if (const Record *doc = m_app.currentInvoice()) {
+        const Record *newest = nullptr;
+        for (const Record *item : doc->toMany(Invoice::items))
+            if (!newest || !(item->date(Item::misc5) < newest->date(Item::misc5)))
+                newest = item;
+        if (newest) {
+            known = true;
+            for (int k = 0; k < 3; ++k)
+                last[k] = newest->boolean(kItemApplied[k]);
+        }
+    }
+    bool any = false;
+    for (int k = 0; k < 3; ++k) {
+        *taxes[k] = known && last[k] && charged[k];
+        any = any || *taxes[k];
+    }
+    // A last line without any tax is a choice; one whose taxes are no longer
+    // charged is not.
+    const bool chosenNone = known && std::none_of(std::begin(last), std::end(last), [](bool b) { return b; });
+    if (!any && !chosenNone) {
+        for (int k = 0; k < 3; ++k) {
+            if (charged[k]) {
+                *taxes[k] = true;
+                break;
+            }
+        }
+    }
+    return f;
 }
 
 Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
@@ -104,8 +172,8 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
     }
     double price = 0;
     double quantity = 0;
-    if (!readField(fields.price, QStringLiteral("price"), &price, error)
-        || !readField(fields.quantity, QStringLiteral("quantity"), &quantity, error))
+    if (!readField(*this, fields.price, QStringLiteral("price"), &price, error)
+        || !readField(*this, fields.quantity, QStringLiteral("quantity"), &quantity, error))
         return nullptr;
 
     const Preferences &prefs = m_app.prefs();
@@ -125,6 +193,8 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
         item->setBool(kItemApplied[k], applied[k]);
         item->setSingle(kItemPercent[k], prefs.single(kTaxRate[k]));
     }
+    std::copy(std::begin(applied), std::end(applied), std::begin(m_lastTaxes));
+    m_hasLastTaxes = true;
     item->setBool(Item::isTax2Compound, prefs.boolean(P::tax2IsCompound));
     item->setBool(Item::isTax3Compound, prefs.boolean(P::tax3IsCompound));
     for (int a : {Item::subAmount, Item::amount, Item::tax1Amount, Item::tax2Amount, Item::tax3Amount})
@@ -235,11 +305,11 @@ bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &va
         double d = 0;
         bool ok = false;
         if (value.metaType() == QMetaType::fromType<QString>())
-            ok = parseNumber(value.toString(), &d);
+            ok = parseInRegion(value.toString(), &d);
         else if (value.metaType() != QMetaType::fromType<Date>())
             d = value.toDouble(&ok);
         if (!ok || !fitsAttribute(type, d)) {
-            setError(error, QStringLiteral("The value “%1” for “%2” is not a number.").arg(value.toString(), key));
+            setError(error, QStringLiteral("The %1 “%2” is not a number.").arg(fieldWords(key), value.toString()));
             return false;
         }
         v = d;
@@ -266,7 +336,7 @@ bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *e
     double amount = 0;
     // A blank amount only matters when shipping is switched on.
     if ((fields.enabled || !fields.amount.trimmed().isEmpty())
-        && !readField(fields.amount, QStringLiteral("shipping amount"), &amount, error))
+        && !readField(*this, fields.amount, QStringLiteral("shipping amount"), &amount, error))
         return false;
 
     doc->setBool(Invoice::isShippingEnabled, fields.enabled);
@@ -340,10 +410,10 @@ bool ItemCommands::closeDiscountPopover(const DiscountFields &fields, QString *e
     double amount = 0;
     double percent = 0;
     if (((needed && fixed) || !fields.amount.trimmed().isEmpty())
-        && !readField(fields.amount, QStringLiteral("discount amount"), &amount, error))
+        && !readField(*this, fields.amount, QStringLiteral("discount amount"), &amount, error))
         return false;
     if (((needed && !fixed) || !fields.percent.trimmed().isEmpty())
-        && !readField(fields.percent, QStringLiteral("discount percentage"), &percent, error))
+        && !readField(*this, fields.percent, QStringLiteral("discount percentage"), &percent, error))
         return false;
 
     doc->setBool(Invoice::isDiscountEnabled, fields.enabled);

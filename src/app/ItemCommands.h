@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QLocale>
 #include <QString>
 
 namespace tabo {
@@ -61,6 +62,9 @@ public:
     // document unchanged) when price or quantity is not a number, or when
     // there is no current document.
     Record *addItem(const ItemFields &fields, QString *error);
+    // An empty popover: quantity 1 and one tax, the taxes of the last line
+    // added (as far as they are still charged), else the first charged one.
+    ItemFields newItemFields() const;
     // addItemRecent: the popover's fields from a catalogue entry.
     ItemFields addItemRecent(const Record &recentItem) const;
     // deleteItem: refused for a sent document, asks first. False when
@@ -86,12 +90,16 @@ public:
     // them, by the preference `itemSortOrder`.
     QList<Record *> sortedItems(const Record &document) const;
 
-    // Parses a price, quantity or percentage as typed; false when it is not
-    // a finite number.
-    static bool parseNumber(const QString &text, double *value);
+    // Parses a price, quantity or percentage as typed (C notation, else the
+    // documents' region, else the desktop's); false when it is not a finite
+    // number.
+    static bool parseNumber(const QString &text, double *value, const QLocale &region = QLocale());
+    bool parseInRegion(const QString &text, double *value) const;
 
 private:
     AppController &m_app;
+    bool m_hasLastTaxes = false;
+    bool m_lastTaxes[3] = {false, false, false};
 };
 
 } // namespace tabo

@@ -194,7 +194,7 @@ void FieldBinder::commit(const Binding &b)
         auto *edit = static_cast<QLineEdit *>(b.widget);
         const QString text = edit->text().trimmed();
         double number = 0.0;
-        if (!text.isEmpty() && !ItemCommands::parseNumber(text, &number)) {
+        if (!text.isEmpty() && !m_app.items().parseInRegion(text, &number)) {
             if (b.hint)
                 b.hint->showMessage(notANumber());
             return; // the entry stays for the person to correct

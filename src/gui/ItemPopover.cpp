@@ -120,8 +120,7 @@ QWidget *ItemPopover::createCataloguePage()
 void ItemPopover::prepare()
 {
     const Preferences &prefs = m_app.prefs();
-    ItemFields empty;
-    empty.quantity = QStringLiteral("1");
+    const ItemFields empty = m_app.items().newItemFields();
     for (int k = 0; k < 3; ++k) {
         const QString title = prefs.string(kTaxTitle[k]);
         m_tax[k]->setText(QStringLiteral("%1 (%2)")
@@ -132,9 +131,6 @@ void ItemPopover::prepare()
     }
     m_form->setRowVisible(m_taxRow,
         prefs.boolean(P::tax1Enabled) || prefs.boolean(P::tax2Enabled) || prefs.boolean(P::tax3Enabled));
-    empty.tax1 = prefs.boolean(P::tax1Enabled);
-    empty.tax2 = prefs.boolean(P::tax2Enabled);
-    empty.tax3 = prefs.boolean(P::tax3Enabled);
     setFields(empty);
     m_hint->clearMessage();
     fillCatalogue();

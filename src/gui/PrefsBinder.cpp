@@ -1,5 +1,6 @@
 #include "gui/PrefsBinder.h"
 
+#include "app/ItemCommands.h"
 #include "domain/Numbering.h"
 #include "gui/HintLabel.h"
 #include "gui/PlainTextField.h"
@@ -81,16 +82,6 @@ QComboBox *PrefsBinder::choice(Preferences::Key key, const QStringList &labels)
     return combo;
 }
 
-bool PrefsBinder::parseNumber(const QString &text, double *value)
-{
-    const QString t = text.trimmed();
-    bool ok = false;
-    *value = QLocale().toDouble(t, &ok);
-    if (!ok)
-        *value = QLocale::c().toDouble(t, &ok);
-    return ok && std::isfinite(*value);
-}
-
 QLineEdit *PrefsBinder::checked(Preferences::Key key, Check check)
 {
     auto *edit = new QLineEdit;
@@ -146,9 +137,9 @@ QLineEdit *PrefsBinder::number(Preferences::Key key, qint64 minimum, qint64 maxi
 
 QLineEdit *PrefsBinder::rate(Preferences::Key key)
 {
-    return checked(key, [](const QString &t, QVariant *value) {
+    return checked(key, [this](const QString &t, QVariant *value) {
         double percent = 0;
-        if (!parseNumber(t, &percent))
+        if (!ItemCommands::parseNumber(t, &percent, QLocale(m_prefs.documentRegion())))
             return tr("The rate must be a number, such as 19 or 7.5.");
         if (percent < 0)
             return tr("The rate cannot be below 0 %.");

@@ -51,10 +51,6 @@ public:
     // Every field shows what is stored (after the language defaults).
     void reload();
 
-    // Number parsing shared by the checks: the desktop's notation first,
-    // then the plain one ("12,5" and "12.5" in German).
-    static bool parseNumber(const QString &text, double *value);
-
 Q_SIGNALS:
     void changed(tabo::Preferences::Key key);
 
