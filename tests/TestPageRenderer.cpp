@@ -68,6 +68,7 @@ private Q_SLOTS:
     void hostileValuesEnd();
     void fillingMatchesPlainReplace();
     void typedTextAndRegion();
+    void columnLabelsInEveryLanguage();
 };
 
 void TestPageRenderer::formatters()
@@ -288,6 +289,24 @@ void TestPageRenderer::fillingMatchesPlainReplace()
             for (const QString &other : names)
                 QCOMPARE(filler.contains(other), plain.contains(other));
         }
+    }
+}
+
+void TestPageRenderer::columnLabelsInEveryLanguage()
+{
+    Fixture f;
+    for (qint64 language = 0; language < 4; ++language) {
+        f.prefs.setInteger(P::languageDefaults, language);
+        QVERIFY(f.prefs.installLanguageDefaults());
+        const QString net = f.prefs.string(P::locNet);
+        const QString gross = f.prefs.string(P::locAmount);
+        QVERIFY2(!net.isEmpty() && !gross.isEmpty() && net != gross, qPrintable(net));
+        QVERIFY(!f.prefs.string(P::locVATID).isEmpty());
+        f.prefs.setBool(P::showItemSubAmount, true);
+        QCOMPARE(f.render(u"%LOCLINEAMOUNT%|%LOCAMOUNT%|%LOCVATID%"_s),
+                 net % u'|' % gross % u'|' % f.prefs.string(P::locVATID));
+        f.prefs.setBool(P::showItemSubAmount, false);
+        QCOMPARE(f.render(u"%LOCLINEAMOUNT%"_s), gross);
     }
 }
 

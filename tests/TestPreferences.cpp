@@ -49,7 +49,7 @@ void TestPreferences::languageDefaultsHoldEveryKey()
         P::locQuoteNumber, P::locClientNumber, P::locNumber, P::locNo, P::locDate, P::locDue,
         P::locOverdue, P::locExpiration, P::locDispatched, P::locDescription, P::locQuantity,
         P::locUnit, P::locUnitPrice, P::locSKUNumber, P::locNet, P::locSubtotal, P::locTaxes,
-        P::locDiscount, P::locShipping, P::locTotal, P::locPageOf, P::tempInvConditions,
+        P::locDiscount, P::locShipping, P::locTotal, P::locPageOf, P::locAmount, P::locVATID, P::tempInvConditions,
         P::tempInvFooter, P::tempInvMisc, P::tempQuotConditions, P::tempQuotFooter,
         P::tempQuotMisc, P::tempRemConditions, P::tempRemFooter, P::tempRemMisc,
         P::tempSlipConditions, P::tempSlipFooter, P::tempSlipMisc, P::tempEmailBody,

@@ -24,6 +24,7 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QGridLayout>
+#include <QHash>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QInputDialog>
@@ -391,19 +392,26 @@ QWidget *QVPreferencePanel::createRegionPane()
                               P::locQuoteNumber, P::locClientNumber, P::locNumber, P::locNo, P::locDate, P::locDue,
                               P::locOverdue, P::locExpiration, P::locDispatched, P::locDescription, P::locQuantity,
                               P::locUnit, P::locUnitPrice, P::locSKUNumber, P::locNet, P::locSubtotal, P::locTaxes,
-                              P::locDiscount, P::locShipping, P::locTotal, P::locPageOf};
+                              P::locDiscount, P::locShipping, P::locTotal, P::locPageOf, P::locAmount, P::locVATID};
+    // Where the key's own name would not say what the word is for.
+    const QHash<P::Key, QString> named = {{P::locSKUNumber, tr("SKU number")},
+                                          {P::locNet, tr("Net amounts")},
+                                          {P::locAmount, tr("Line totals")},
+                                          {P::locVATID, tr("VAT ID")}};
+    constexpr int rows = 14;
     int i = 0;
     for (const P::Key key : locKeys) {
-        const int row = i % 13;
-        const int col = (i / 13) * 2;
+        const int row = i % rows;
+        const int col = (i / rows) * 2;
         // "locUnitPrice" reads "Unit price".
-        QString name = key == P::locSKUNumber ? QStringLiteral("SKU number") : Preferences::info(key).name.mid(3);
-        for (qsizetype c = name.size() - 1; c > 0; --c) {
-            if (name.at(c).isUpper() && name.at(c - 1).isLower())
-                name.insert(c, QLatin1Char(' '));
-        }
-        if (key != P::locSKUNumber)
+        QString name = named.value(key, Preferences::info(key).name.mid(3));
+        if (!named.contains(key)) {
+            for (qsizetype c = name.size() - 1; c > 0; --c) {
+                if (name.at(c).isUpper() && name.at(c - 1).isLower())
+                    name.insert(c, QLatin1Char(' '));
+            }
             name = name.left(1) + name.mid(1).toLower();
+        }
         grid->addWidget(new QLabel(name + QLatin1Char(':')), row, col, Qt::AlignRight);
         grid->addWidget(m_binder->text(key), row, col + 1);
         ++i;

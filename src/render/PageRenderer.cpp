@@ -221,6 +221,11 @@ QString PageRenderer::invoiceHTMLString(
         page.replace(label.placeholder, pref(label.key));
     for (std::size_t i = kFirstHeading; i < kHeadingsEnd; ++i)
         page.replace(kRowLabels[i].placeholder, pref(kRowLabels[i].key));
+    // The line-amount column is headed by what it shows: net amounts when
+    // they are printed, else the line totals.
+    page.replace(u"%LOCLINEAMOUNT%", pref(m_prefs.boolean(P::showItemSubAmount) ? P::locNet : P::locAmount));
+    page.replace(u"%LOCAMOUNT%", pref(P::locAmount));
+    page.replace(u"%LOCVATID%", pref(P::locVATID));
     page.replace(u"%LOGO%", [this] { return logoValue(); });
     return page.text();
 }
