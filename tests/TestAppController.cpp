@@ -67,6 +67,24 @@ void TestAppController::startUpOnFreshInstallation()
     QVERIFY(f.app.firstAssiTabAction(1));
     QVERIFY(!f.app.needsFirstStartAssistant());
     QVERIFY(!f.app.firstAssiTabAction(7));
+
+    // Footers are composed from the details there are, never with blanks.
+    QCOMPARE(f.prefs.string(P::tempInvFooter), QString());
+    f.prefs.setString(P::prefsName, QStringLiteral("Muster GmbH"));
+    f.prefs.setString(P::prefsCity, QStringLiteral("Berlin"));
+    f.prefs.setString(P::prefsVATID, QStringLiteral("DE123456789"));
+    f.prefs.setString(P::prefsIBAN, QStringLiteral("DE02 1203 0000 0000 2020 51"));
+    f.ui.answers = {1};
+    QVERIFY(!f.app.recomposeFooters());
+    QCOMPARE(f.prefs.string(P::tempQuotFooter), QString());
+    f.ui.answers = {0};
+    QVERIFY(f.app.recomposeFooters());
+    const QString footer = QStringLiteral("Muster GmbH · Berlin\nUSt-IdNr.: DE123456789\nIBAN: DE02 1203 0000 0000 2020 51");
+    QCOMPARE(f.prefs.string(P::tempQuotFooter), footer);
+    QCOMPARE(f.prefs.string(P::tempSlipFooter), footer);
+    QVERIFY(f.app.firstAssiTabAction(3)); // Spanish: the same details in its words
+    QCOMPARE(f.prefs.string(P::tempInvFooter),
+             QStringLiteral("Muster GmbH · Berlin\nNIF-IVA: DE123456789\nIBAN: DE02 1203 0000 0000 2020 51"));
 }
 
 void TestAppController::upgradePrompt()

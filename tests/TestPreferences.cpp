@@ -50,9 +50,9 @@ void TestPreferences::languageDefaultsHoldEveryKey()
         P::locOverdue, P::locExpiration, P::locDispatched, P::locDescription, P::locQuantity,
         P::locUnit, P::locUnitPrice, P::locSKUNumber, P::locNet, P::locSubtotal, P::locTaxes,
         P::locDiscount, P::locShipping, P::locTotal, P::locPageOf, P::locAmount, P::locVATID, P::tempInvConditions,
-        P::tempInvFooter, P::tempInvMisc, P::tempQuotConditions, P::tempQuotFooter,
-        P::tempQuotMisc, P::tempRemConditions, P::tempRemFooter, P::tempRemMisc,
-        P::tempSlipConditions, P::tempSlipFooter, P::tempSlipMisc, P::tempEmailBody,
+        P::tempFooterPattern, P::tempInvMisc, P::tempQuotConditions,
+        P::tempQuotMisc, P::tempRemConditions, P::tempRemMisc,
+        P::tempSlipConditions, P::tempSlipMisc, P::tempEmailBody,
         P::invPattern, P::quotPattern, P::clientPattern, P::invCount, P::quotCount,
         P::clientCount, P::invDefaultDueDate, P::quotDefaultValidity, P::prefsDatePattern,
         P::prefsAddressPattern, P::prefsCurrency, P::tax1Title, P::tax2Title, P::tax3Title,
@@ -76,6 +76,12 @@ void TestPreferences::languageDefaultsHoldEveryKey()
             QVERIFY2(prefs.contains(key), qPrintable(QString::number(lang) + ' ' + name));
             if (P::info(key).type == P::Type::String)
                 QVERIFY2(!prefs.string(key).trimmed().isEmpty(), qPrintable(name));
+        }
+        // Nothing on a customer's document asks to be filled in by hand.
+        for (int k = 0; k < P::KeyCount; ++k) {
+            const auto key = P::Key(k);
+            if (P::info(key).type == P::Type::String)
+                QVERIFY2(!prefs.string(key).contains(QLatin1Char('[')), qPrintable(P::info(key).name));
         }
         QCOMPARE(prefs.string(P::locInvoice), invoiceWord[lang]);
         QCOMPARE(prefs.string(P::prefsCurrency), currency[lang]);

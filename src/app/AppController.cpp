@@ -10,6 +10,7 @@
 #include "app/OutputCommands.h"
 #include "app/TemplateCommands.h"
 #include "base/Clock.h"
+#include "domain/CompanyFooter.h"
 #include "domain/Numbering.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
@@ -333,9 +334,33 @@ bool AppController::firstAssiTabAction(qint64 languageDefaults)
     }
     m_prefs.setInteger(P::languageDefaults, languageDefaults);
     const bool installed = m_prefs.installLanguageDefaults();
+    if (installed)
+        composeFooters();
     m_prefs.setBool(P::firstStartEverDone, true);
     m_prefs.sync();
     return installed;
+}
+
+void AppController::composeFooters()
+{
+    const QString footer = CompanyFooter::compose(m_prefs);
+    for (const P::Key key : {P::tempInvFooter, P::tempQuotFooter, P::tempRemFooter, P::tempSlipFooter})
+        m_prefs.setString(key, footer);
+}
+
+bool AppController::recomposeFooters()
+{
+    const int answer = m_ui.alert(
+        QStringLiteral("Compose Footers?"),
+        QStringLiteral("The footers of invoices, quotes, reminders and delivery slips are replaced by one made from "
+                       "your company's address, tax and bank details:\n\n%1")
+            .arg(CompanyFooter::compose(m_prefs)),
+        {QStringLiteral("Compose"), QStringLiteral("Cancel")});
+    if (answer != 0)
+        return false;
+    composeFooters();
+    m_prefs.sync();
+    return true;
 }
 
 AppController::TerminateReply AppController::applicationShouldTerminate()

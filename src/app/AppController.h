@@ -101,6 +101,11 @@ public:
     // The first page of the first-start assistant: installs the language
     // defaults chosen by `languageDefaults`. False when nothing was installed.
     bool firstAssiTabAction(qint64 languageDefaults);
+    // The footers of every kind of document, composed anew from the
+    // seller's details (after the language defaults or the assistant).
+    void composeFooters();
+    // The same as a command: asks first, since it replaces edited footers.
+    bool recomposeFooters();
     bool needsFirstStartAssistant() const;
 
     QString backupPath() const { return m_backupPath; }

@@ -8,7 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
-#include <QPlainTextEdit>
+#include <QStringList>
 #include <QVBoxLayout>
 #include <QWizardPage>
 
@@ -46,41 +46,88 @@ FirstStartAssistant::FirstStartAssistant(AppController &app, QWidget *parent) : 
     languageLayout->addRow(tr("Documents in:"), m_language);
     addPage(languagePage);
 
-    auto *companyPage = new QWizardPage;
-    companyPage->setTitle(tr("Your company"));
-    companyPage->setSubTitle(tr("These details head every document you send."));
-    m_name = new QLineEdit;
-    m_slogan = new QLineEdit;
-    m_contact = new QPlainTextEdit;
-    m_contact->setPlaceholderText(tr("Street\nPostcode and city\nPhone, e-mail, website"));
-    m_contact->setTabChangesFocus(true);
-    auto *companyLayout = new QFormLayout(companyPage);
-    companyLayout->addRow(tr("Company name:"), m_name);
-    companyLayout->addRow(tr("Slogan:"), m_slogan);
-    companyLayout->addRow(tr("Contact:"), m_contact);
-    addPage(companyPage);
+    using P = Preferences;
+    const auto page = [this](const QString &title, const QString &subtitle,
+                             std::initializer_list<std::pair<P::Key, QString>> rows) {
+        auto *p = new QWizardPage;
+        p->setTitle(title);
+        p->setSubTitle(subtitle);
+        auto *form = new QFormLayout(p);
+        for (const auto &[key, label] : rows) {
+            auto *edit = new QLineEdit;
+            edit->setObjectName(Preferences::info(key).name);
+            form->addRow(label, edit);
+            m_fields.append({key, edit});
+        }
+        addPage(p);
+    };
+    page(tr("Your company"), tr("These details head every document you send."),
+         {{P::prefsName, tr("Company name:")},
+          {P::prefsSlogan, tr("Slogan:")},
+          {P::prefsStreet, tr("Street:")},
+          {P::prefsPostcode, tr("Postcode:")},
+          {P::prefsCity, tr("City:")},
+          {P::prefsCountry, tr("Country code:")},
+          {P::prefsPhone, tr("Phone:")},
+          {P::prefsEmail, tr("E-mail:")}});
+    page(tr("Taxes and bank"),
+         tr("Invoices must name your tax number or VAT ID, and your customers need your bank details to pay. "
+            "They go into the footer of every document; leave out what you do not have."),
+         {{P::prefsVATID, tr("VAT ID:")},
+          {P::prefsTaxNumber, tr("Tax number:")},
+          {P::prefsBank, tr("Bank:")},
+          {P::prefsIBAN, tr("IBAN:")},
+          {P::prefsBIC, tr("BIC:")}});
+    field(P::prefsCountry)->setMaxLength(2);
+    field(P::prefsCountry)->setPlaceholderText(tr("DE, FR, US…"));
+}
+
+QLineEdit *FirstStartAssistant::field(Preferences::Key key) const
+{
+    for (const auto &[k, edit] : m_fields)
+        if (k == key)
+            return edit;
+    return nullptr;
 }
 
 bool FirstStartAssistant::validateCurrentPage()
 {
     if (currentId() == 0) {
         m_app.firstAssiTabAction(m_language->currentIndex());
-        m_name->setFocus();
+        static const char *const countries[] = {"US", "DE", "FR", "ES"};
+        QLineEdit *country = field(Preferences::prefsCountry);
+        if (country->text().isEmpty())
+            country->setText(QLatin1String(countries[m_language->currentIndex()]));
+        companyName()->setFocus();
     }
     return QWizard::validateCurrentPage();
 }
 
 void FirstStartAssistant::done(int result)
 {
+    using P = Preferences;
     Preferences &prefs = m_app.prefs();
     if (result == QDialog::Accepted) {
-        if (!m_name->text().trimmed().isEmpty())
-            prefs.setString(Preferences::prefsName, m_name->text().trimmed());
-        if (!m_slogan->text().trimmed().isEmpty())
-            prefs.setString(Preferences::prefsSlogan, m_slogan->text().trimmed());
-        if (!m_contact->toPlainText().trimmed().isEmpty())
-            prefs.setString(Preferences::prefsContact, m_contact->toPlainText().trimmed());
-        prefs.setBool(Preferences::isAssiDone, true);
+        for (const auto &[key, edit] : std::as_const(m_fields)) {
+            QString value = edit->text().trimmed();
+            if (key == P::prefsCountry || key == P::prefsIBAN || key == P::prefsBIC)
+                value = value.toUpper();
+            if (!value.isEmpty())
+                prefs.setString(key, value);
+        }
+        // The block beside the address, unless one was written before.
+        if (prefs.string(P::prefsContact).trimmed().isEmpty()) {
+            QStringList contact;
+            const QStringList lines = {prefs.string(P::prefsStreet),
+                                       prefs.string(P::prefsPostcode) + QLatin1Char(' ') + prefs.string(P::prefsCity),
+                                       prefs.string(P::prefsPhone), prefs.string(P::prefsEmail)};
+            for (const QString &line : lines)
+                if (!line.trimmed().isEmpty())
+                    contact << line.trimmed();
+            prefs.setString(P::prefsContact, contact.join(QLatin1Char('\n')));
+        }
+        m_app.composeFooters();
+        prefs.setBool(P::isAssiDone, true);
     }
     prefs.sync();
     QWizard::done(result);

@@ -1,17 +1,20 @@
 #pragma once
 
+#include "prefs/Preferences.h"
+
+#include <QList>
 #include <QWizard>
 
 class QComboBox;
 class QLineEdit;
-class QPlainTextEdit;
 
 namespace tabo {
 
 class AppController;
 
 // Shown once, on the first start: the language of the document texts (which
-// installs that language's defaults) and the company's own details.
+// installs that language's defaults) and the company's own details, from
+// which the contact block and the documents' footers are composed.
 class FirstStartAssistant : public QWizard
 {
     Q_OBJECT
@@ -20,7 +23,9 @@ public:
     explicit FirstStartAssistant(AppController &app, QWidget *parent = nullptr);
 
     QComboBox *languageChoice() const { return m_language; }
-    QLineEdit *companyName() const { return m_name; }
+    QLineEdit *companyName() const { return field(Preferences::prefsName); }
+    // The field of one of the seller's details (prefsName, prefsStreet…).
+    QLineEdit *field(Preferences::Key key) const;
 
 protected:
     bool validateCurrentPage() override;
@@ -29,9 +34,7 @@ protected:
 private:
     AppController &m_app;
     QComboBox *m_language = nullptr;
-    QLineEdit *m_name = nullptr;
-    QLineEdit *m_slogan = nullptr;
-    QPlainTextEdit *m_contact = nullptr;
+    QList<std::pair<Preferences::Key, QLineEdit *>> m_fields;
 };
 
 } // namespace tabo

@@ -214,6 +214,29 @@ QWidget *QVPreferencePanel::createCompanyPane()
     QLineEdit *currency = m_binder->text(P::prefsCurrency);
     currency->setMaximumWidth(80);
     form->addRow(tr("Currency sign:"), currency);
+
+    // Two columns keep the pane no taller than the others.
+    auto *details = new QGroupBox(tr("Address, taxes and bank (for footers)"));
+    auto *grid = new QGridLayout(details);
+    const std::pair<P::Key, QString> fields[] = {
+        {P::prefsStreet, tr("Street:")},  {P::prefsPostcode, tr("Postcode:")},  {P::prefsCity, tr("City:")},
+        {P::prefsCountry, tr("Country code:")}, {P::prefsPhone, tr("Phone:")},  {P::prefsEmail, tr("E-mail:")},
+        {P::prefsVATID, tr("VAT ID:")},   {P::prefsTaxNumber, tr("Tax number:")}, {P::prefsBank, tr("Bank:")},
+        {P::prefsIBAN, tr("IBAN:")},      {P::prefsBIC, tr("BIC:")}};
+    int i = 0;
+    for (const auto &[key, label] : fields) {
+        grid->addWidget(new QLabel(label), i / 2, (i % 2) * 2, Qt::AlignRight);
+        grid->addWidget(m_binder->text(key), i / 2, (i % 2) * 2 + 1);
+        ++i;
+    }
+    auto *compose = new QPushButton(tr("Compose Footers…"));
+    compose->setObjectName(QStringLiteral("composeFooters"));
+    connect(compose, &QPushButton::clicked, this, [this] {
+        if (m_app.recomposeFooters())
+            m_binder->reload();
+    });
+    grid->addWidget(compose, i / 2, 2, 1, 2, Qt::AlignRight);
+    form->addRow(details);
     return pane;
 }
 

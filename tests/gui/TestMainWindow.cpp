@@ -229,8 +229,14 @@ void TestMainWindow::firstStartAssistantInstallsLanguage()
     QCOMPARE(f.prefs.string(Preferences::locInvoice), QStringLiteral("Rechnung"));
     QVERIFY(!f.app.needsFirstStartAssistant());
     assistant.companyName()->setText(QStringLiteral("  Atelier Nord  "));
+    QCOMPARE(assistant.field(Preferences::prefsCountry)->text(), QStringLiteral("DE"));
+    assistant.field(Preferences::prefsCity)->setText(QStringLiteral("Kiel"));
+    assistant.field(Preferences::prefsIBAN)->setText(QStringLiteral("de02 1203 0000 0000 2020 51"));
     assistant.accept();
     QCOMPARE(f.prefs.string(Preferences::prefsName), QStringLiteral("Atelier Nord"));
+    QCOMPARE(f.prefs.string(Preferences::prefsContact), QStringLiteral("Kiel"));
+    QCOMPARE(f.prefs.string(Preferences::tempInvFooter),
+             QStringLiteral("Atelier Nord · Kiel\nIBAN: DE02 1203 0000 0000 2020 51"));
     QVERIFY(f.prefs.boolean(Preferences::isAssiDone));
 }
 
