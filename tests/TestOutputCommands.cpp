@@ -237,11 +237,17 @@ private Q_SLOTS:
         };
 
         reset(3); // paid: printing again opens it again
+        QVERIFY(f.app.summary().paidAmount > 0);
+        QSignalSpy summaryChanged(&f.app, &AppController::summaryChanged);
         QVERIFY(f.exportAs(OutputCommands::Print));
         QCOMPARE(f.prefs.string(P::currentPrintJobTitle), title);
         const QStringList lp = standInArgs(QStringLiteral("lp"));
         QVERIFY2(lp.contains(title) && lp.last() == f.app.pdfPath(), qPrintable(lp.join(u' ')));
         QCOMPARE(f.doc->integer(Invoice::status), 1);
+        // ... and the summary no longer counts it as paid.
+        QVERIFY(!summaryChanged.isEmpty());
+        QCOMPARE(f.app.summary().paidAmount, 0.0f);
+        QVERIFY(!f.doc->boolean(Invoice::isPaid));
 
         reset(0);
         f.prefs.setInteger(P::printBehavior, 1);
@@ -281,6 +287,25 @@ private Q_SLOTS:
                                     QStringLiteral("erika@example.org")}));
         QVERIFY(QFile::exists(f.app.pdfEmailPath()));
         QCOMPARE(f.doc->integer(Invoice::status), 1);
+
+        // Without a mail program the person is told so and offered the PDF.
+        reset(0);
+        QFile mailer(m_bin.filePath(QStringLiteral("xdg-email")));
+        QVERIFY(mailer.open(QIODevice::ReadOnly));
+        const QByteArray script = mailer.readAll();
+        mailer.close();
+        QVERIFY(mailer.open(QIODevice::WriteOnly) && mailer.write("#!/bin/sh\necho 'xdg-email: no method' >&2\nexit 3\n"));
+        mailer.close();
+        const QString mailed = QDir(f.home.path()).filePath(QStringLiteral("mailed.pdf"));
+        f.ui.answers = {0};
+        f.ui.files << mailed;
+        QVERIFY(f.exportAs(OutputCommands::Email));
+        QCOMPARE(f.ui.lastAlertText().section(u'\n', 0, 0), QStringLiteral("No e-mail program is set up on this computer."));
+        QCOMPARE(f.ui.alerts.last().buttons.first(), QStringLiteral("Save PDF…"));
+        QVERIFY(QFile::exists(mailed));
+        QVERIFY(mailer.open(QIODevice::WriteOnly) && mailer.write(script));
+        mailer.close();
+        f.ui.alerts.clear();
 
         reset(0);
         QVERIFY(f.exportAs(9));

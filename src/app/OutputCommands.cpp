@@ -277,7 +277,16 @@ bool OutputCommands::sendEmail()
     QString error;
     if (MailHandoff::compose(message, &error))
         return true;
-    m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
+    // The PDF is made: offer it another way out.
+    const int answer = m_app.ui().alert(
+        QStringLiteral("The E-Mail Could Not Be Written"),
+        error + QStringLiteral("\n\nYou can save the PDF and attach it to a message yourself, or open the folder "
+                               "that holds it."),
+        {QStringLiteral("Save PDF…"), QStringLiteral("Open Folder"), QStringLiteral("Cancel")});
+    if (answer == 0)
+        savePdf(*invoice);
+    else if (answer == 1)
+        m_app.ui().openWithDefaultApplication(QFileInfo(message.attachment).absolutePath());
     return false;
 }
 
@@ -285,7 +294,12 @@ void OutputCommands::markInvoiceAsSent(Record *document)
 {
     if (!document || document->integer(Invoice::kind) != 1 || !m_app.prefs().boolean(P::markInvoiceAsSent))
         return;
-    // A paid invoice sent again is open again.
+    // A paid invoice sent again is open again, and so no longer counts as
+    // paid (a part payment stays received).
+    if (document->integer(Invoice::status) == 3) {
+        document->setNum(Invoice::paidAmount, 0.0);
+        document->setBool(Invoice::isPaid, false);
+    }
     document->setInt(Invoice::status, 1);
     m_app.documentChanged(document);
 }

@@ -37,20 +37,35 @@ bool MailHandoff::compose(const MailMessage &message, QString *error)
     xdgEmail->setStandardInputFile(QProcess::nullDevice());
     xdgEmail->start();
     if (!xdgEmail->waitForStarted())
-        return fail(QStringLiteral("No mail program could be started: the program \"xdg-email\" was not found."));
+        return fail(noMailProgram());
     if (!xdgEmail->waitForFinished(XdgEmailTimeoutMs)) {
         QProcess *running = xdgEmail.release();
         QObject::connect(running, &QProcess::finished, running, &QObject::deleteLater);
         return true;
     }
-    if (xdgEmail->exitStatus() != QProcess::NormalExit || xdgEmail->exitCode() != 0) {
-        QString reason = QString::fromLocal8Bit(xdgEmail->readAllStandardError()).trimmed();
-        reason = reason.section(QLatin1Char('\n'), 0, 0);
-        if (reason.isEmpty())
-            reason = QStringLiteral("xdg-email ended with code %1").arg(xdgEmail->exitCode());
-        return fail(QStringLiteral("The message could not be handed to the mail program: %1").arg(reason));
-    }
+    if (xdgEmail->exitStatus() != QProcess::NormalExit || xdgEmail->exitCode() != 0)
+        return fail(reasonForExit(xdgEmail->exitStatus() == QProcess::NormalExit ? xdgEmail->exitCode() : -1));
     return true;
+}
+
+QString MailHandoff::noMailProgram()
+{
+    return QStringLiteral("No e-mail program is set up on this computer.");
+}
+
+QString MailHandoff::reasonForExit(int code)
+{
+    // xdg-email's codes: 2 a file is missing, 3 no mail program, 4 it refused.
+    switch (code) {
+    case 2:
+        return QStringLiteral("The PDF to attach could not be found.");
+    case 3:
+        return noMailProgram();
+    case 4:
+        return QStringLiteral("The e-mail program did not accept the new message.");
+    default:
+        return QStringLiteral("The e-mail program could not be asked to write the message.");
+    }
 }
 
 } // namespace tabo

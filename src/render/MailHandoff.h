@@ -21,6 +21,9 @@ public:
     static QStringList arguments(const MailMessage &message);
     // False with a one-line reason when `xdg-email` is missing or fails.
     static bool compose(const MailMessage &message, QString *error);
+    // The person's words for a failed hand-off (never the tool's output).
+    static QString noMailProgram();
+    static QString reasonForExit(int code);
 };
 
 } // namespace tabo
