@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 packages=(
   build-essential cmake ninja-build pkg-config python3
   qt6-base-dev qt6-base-dev-tools
-  libsqlite3-dev libicu-dev libplist-dev
+  libsqlite3-dev libicu-dev libplist-dev libqpdf-dev
   qt6-webengine-dev qt6-webengine-dev-tools libqt6webenginecore6-bin qt6-pdf-dev
   fonts-dejavu-core fonts-liberation2
   cups-client xdg-utils poppler-utils

@@ -8,6 +8,7 @@
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
 #include "render/Formatters.h"
+#include "render/PageStamp.h"
 #include "render/PdfEngine.h"
 
 #include <QDir>
@@ -146,6 +147,23 @@ private Q_SLOTS:
         QVERIFY(!pdfText(paths[1]).contains(QStringLiteral("Erika Muster")));
         QVERIFY(f.out.invoiceHTMLString(*other).contains(QStringLiteral("Hans Beispiel")));
         QCOMPARE(f.app.currentInvoice(), f.doc);
+
+        // Several pages are numbered and name the document; one page is not.
+        QVERIFY(!pdfText(paths[0]).contains(QStringLiteral("Page 1")));
+        f.prefs.setString(P::locPageOf, QStringLiteral("Seite %1 von %2"));
+        f.app.setCurrentInvoice(other);
+        QString error;
+        for (int i = 0; i < 45; ++i)
+            QVERIFY(f.app.items().addItem({QStringLiteral("Line %1").arg(i), {}, {}, {}, {}, QStringLiteral("10"),
+                                           QStringLiteral("1"), false, false, false},
+                                          &error));
+        other->setText(Invoice::number, QStringLiteral("RE-7"));
+        QVERIFY(f.out.renderDocumentToFile(*other, paths[1]));
+        const QString text = pdfText(paths[1]);
+        const QString count = QString::number(text.count(QStringLiteral("RE-7 · Seite ")));
+        QVERIFY2(count.toInt() >= 2 && text.contains(QStringLiteral("RE-7 · Seite %1 von %1").arg(count)),
+                 qPrintable(text.right(300)));
+        QCOMPARE(PageStamp::patternFor(QString(), QStringLiteral("Page")), QStringLiteral("Page %1 / %2"));
     }
 
     void previewAndLetters()

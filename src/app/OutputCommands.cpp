@@ -10,6 +10,7 @@
 #include "render/Formatters.h"
 #include "render/MailHandoff.h"
 #include "render/PageSetup.h"
+#include "render/PageStamp.h"
 #include "render/PdfEngine.h"
 #include "render/PrintSystem.h"
 
@@ -317,17 +318,29 @@ void OutputCommands::selectDesign(int index)
     renderInto(Target::DesignChoice, designs.at(index));
 }
 
+PageSetup OutputCommands::pageSetupFor(const Record &document) const
+{
+    PageSetup setup = PageSetup::fromPreferences(m_app.prefs());
+    setup.pageStamp = PageStamp::patternFor(document.text(Invoice::number), m_app.prefs().string(P::locPageOf));
+    return setup;
+}
+
 bool OutputCommands::renderDocumentToFile(const Record &document, const QString &path)
 {
-    return renderHtmlToFile(invoiceHTMLString(document), path);
+    return renderHtmlToFile(invoiceHTMLString(document), path, pageSetupFor(document));
 }
 
 bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path)
 {
+    return renderHtmlToFile(html, path, PageSetup::fromPreferences(m_app.prefs()));
+}
+
+bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path, const PageSetup &setup)
+{
     if (!canRender())
         return false;
     setBusy(+1);
-    const bool ok = engine().renderAndWait(html, PageSetup::fromPreferences(m_app.prefs()), path) && isPdfFile(path);
+    const bool ok = engine().renderAndWait(html, setup, path) && isPdfFile(path);
     setBusy(-1);
     return ok;
 }
@@ -336,7 +349,6 @@ QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &docume
 {
     if (!canRender())
         return paths;
-    const PageSetup setup = PageSetup::fromPreferences(m_app.prefs());
     QStringList failed;
     QEventLoop loop;
     qsizetype next = 0;
@@ -348,7 +360,7 @@ QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &docume
             const qsizetype i = next++;
             const QString html = invoiceHTMLString(*documents.at(i));
             ++inFlight;
-            engine().render(html, setup, paths.at(i), [&, i](bool ok) {
+            engine().render(html, pageSetupFor(*documents.at(i)), paths.at(i), [&, i](bool ok) {
                 --inFlight;
                 if (!ok || !isPdfFile(paths.at(i)))
                     failed << paths.at(i);
@@ -393,7 +405,7 @@ void OutputCommands::renderInto(Target target, const Record *design)
     const QString html = invoiceHTMLString(*invoice, design);
     const QString path = m_app.pdfPath();
     setBusy(+1);
-    engine().render(html, PageSetup::fromPreferences(m_app.prefs()), path,
+    engine().render(html, pageSetupFor(*invoice), path,
                     [this, target, path](bool ok) { finishRender(target, ok && isPdfFile(path)); });
 }
 

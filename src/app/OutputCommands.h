@@ -12,6 +12,7 @@ namespace tabo {
 class AppController;
 class Formatters;
 class PdfEngine;
+struct PageSetup;
 class Record;
 
 // Preview, PDF, print and e-mail of the current document. Every output goes
@@ -90,6 +91,9 @@ public:
     // Renders any page into `path` and waits (the design preview of the
     // command line).
     bool renderHtmlToFile(const QString &html, const QString &path);
+    bool renderHtmlToFile(const QString &html, const QString &path, const PageSetup &setup);
+    // Paper and margins, and the line numbering the document's pages.
+    PageSetup pageSetupFor(const Record &document) const;
     // Renders each document into the path of the same index, several at a
     // time, and waits; returns the paths that failed.
     QStringList renderDocumentsToFiles(const QList<Record *> &documents, const QStringList &paths);

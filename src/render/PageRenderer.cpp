@@ -150,7 +150,9 @@ QString PageRenderer::invoiceHTMLString(
     page.replace(u"%DUEDATE%", date(slip ? Invoice::dispatched : Invoice::due));
     page.replace(u"%NUMBER%", typed(Invoice::number));
     page.replace(u"%CLIENTNUMBER%", typed(Invoice::clientNumber));
-    page.replace(u"%CLIENTNAME%", typed(Invoice::customerName));
+    // A name put together from empty parts is only blanks: it greets no one.
+    page.replace(u"%CLIENTNAME%",
+                 [&] { return Formatters::htmlTextFromPlainText(invoice.text(Invoice::customerName).trimmed()); });
     page.replace(u"%CLIENTVATID%", typed(Invoice::customerVATID));
     page.replace(u"%LOCDATE%", pref(P::locDate));
     const P::Key dueLabel = invoice.integer(Invoice::kind) == 0 ? P::locExpiration

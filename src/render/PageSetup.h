@@ -16,6 +16,9 @@ struct PageSetup
     QString paperName = QStringLiteral("na-letter"); // the print system's name
     QMarginsF margins{40, 40, 40, 60};               // points: left, top, right, bottom
     bool centred = true;
+    // The line numbering the pages of a document of several pages (see
+    // PageStamp); empty for none.
+    QString pageStamp;
 
     // 0 "na-letter", 1 "na-legal", 2 "iso-a4", 3 "jis-b4", 4 "jis-b5"; any other "na-letter".
     static QString paperNameForSize(qint64 tempPaperSize);

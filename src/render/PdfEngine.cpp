@@ -3,6 +3,7 @@
 #include "render/GuardedPage.h"
 #include "render/PageGuard.h"
 #include "render/PageSchemeHandler.h"
+#include "render/PageStamp.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -44,6 +45,7 @@ struct Job
 {
     QByteArray html;
     QPageLayout layout;
+    QString pageStamp;
     QString path;
     std::function<void(bool)> done;
 };
@@ -227,7 +229,8 @@ QStringList PdfEngine::blockedRequests() const
 void PdfEngine::render(const QString &html, const PageSetup &setup, const QString &path,
                        std::function<void(bool ok)> done)
 {
-    d->queue.push_back(Job{PageGuard::withoutRefresh(html.toUtf8()), setup.pageLayout(), path, std::move(done)});
+    d->queue.push_back(
+        Job{PageGuard::withoutRefresh(html.toUtf8()), setup.pageLayout(), setup.pageStamp, path, std::move(done)});
     d->startNext();
 }
 
@@ -284,9 +287,10 @@ void PdfEngine::Private::pageLoaded(Lane *lane, bool ok)
     const quint64 current = lane->generation;
     QPointer<PdfEngine> self(q);
     lane->page->printToPdf(
-        [self, lane, current](const QByteArray &pdf) {
+        [self, lane, current](const QByteArray &printed) {
             if (!self || lane->generation != current || !lane->job)
                 return;
+            const QByteArray pdf = printed.isEmpty() ? printed : PageStamp::apply(printed, lane->job->pageStamp);
             QSaveFile file(lane->job->path);
             const bool written = !pdf.isEmpty() && file.open(QIODevice::WriteOnly)
                                  && file.write(pdf) == pdf.size() && file.commit();
