@@ -167,6 +167,46 @@ private Q_SLOTS:
         list.setFilterPredicate(m_now);
         QCOMPARE(list.arranged().size(), 2);
     }
+
+    void searchWithEveryTag()
+    {
+        Record *kunde = doc(1, 3, 238.0);
+        kunde->setText(Invoice::number, QStringLiteral("RE-2026-3"));
+        kunde->setText(Invoice::customerName, QStringLiteral("Kunde GmbH"));
+        Record *quote = doc(0, 0, 119.0);
+        quote->setText(Invoice::address, QStringLiteral("Atelier Lumen\nParis"));
+        quote->setText(Invoice::subject, QStringLiteral("Website relaunch"));
+        Record *open = doc(1, 1, 1234.5);
+        open->setText(Invoice::customerName, QStringLiteral("Kunde AG"));
+        open->setNum(Invoice::subAmount, 1037.39);
+        open->setDate(Invoice::due, m_now.addDays(10));
+
+        const auto shown = [&](unsigned tag, const QString &text, std::optional<double> amount = {}) {
+            DocumentList list = listOfAll(tag);
+            list.setSearch({text, amount});
+            list.calculateDatabase(m_now);
+            return list;
+        };
+        // Every tag narrows what the search finds, and the summary follows.
+        QCOMPARE(shown(0, QStringLiteral("kunde")).arranged(), (QList<Record *>{open, kunde})); // newest first
+        QCOMPARE(shown(3, QStringLiteral("kunde")).arranged(), QList<Record *>{kunde});
+        QCOMPARE(shown(3, QStringLiteral("kunde")).summary().totalAmount, 238.0f);
+        QCOMPARE(shown(1, QStringLiteral("kunde")).arranged(), QList<Record *>{open});
+        QCOMPARE(shown(4, QStringLiteral("kunde")).arranged(), QList<Record *>{});
+        QCOMPARE(shown(4, QStringLiteral("PARIS")).arranged(), QList<Record *>{quote});
+        QCOMPARE(shown(4, QStringLiteral("relaunch")).summary().quoteCount, 1u);
+        for (unsigned tag : {2u, 5u, 6u, 7u, 8u})
+            QCOMPARE(shown(tag, QStringLiteral("RE-2026")).arranged(), tag < 5 ? QList<Record *>{} : QList<Record *>{kunde});
+        // Amounts as typed: the total or the net total, to the cent.
+        QCOMPARE(shown(0, QStringLiteral("1234,50"), 1234.5).arranged(), QList<Record *>{open});
+        QCOMPARE(shown(0, QStringLiteral("1037.39"), 1037.39).arranged(), QList<Record *>{open});
+        QCOMPARE(shown(0, QStringLiteral("1234.6"), 1234.6).arranged(), QList<Record *>{});
+        // A search of blanks is none; the list knows what it shows.
+        DocumentList list = shown(0, QStringLiteral("  "));
+        QCOMPARE(list.arranged().size(), 3);
+        list.setSearch({QStringLiteral("Lumen"), {}});
+        QVERIFY(list.shows(quote) && !list.shows(kunde));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestListFilter)

@@ -24,6 +24,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -530,6 +531,25 @@ void AppController::setFilterTag(unsigned tag)
 void AppController::setFilterPredicate()
 {
     m_list.setFilterPredicate(now());
+    arrangedAnew();
+}
+
+void AppController::setSearchText(const QString &text)
+{
+    DocumentList::Search search;
+    search.text = text;
+    double amount = 0;
+    if (ItemCommands::parseNumber(text, &amount, QLocale(m_prefs.documentRegion())))
+        search.amount = amount;
+    m_list.setSearch(search);
+    arrangedAnew();
+}
+
+void AppController::arrangedAnew()
+{
+    // The editor shows the list's selection: what the list hides, it drops.
+    if (m_current && !m_list.shows(m_current))
+        setCurrentInvoice(nullptr);
     Q_EMIT listChanged();
     calculateDatabase();
 }

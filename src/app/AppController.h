@@ -122,6 +122,9 @@ public:
     const Summary &summary() const { return m_list.summary(); }
     unsigned filterTag() const { return m_list.filterTag(); }
     void setFilterTag(unsigned tag);
+    // The search field over the list, combined with the filter; the
+    // summary follows what is shown.
+    void setSearchText(const QString &text);
     void setFilterPredicate();
     // The filter button: with a filter on it clears it and returns false;
     // otherwise returns true (the caller opens the popover).
@@ -197,6 +200,7 @@ Q_SIGNALS:
     void terminateRequested();
 
 private:
+    void arrangedAnew();
     Record *newDocument(bool invoice);
     void installPendingTabo2Template();
     void openStore();

@@ -5,6 +5,7 @@
 #include "domain/RecordOwner.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tabo {
 
@@ -74,15 +75,49 @@ void DocumentList::rearrange()
     applyPredicate();
 }
 
+void DocumentList::setSearch(const Search &search)
+{
+    m_search = search;
+    m_search.text = m_search.text.trimmed();
+    applyPredicate();
+}
+
+bool DocumentList::Search::matches(const Record &document) const
+{
+    if (text.isEmpty())
+        return true;
+    for (int attr : {Invoice::number, Invoice::customerName, Invoice::address, Invoice::subject, Invoice::title}) {
+        if (document.text(attr).contains(text, Qt::CaseInsensitive))
+            return true;
+    }
+    if (!amount)
+        return false;
+    for (int attr : {Invoice::amount, Invoice::subAmount}) {
+        if (!document.isNull(attr) && std::abs(document.num(attr) - *amount) < 0.005)
+            return true;
+    }
+    return false;
+}
+
+bool DocumentList::shows(const Record *document) const
+{
+    if (!document)
+        return false;
+    // The arranged contents are a subset in the same order; the test is the
+    // cheaper way to ask.
+    return (m_predicate.isEmpty() || m_predicate.matches(*document)) && m_search.matches(*document)
+           && m_all.contains(document);
+}
+
 void DocumentList::applyPredicate()
 {
-    if (m_predicate.isEmpty()) {
+    if (m_predicate.isEmpty() && m_search.isEmpty()) {
         m_arranged = m_all;
         return;
     }
     m_arranged.clear();
     for (Record *r : std::as_const(m_all))
-        if (m_predicate.matches(*r))
+        if ((m_predicate.isEmpty() || m_predicate.matches(*r)) && m_search.matches(*r))
             m_arranged.append(r);
 }
 

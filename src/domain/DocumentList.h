@@ -4,6 +4,9 @@
 #include "domain/ListFilter.h"
 
 #include <QList>
+#include <QString>
+
+#include <optional>
 
 namespace tabo {
 
@@ -33,6 +36,21 @@ public:
     void setPredicate(const ListFilter &filter);
     const ListFilter &predicate() const { return m_predicate; }
 
+    // The search over the list, on top of the predicate: a document shows
+    // when its number, client, address, subject or title contains `text`
+    // (case aside), or when `amount` is its total or net total to the cent.
+    struct Search
+    {
+        QString text;
+        std::optional<double> amount;
+        bool isEmpty() const { return text.isEmpty(); }
+        bool matches(const Record &document) const;
+    };
+    void setSearch(const Search &search);
+    const Search &search() const { return m_search; }
+    // Whether the arranged contents show `document`.
+    bool shows(const Record *document) const;
+
     // Adds a new document, keeping the date order; whether it shows depends on
     // the predicate in force.
     void add(Record *document);
@@ -49,6 +67,7 @@ private:
     QList<Record *> m_all; // date descending
     QList<Record *> m_arranged;
     ListFilter m_predicate;
+    Search m_search;
     unsigned m_filterTag = 0;
     Summary m_summary;
 };

@@ -51,7 +51,9 @@ std::array<EntityDesc, kEntityCount> buildAll()
 #undef TABO_BUILD_ATTR
 
     auto &invoice = all[int(EntityId::Invoice)];
-    for (int a : {Invoice::number, Invoice::uniqueID, Invoice::customerName, Invoice::title})
+    // What the list shows and searches is read with it.
+    for (int a : {Invoice::number, Invoice::uniqueID, Invoice::customerName, Invoice::title, Invoice::subject,
+                  Invoice::address})
         invoice.listTextMask |= std::uint64_t(1) << invoice.attributes[a].slot;
     for (auto &d : all)
         if (d.id != EntityId::Invoice)

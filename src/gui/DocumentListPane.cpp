@@ -47,13 +47,17 @@ DocumentListPane::DocumentListPane(AppController &app, QWidget *parent)
 
     auto *header = m_view->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::Interactive);
-    header->setSectionResizeMode(DocumentTableModel::Title, QHeaderView::Stretch);
+    header->setSectionResizeMode(DocumentTableModel::Subject, QHeaderView::Stretch);
     const int em = fontMetrics().horizontalAdvance(QLatin1Char('M'));
     header->resizeSection(DocumentTableModel::Number, 9 * em);
     header->resizeSection(DocumentTableModel::DateColumn, 9 * em);
     header->resizeSection(DocumentTableModel::Client, 14 * em);
     header->resizeSection(DocumentTableModel::Total, 9 * em);
     header->resizeSection(DocumentTableModel::Status, 8 * em);
+
+    // Newest first until a heading is clicked.
+    header->setSortIndicator(DocumentTableModel::DateColumn, Qt::DescendingOrder);
+    m_view->setSortingEnabled(true);
 
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DocumentListPane::selectionMoved);
     connect(&m_app, &AppController::currentInvoiceChanged, this, &DocumentListPane::showCurrentInvoice);

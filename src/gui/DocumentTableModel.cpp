@@ -5,8 +5,12 @@
 #include "domain/Record.h"
 #include "render/Formatters.h"
 
+#include <QCollator>
 #include <QColor>
 #include <QLocale>
+
+#include <cmath>
+#include <vector>
 
 namespace tabo {
 
@@ -27,7 +31,75 @@ void DocumentTableModel::reload()
     // The controller has already changed the list when it signals, so the
     // view is told to forget everything rather than given row ranges.
     beginResetModel();
+    applySort();
     endResetModel();
+}
+
+void DocumentTableModel::sort(int column, Qt::SortOrder order)
+{
+    m_sortColumn = column;
+    m_sortOrder = order;
+    reload();
+}
+
+void DocumentTableModel::applySort()
+{
+    m_sorted.clear();
+    if (m_sortColumn == DateColumn && m_sortOrder == Qt::DescendingOrder)
+        return;
+    const QList<Record *> &rows = m_app.documentList().arranged();
+    // Keys are made once per row: a comparison must stay cheap for a
+    // hundred thousand rows.
+    QCollator collator;
+    collator.setNumericMode(true);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    struct Row
+    {
+        Record *record;
+        QCollatorSortKey text;
+        double number;
+        qsizetype position;
+    };
+    std::vector<Row> keyed;
+    keyed.reserve(std::size_t(rows.size()));
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        Record *r = rows.at(i);
+        QString text;
+        double number = 0;
+        switch (m_sortColumn) {
+        case Number: text = r->text(Invoice::number); break;
+        case Client: text = clientText(*r); break;
+        case Subject: text = subjectText(*r); break;
+        case Status: text = statusText(*r); break;
+        case Total: number = r->num(Invoice::amount); break;
+        default: number = -double(i); break; // the list's order is newest first
+        }
+        keyed.push_back({r, collator.sortKey(text), std::isfinite(number) ? number : 0.0, i});
+    }
+    const bool descending = m_sortOrder == Qt::DescendingOrder;
+    const bool byText = m_sortColumn == Number || m_sortColumn == Client || m_sortColumn == Subject
+                        || m_sortColumn == Status;
+    std::stable_sort(keyed.begin(), keyed.end(), [&](const Row &a, const Row &b) {
+        const int c = byText ? a.text.compare(b.text) : (a.number < b.number ? -1 : a.number > b.number ? 1 : 0);
+        return descending ? c > 0 : c < 0;
+    });
+    m_sorted.reserve(rows.size());
+    for (const Row &row : keyed)
+        m_sorted.append(row.record);
+}
+
+QString DocumentTableModel::clientText(const Record &document)
+{
+    const QString name = document.text(Invoice::customerName).trimmed();
+    if (!name.isEmpty())
+        return name;
+    return document.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed();
+}
+
+QString DocumentTableModel::subjectText(const Record &document)
+{
+    const QString subject = document.text(Invoice::subject).trimmed();
+    return subject.isEmpty() ? document.text(Invoice::title) : subject;
 }
 
 void DocumentTableModel::refreshFigures()
@@ -48,13 +120,14 @@ int DocumentTableModel::columnCount(const QModelIndex &parent) const
 
 Record *DocumentTableModel::recordAt(int row) const
 {
-    const auto &rows = m_app.documentList().arranged();
+    const auto &rows = m_sorted.isEmpty() ? m_app.documentList().arranged() : m_sorted;
     return row >= 0 && row < rows.size() ? rows.at(row) : nullptr;
 }
 
 int DocumentTableModel::rowOf(const Record *document) const
 {
-    return document ? int(m_app.documentList().arranged().indexOf(document)) : -1;
+    const auto &rows = m_sorted.isEmpty() ? m_app.documentList().arranged() : m_sorted;
+    return document ? int(rows.indexOf(document)) : -1;
 }
 
 QString DocumentTableModel::statusText(const Record &document)
@@ -110,9 +183,9 @@ QVariant DocumentTableModel::data(const QModelIndex &index, int role) const
         case DateColumn:
             return dateText(doc->date(Invoice::date));
         case Client:
-            return doc->text(Invoice::customerName);
-        case Title:
-            return doc->text(Invoice::title);
+            return clientText(*doc);
+        case Subject:
+            return subjectText(*doc);
         case Total:
             // As the printed documents show it.
             return m_app.outputs().formatters().stringFromNumber(doc->num(Invoice::amount));
@@ -150,8 +223,8 @@ QVariant DocumentTableModel::headerData(int section, Qt::Orientation orientation
         return tr("Date");
     case Client:
         return tr("Client");
-    case Title:
-        return tr("Title");
+    case Subject:
+        return tr("Subject");
     case Total:
         return tr("Total");
     case Status:

@@ -16,7 +16,7 @@ class DocumentTableModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Number, DateColumn, Client, Title, Total, Status, ColumnCount };
+    enum Column { Number, DateColumn, Client, Subject, Total, Status, ColumnCount };
 
     // Asks the controller for the store, which opens it on first use.
     explicit DocumentTableModel(AppController &app, QObject *parent = nullptr);
@@ -30,14 +30,24 @@ public:
     int rowOf(const Record *document) const; // -1 when not shown
 
     static QString statusText(const Record &document);
+    // The client as the list names it: the name, else the address's first line.
+    static QString clientText(const Record &document);
+    // The subject, else the title ("Invoice").
+    static QString subjectText(const Record &document);
+    // A click on a heading; the date, newest first, is the list's own order.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
     static QVariant alignment(int column);
     QString dateText(Date date) const;
     void reload();
     void refreshFigures();
+    void applySort();
 
     AppController &m_app;
+    int m_sortColumn = DateColumn;
+    Qt::SortOrder m_sortOrder = Qt::DescendingOrder;
+    QList<Record *> m_sorted; // empty while the list's own order stands
 };
 
 } // namespace tabo

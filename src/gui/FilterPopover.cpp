@@ -9,6 +9,12 @@
 
 namespace tabo {
 
+QStringList FilterPopover::choiceLabels()
+{
+    return {tr("All documents"), tr("Sent and open"), tr("Overdue and partly paid"), tr("Paid"), tr("Quotes"),
+            tr("Last 12 hours"), tr("Last 3.5 days"), tr("Last 15.5 days"), tr("Last 182.5 days")};
+}
+
 FilterPopover::FilterPopover(QWidget *parent)
     : QFrame(parent, Qt::Popup)
     , m_choices(new QButtonGroup(this))
@@ -30,8 +36,7 @@ FilterPopover::FilterPopover(QWidget *parent)
     layout->addWidget(heading);
 
     // In tag order: the tag of a choice is its position.
-    const QStringList labels { tr("All documents"), tr("Sent and open"), tr("Overdue and partly paid"), tr("Paid"),
-        tr("Quotes"), tr("Last 12 hours"), tr("Last 3.5 days"), tr("Last 15.5 days"), tr("Last 182.5 days") };
+    const QStringList labels = choiceLabels();
     for (int tag = 0; tag < labels.size(); ++tag) {
         auto *choice = new QPushButton(labels.at(tag), this);
         choice->setObjectName(QStringLiteral("filterChoice%1").arg(tag));

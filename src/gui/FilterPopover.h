@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QFrame>
 
 class QButtonGroup;
@@ -13,6 +14,8 @@ class FilterPopover : public QFrame
     Q_OBJECT
 
 public:
+    // The choices, in the order of the filter tags.
+    static QStringList choiceLabels();
     explicit FilterPopover(QWidget *parent = nullptr);
 
     // Shows the popover below `anchor` with the choice for `tag` marked.

@@ -24,6 +24,7 @@
 #include <QSplitter>
 #include <QTableView>
 #include <QTimer>
+#include <QLineEdit>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -232,6 +233,20 @@ void MainWindow::createToolBar()
     auto *spacer = new QWidget(bar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(spacer);
+    m_search = new QLineEdit(bar);
+    m_search->setObjectName(QStringLiteral("searchField"));
+    m_search->setPlaceholderText(tr("Search number, client, subject, amount"));
+    m_search->setClearButtonEnabled(true);
+    m_search->setMaximumWidth(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 18);
+    connect(m_search, &QLineEdit::textChanged, &m_app, &AppController::setSearchText);
+    auto *find = new QAction(tr("Find"), this);
+    find->setShortcut(QKeySequence::Find);
+    connect(find, &QAction::triggered, m_search, [this] {
+        m_search->setFocus();
+        m_search->selectAll();
+    });
+    addAction(find);
+    bar->addWidget(m_search);
     m_filterButton = new FilterButton(m_app, bar);
     m_filterButton->setIconSize(bar->iconSize());
     bar->addWidget(m_filterButton);

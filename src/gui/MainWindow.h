@@ -4,6 +4,7 @@
 #include <QMainWindow>
 
 class QAction;
+class QLineEdit;
 
 namespace tabo {
 
@@ -36,6 +37,7 @@ public:
     DocumentActions *documentActions() const { return m_actions; }
     FileMenu *fileMenu() const { return m_fileMenu; }
     FilterButton *filterButton() const { return m_filterButton; }
+    QLineEdit *searchField() const { return m_search; }
     QAction *newInvoiceAction() const { return m_newInvoice; }
     QAction *newQuoteAction() const { return m_newQuote; }
     QAction *quitAction() const { return m_quit; }
@@ -71,6 +73,7 @@ private:
     DocumentEditor *m_editor = nullptr;
     DocumentActions *m_actions = nullptr;
     FileMenu *m_fileMenu = nullptr;
+    QLineEdit *m_search = nullptr;
     FilterButton *m_filterButton = nullptr;
     QAction *m_newInvoice = nullptr;
     QAction *m_newQuote = nullptr;

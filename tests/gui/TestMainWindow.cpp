@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QApplication>
 #include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
@@ -165,12 +166,20 @@ void TestMainWindow::newDocumentsAndFilter()
     QCOMPARE(f.model()->index(sentRow, DocumentTableModel::Total).data().toString(), QStringLiteral("120.50"));
     QCOMPARE(f.model()->index(sentRow, DocumentTableModel::Status).data().toString(), QStringLiteral("Sent"));
 
+    // The sent invoice is selected when the quotes filter hides it: the
+    // editor lets go of it, so nothing acts on a document out of sight.
+    QTableView *table = f.window->documentList()->view();
+    table->selectRow(sentRow);
+    QCOMPARE(f.app.currentInvoice(), sent);
     FilterButton *button = f.window->filterButton();
     const qint64 plainIcon = button->icon().cacheKey();
     QTest::mouseClick(button, Qt::LeftButton);
     QVERIFY(button->popover()->isVisible());
     QTest::mouseClick(button->popover()->findChild<QPushButton *>(QStringLiteral("filterChoice4")), Qt::LeftButton);
     QVERIFY(!button->popover()->isVisible());
+    QCOMPARE(f.app.currentInvoice(), nullptr);
+    QVERIFY(!table->selectionModel()->hasSelection());
+    QCOMPARE(button->text(), QStringLiteral("Filter: Quotes"));
     QCOMPARE(f.model()->rowCount(), 1);
     QCOMPARE(f.model()->recordAt(0)->integer(Invoice::kind), 0);
     QVERIFY(button->property("glowing").toBool());
@@ -187,6 +196,24 @@ void TestMainWindow::newDocumentsAndFilter()
     QVERIFY(!button->property("glowing").toBool());
     QVERIFY(button->icon().cacheKey() != glowIcon);
     QCOMPARE(f.figure("invoiceCount"), QStringLiteral("1"));
+    QCOMPARE(button->text(), QStringLiteral("Filter"));
+
+    // The search narrows the list and the summary with it; the subject is
+    // the list's column where there is one.
+    sent->setText(Invoice::subject, QStringLiteral("Website relaunch"));
+    QLineEdit *search = f.window->searchField();
+    QTest::keyClicks(search, QStringLiteral("RELAUNCH"));
+    QCOMPARE(f.model()->rowCount(), 1);
+    QCOMPARE(f.model()->index(0, DocumentTableModel::Subject).data().toString(), QStringLiteral("Website relaunch"));
+    QCOMPARE(f.figure("quoteCount"), QStringLiteral("0"));
+    search->clear();
+    QCOMPARE(f.model()->rowCount(), 3);
+
+    // A click on a heading sorts by it; the date order comes back with the date heading.
+    table->horizontalHeader()->setSortIndicator(DocumentTableModel::Total, Qt::DescendingOrder);
+    QCOMPARE(f.model()->recordAt(0), sent);
+    table->horizontalHeader()->setSortIndicator(DocumentTableModel::DateColumn, Qt::DescendingOrder);
+    QCOMPARE(f.model()->recordAt(0), f.app.documentList().arranged().first());
 
     f.window->quitAction()->trigger();
     QVERIFY(!f.window->isVisible());
