@@ -206,6 +206,14 @@ private Q_SLOTS:
         QCOMPARE(list.arranged().size(), 3);
         list.setSearch({QStringLiteral("Lumen"), {}});
         QVERIFY(list.shows(quote) && !list.shows(kunde));
+        // Typing on narrows, deleting widens again; an amount starts over.
+        list.setSearch({QStringLiteral("kun"), {}});
+        list.setSearch({QStringLiteral("Kunde a"), {}});
+        QCOMPARE(list.arranged(), QList<Record *>{open});
+        list.setSearch({QStringLiteral("k"), {}});
+        QCOMPARE(list.arranged().size(), 2);
+        list.setSearch({QStringLiteral("119"), 119.0});
+        QCOMPARE(list.arranged(), QList<Record *>{quote});
     }
 };
 

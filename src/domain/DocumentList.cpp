@@ -77,8 +77,16 @@ void DocumentList::rearrange()
 
 void DocumentList::setSearch(const Search &search)
 {
+    const QString previous = m_search.text;
     m_search = search;
     m_search.text = m_search.text.trimmed();
+    m_search.matcher = QStringMatcher(m_search.text, Qt::CaseInsensitive);
+    // Typing on narrows what is shown: only the rows shown can still match
+    // (an amount is matched whole, so a search with one starts over).
+    if (!previous.isEmpty() && !m_search.amount && m_search.text.startsWith(previous, Qt::CaseInsensitive)) {
+        m_arranged.removeIf([this](const Record *r) { return !m_search.matches(*r); });
+        return;
+    }
     applyPredicate();
 }
 
@@ -87,7 +95,7 @@ bool DocumentList::Search::matches(const Record &document) const
     if (text.isEmpty())
         return true;
     for (int attr : {Invoice::number, Invoice::customerName, Invoice::address, Invoice::subject, Invoice::title}) {
-        if (document.text(attr).contains(text, Qt::CaseInsensitive))
+        if (matcher.indexIn(document.text(attr)) >= 0)
             return true;
     }
     if (!amount)

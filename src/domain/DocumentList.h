@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringMatcher>
 
 #include <optional>
 
@@ -45,6 +46,7 @@ public:
         std::optional<double> amount;
         bool isEmpty() const { return text.isEmpty(); }
         bool matches(const Record &document) const;
+        QStringMatcher matcher{}; // made by setSearch: one skip table for every document
     };
     void setSearch(const Search &search);
     const Search &search() const { return m_search; }

@@ -2,6 +2,7 @@
 
 #include "app/AccountingExport.h"
 #include "app/AppController.h"
+#include "gui/Formats.h"
 #include "prefs/Preferences.h"
 
 #include <QComboBox>
@@ -41,7 +42,7 @@ AccountingExportSheet::AccountingExportSheet(AppController &app, QWidget *parent
     m_count->setObjectName(QStringLiteral("exportCount"));
     for (QDateEdit *edit : { m_begin, m_end }) {
         edit->setCalendarPopup(true);
-        edit->setDisplayFormat(QLocale().dateFormat(QLocale::ShortFormat));
+        edit->setDisplayFormat(Formats::dateFieldFormat());
     }
     // In preference order: the index is the stored value.
     m_kind->addItems({ tr("All except created"), tr("Paid"), tr("Overdue") });

@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
+#include "gui/Formats.h"
 #include "render/Formatters.h"
 
 #include <QCollator>
@@ -148,15 +149,6 @@ QString DocumentTableModel::statusText(const Record &document)
     }
 }
 
-QString DocumentTableModel::dateText(Date date) const
-{
-    if (!date.isValid())
-        return {};
-    // Until the first-start assistant has installed a date pattern there is
-    // none, and a blank column would look like missing dates.
-    const QString text = m_app.getPatternDateStringFromDate(date);
-    return text.isEmpty() ? QLocale().toString(date.toDateTime().toLocalTime().date(), QLocale::ShortFormat) : text;
-}
 
 QVariant DocumentTableModel::alignment(int column)
 {
@@ -181,14 +173,14 @@ QVariant DocumentTableModel::data(const QModelIndex &index, int role) const
         case Number:
             return doc->text(Invoice::number);
         case DateColumn:
-            return dateText(doc->date(Invoice::date));
+            return Formats::date(doc->date(Invoice::date));
         case Client:
             return clientText(*doc);
         case Subject:
             return subjectText(*doc);
         case Total:
-            // As the printed documents show it.
-            return m_app.outputs().formatters().stringFromNumber(doc->num(Invoice::amount));
+            // As the editor shows it: one layout of amounts in the window.
+            return Formats::money(doc->num(Invoice::amount), doc->text(Invoice::currency));
         case Status:
             return statusText(*doc);
         }

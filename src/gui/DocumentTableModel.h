@@ -39,7 +39,6 @@ public:
 
 private:
     static QVariant alignment(int column);
-    QString dateText(Date date) const;
     void reload();
     void refreshFigures();
     void applySort();

@@ -84,6 +84,7 @@ void FieldBinder::bindDate(QDateEdit *edit, int attr)
 {
     add(edit, attr, Kind::DateField);
     edit->setCalendarPopup(true);
+    edit->setDisplayFormat(Formats::dateFieldFormat());
     // Typing changes the date digit by digit: only the finished entry counts.
     // A day picked in the calendar is finished at once.
     connect(edit, &QDateEdit::editingFinished, this, [this, edit] { commit(*bindingOf(edit)); });

@@ -2,6 +2,8 @@
 
 class QString;
 
+namespace tabo { class Date; }
+
 namespace tabo {
 
 // How the editor writes numbers: the same money form as the document list, so
@@ -16,6 +18,10 @@ QString quantity(double value);
 QString plainMoney(double amount);
 // A fraction as a percentage ("19 %" for 0.19).
 QString percent(double fraction);
+// A date as the desktop writes it short; every date of the window uses it.
+QString date(const Date &date);
+// The pattern of date fields, the same short form.
+QString dateFieldFormat();
 
 } // namespace Formats
 
