@@ -4,7 +4,12 @@ namespace tabo::test {
 
 int FakeInteraction::alert(const QString &title, const QString &text, const QStringList &buttons)
 {
-    alerts.append({title, text, buttons});
+    return ask(title, text, buttons, 0);
+}
+
+int FakeInteraction::ask(const QString &title, const QString &text, const QStringList &buttons, int defaultButton)
+{
+    alerts.append({title, text, buttons, defaultButton});
     return answers.isEmpty() ? 0 : answers.takeFirst();
 }
 

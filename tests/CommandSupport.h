@@ -19,6 +19,7 @@ public:
         QString title;
         QString text;
         QStringList buttons;
+        int defaultButton = 0;
     };
     QList<Shown> alerts;
     QList<Error> errors;
@@ -27,6 +28,7 @@ public:
     QStringList files;   // next panel results; "" (cancel) when empty
 
     int alert(const QString &title, const QString &text, const QStringList &buttons) override;
+    int ask(const QString &title, const QString &text, const QStringList &buttons, int defaultButton) override;
     void presentError(const Error &error) override;
     QString openFile(const FileRequest &request) override;
     QString saveFile(const FileRequest &request) override;

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void deleteRefusalsConfirmationsAndCounter();
     void convertQuote();
     void duplicate();
+    void dueDateBeforeDateAsksOnce();
 };
 
 void TestDocumentCommands::deleteRefusalsConfirmationsAndCounter()
@@ -75,7 +76,14 @@ void TestDocumentCommands::deleteRefusalsConfirmationsAndCounter()
     f.ui.answers = {0, 0};
     QVERIFY(f.docs.deleteInvoice());
     QCOMPARE(f.ui.alerts[2].title, QStringLiteral("Delete Invoice"));
+    // The question names the document and Return keeps it; the counter's
+    // question says what each answer does to the next number.
+    QVERIFY2(f.ui.alerts[2].text.endsWith(QStringLiteral("\n\nInvoice RE-13, 0.00")), qPrintable(f.ui.alerts[2].text));
+    QCOMPARE(f.ui.alerts[2].defaultButton, 1);
     QCOMPARE(f.ui.alerts.last().buttons, QStringList({QStringLiteral("Adjust Counter"), QStringLiteral("Cancel")}));
+    QVERIFY2(f.ui.lastAlertText().endsWith(QStringLiteral("Adjust Counter: the next invoice will be numbered RE-14.\n"
+                                                          "Cancel: the next invoice will be numbered RE-13.")),
+             qPrintable(f.ui.lastAlertText()));
     QVERIFY(!f.app.currentInvoice());
     QCOMPARE(f.app.managedObjectContext()->count(EntityId::Invoice), 2);
     QCOMPARE(f.prefs.raw(QStringLiteral("invCount")), QVariant(QStringLiteral("11")));
@@ -151,4 +159,29 @@ void TestDocumentCommands::duplicate()
 }
 
 QTEST_GUILESS_MAIN(TestDocumentCommands)
+void TestDocumentCommands::dueDateBeforeDateAsksOnce()
+{
+    Fixture f;
+    Record *invoice = f.app.addInvoice();
+    const Date date = invoice->date(Invoice::date);
+    const Date due = invoice->date(Invoice::due);
+    const QVariant early = QVariant::fromValue(date.addDays(-2));
+
+    f.ui.answers = {1}; // Cancel, the default
+    QVERIFY(!f.app.setDocumentValue(invoice, Invoice::due, early));
+    QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Due Date Before Invoice Date"));
+    QCOMPARE(f.ui.alerts.last().defaultButton, 1);
+    QCOMPARE(invoice->date(Invoice::due).referenceSeconds(), due.referenceSeconds());
+    // Asked once: the second time the date is taken as meant.
+    QVERIFY(f.app.setDocumentValue(invoice, Invoice::due, early));
+    QCOMPARE(f.ui.alerts.size(), 1);
+    QCOMPARE(invoice->date(Invoice::due).referenceSeconds(), date.addDays(-2).referenceSeconds());
+    // A due date on or after the invoice's date, or a quote's, is never asked about.
+    Record *other = f.app.addInvoice();
+    QVERIFY(f.app.setDocumentValue(other, Invoice::due, QVariant::fromValue(date.addDays(3))));
+    Record *quote = f.app.addQuote();
+    QVERIFY(f.app.setDocumentValue(quote, Invoice::due, early));
+    QCOMPARE(f.ui.alerts.size(), 1);
+}
+
 #include "TestDocumentCommands.moc"

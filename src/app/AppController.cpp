@@ -689,12 +689,35 @@ void AppController::documentChanged(Record *document)
     saveContext();
 }
 
-void AppController::setDocumentValue(Record *document, int attr, const QVariant &value)
+bool AppController::setDocumentValue(Record *document, int attr, const QVariant &value)
 {
     if (!document || document->value(attr) == value)
-        return;
+        return true;
+    if (attr == Invoice::due && !confirmDueDate(*document, value))
+        return false;
     document->setValue(attr, value);
     documentChanged(document);
+    return true;
+}
+
+bool AppController::confirmDueDate(const Record &document, const QVariant &due)
+{
+    // Asked once per document: a second answer would only repeat the first.
+    if (document.integer(Invoice::kind) != 1 || !due.canConvert<Date>() || document.isNull(Invoice::date)
+        || m_dueDateAsked.contains(document.text(Invoice::uniqueID)))
+        return true;
+    const QDate dueDay = due.value<Date>().toDateTime().toLocalTime().date();
+    const QDate day = document.date(Invoice::date).toDateTime().toLocalTime().date();
+    if (!dueDay.isValid() || dueDay >= day)
+        return true;
+    m_dueDateAsked.insert(document.text(Invoice::uniqueID));
+    const int answer = m_ui.ask(
+        QStringLiteral("Due Date Before Invoice Date"),
+        QStringLiteral("The invoice would be due on %1, before its own date, %2: it would be overdue the moment it "
+                       "is sent. Keep this due date?")
+            .arg(QLocale().toString(dueDay, QLocale::ShortFormat), QLocale().toString(day, QLocale::ShortFormat)),
+        {QStringLiteral("Keep Due Date"), QStringLiteral("Cancel")}, 1);
+    return answer == 0;
 }
 
 void AppController::documentRemoved(Record *document)

@@ -5,6 +5,7 @@
 #include "domain/DocumentList.h"
 
 #include <QObject>
+#include <QSet>
 #include <QString>
 
 #include <functional>
@@ -176,7 +177,9 @@ public:
     void documentChanged(Record *document);
     // The editor's way to change a document: one attribute, then the change
     // observer; nothing happens when the value is already there.
-    void setDocumentValue(Record *document, int attr, const QVariant &value);
+    // False when the person kept the old value (a due date before the
+    // invoice's own date is asked about).
+    bool setDocumentValue(Record *document, int attr, const QVariant &value);
     // The document's number depends on the other documents: it is computed
     // again inside the save that writes it when another program added
     // documents meanwhile. `countsItself` for a converted quote, which is in
@@ -201,6 +204,7 @@ Q_SIGNALS:
 
 private:
     void arrangedAnew();
+    bool confirmDueDate(const Record &document, const QVariant &due);
     Record *newDocument(bool invoice);
     void installPendingTabo2Template();
     void openStore();
@@ -226,6 +230,7 @@ private:
     QString m_storeURL;
     DocumentList m_list;
     Record *m_current = nullptr;
+    QSet<QString> m_dueDateAsked; // unique IDs
     std::function<void()> m_backupBeforeMove;
     std::unique_ptr<DocumentCommands> m_documents;
     std::unique_ptr<ItemCommands> m_items;

@@ -2,10 +2,12 @@
 
 #include "app/AppController.h"
 #include "app/Interaction.h"
+#include "app/OutputCommands.h"
 #include "base/Clock.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
+#include "render/Formatters.h"
 #include "store/Store.h"
 
 namespace tabo {
@@ -125,15 +127,20 @@ bool DocumentCommands::deleteInvoice()
                  {kOk});
         return false;
     }
+    // The question names the document, so the wrong one is not deleted
+    // after a slip of the selection; Return keeps it.
+    const QString which = QStringLiteral("\n\n") + describe(*doc);
     const int answer = invoice
-        ? ui.alert(QStringLiteral("Delete Invoice"),
-                   QStringLiteral("Deleting invoices is permanent and cannot be undone. Do you really want to "
-                                  "delete the selected invoice?"),
-                   {QStringLiteral("Delete"), kCancel})
-        : ui.alert(QStringLiteral("Delete Quote"),
-                   QStringLiteral("Deleting quotes is permanent and cannot be undone. Do you really want to delete "
-                                  "the selected quote?"),
-                   {QStringLiteral("Delete"), kCancel});
+        ? ui.ask(QStringLiteral("Delete Invoice"),
+                 QStringLiteral("Deleting invoices is permanent and cannot be undone. Do you really want to "
+                                "delete the selected invoice?")
+                     + which,
+                 {QStringLiteral("Delete"), kCancel}, 1)
+        : ui.ask(QStringLiteral("Delete Quote"),
+                 QStringLiteral("Deleting quotes is permanent and cannot be undone. Do you really want to delete "
+                                "the selected quote?")
+                     + which,
+                 {QStringLiteral("Delete"), kCancel}, 1);
     if (answer != 0)
         return false;
 
@@ -142,20 +149,55 @@ bool DocumentCommands::deleteInvoice()
     m_app.documentRemoved(doc);
     m_app.saveContext();
 
+    // Numbers come from the count of documents, which the deletion lowered:
+    // the two next numbers say what each answer means.
+    Preferences &prefs = m_app.prefs();
+    const P::Key counter = invoice ? P::invCount : P::quotCount;
+    const QString counterName = Preferences::info(counter).name;
+    const QVariant counted = prefs.raw(counterName);
+    const auto nextNumber = [&] { return invoice ? m_app.invoiceNumberString() : m_app.quoteNumberString(); };
+    const QString unchanged = nextNumber();
+    prefs.setString(counter, QString::number(prefs.integer(counter) + 1));
+    const QString adjusted = nextNumber();
+    if (counted.isValid())
+        prefs.setRaw(counterName, counted);
+    else
+        prefs.remove(counter);
+    const QString kind = invoice ? QStringLiteral("invoice") : QStringLiteral("quote");
+    const QString consequences =
+        unchanged == adjusted || adjusted.isEmpty()
+            ? QString()
+            : QStringLiteral("\n\nAdjust Counter: the next %1 will be numbered %2.\nCancel: the next %1 will be "
+                             "numbered %3.")
+                  .arg(kind, adjusted, unchanged);
     const int adjust = ui.alert(
         QStringLiteral("Adjust Counter"),
-        invoice ? QStringLiteral("Do you want Tabo to automatically adjust your invoice counter so that you won't use "
-                                 "the same invoice number twice?")
-                : QStringLiteral("Do you want Tabo to automatically adjust your quote counter so that you won't use "
-                                 "the same quote number twice?"),
+        (invoice ? QStringLiteral("Do you want Tabo to automatically adjust your invoice counter so that you won't use "
+                                  "the same invoice number twice?")
+                 : QStringLiteral("Do you want Tabo to automatically adjust your quote counter so that you won't use "
+                                  "the same quote number twice?"))
+            + consequences,
         {QStringLiteral("Adjust Counter"), kCancel});
-    if (adjust == 0) {
-        // Numbers come from the count of documents, which the deletion lowered.
-        Preferences &prefs = m_app.prefs();
-        const P::Key counter = invoice ? P::invCount : P::quotCount;
+    if (adjust == 0)
         prefs.setString(counter, QString::number(prefs.integer(counter) + 1));
-    }
     return true;
+}
+
+QString DocumentCommands::describe(const Record &document) const
+{
+    const bool invoice = document.integer(Invoice::kind) == 1;
+    QString text = invoice ? QStringLiteral("Invoice") : QStringLiteral("Quote");
+    const QString number = document.text(Invoice::number).trimmed();
+    if (!number.isEmpty())
+        text += QLatin1Char(' ') + number;
+    QString client = document.text(Invoice::customerName).trimmed();
+    if (client.isEmpty())
+        client = document.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed();
+    if (!client.isEmpty())
+        text += QStringLiteral(" for ") + client;
+    if (!document.isNull(Invoice::amount))
+        text += QStringLiteral(", ") + m_app.outputs().formatters().stringFromNumber(document.num(Invoice::amount));
+    return text;
 }
 
 bool DocumentCommands::isCurrentInvoiceSent() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 namespace tabo {
 
 class AppController;
@@ -23,6 +25,9 @@ public:
     bool deleteInvoice();
     // The current document is marked as sent: its status is not 0 (Created).
     bool isCurrentInvoiceSent() const;
+
+    // "Invoice RE-2026-3 for Kunde GmbH, 238,00 €": the document in one line.
+    QString describe(const Record &document) const;
 
 private:
     AppController &m_app;

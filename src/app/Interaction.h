@@ -19,6 +19,13 @@ public:
     // A modal alert. Returns the index of the chosen button (0 is the first,
     // the default); with no buttons an "OK" button is shown and 0 returned.
     virtual int alert(const QString &title, const QString &text, const QStringList &buttons) = 0;
+    // The same with another button pressed by Return: a question whose first
+    // answer destroys something defaults to its "Cancel".
+    virtual int ask(const QString &title, const QString &text, const QStringList &buttons, int defaultButton)
+    {
+        Q_UNUSED(defaultButton)
+        return alert(title, text, buttons);
+    }
 
     // The application's error presentation.
     virtual void presentError(const Error &error) = 0;

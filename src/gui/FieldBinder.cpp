@@ -224,7 +224,8 @@ void FieldBinder::commit(const Binding &b)
         value = static_cast<QCheckBox *>(b.widget)->isChecked();
         break;
     }
-    m_app.setDocumentValue(m_doc, b.attr, value);
+    if (!m_app.setDocumentValue(m_doc, b.attr, value))
+        show(b, true); // the stored value stays, and the field says so
 }
 
 } // namespace tabo

@@ -124,6 +124,11 @@ QString GuiInteraction::lastAlertText()
 
 int GuiInteraction::alert(const QString &title, const QString &text, const QStringList &buttons)
 {
+    return ask(title, text, buttons, 0);
+}
+
+int GuiInteraction::ask(const QString &title, const QString &text, const QStringList &buttons, int defaultButton)
+{
     lastAlert(0) = title;
     lastAlert(1) = text;
     if (!nextAnswers().isEmpty())
@@ -140,7 +145,7 @@ int GuiInteraction::alert(const QString &title, const QString &text, const QStri
     QList<QPushButton *> added;
     for (const QString &label : labels)
         added << box.addButton(label, QMessageBox::ActionRole);
-    box.setDefaultButton(added.first());
+    box.setDefaultButton(added.value(defaultButton, added.first()));
     const qsizetype cancel = labels.indexOf(QStringLiteral("Cancel"));
     if (cancel >= 0)
         box.setEscapeButton(added.at(cancel));

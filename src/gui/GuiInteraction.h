@@ -23,6 +23,7 @@ public:
     void setParentWidget(QWidget *parent);
 
     int alert(const QString &title, const QString &text, const QStringList &buttons) override;
+    int ask(const QString &title, const QString &text, const QStringList &buttons, int defaultButton) override;
     void presentError(const Error &error) override;
     QString openFile(const FileRequest &request) override;
     QString saveFile(const FileRequest &request) override;
