@@ -42,6 +42,7 @@ private Q_SLOTS:
     void newLinesAndCatalogue();
     void badNumbersAreRefused();
     void taxesOfNewLines();
+    void catalogueUpkeep();
     void deleteAndEditLines();
     void shippingAndDiscount();
     void sortOrders();
@@ -209,6 +210,40 @@ void TestItemCommands::sortOrders()
         f.prefs.setInteger(P::itemSortOrder, order);
         QCOMPARE(f.items.sortedItems(*f.doc), expected[order]);
     }
+}
+
+void TestItemCommands::catalogueUpkeep()
+{
+    Fixture f;
+    Record *line = f.add(QStringLiteral("Consulting"), QStringLiteral("100"), QStringLiteral("C-1"));
+    f.add(QStringLiteral("Cable"), QStringLiteral("5"));
+    f.add(QStringLiteral("adapter"), QStringLiteral("7"));
+    QCOMPARE(f.items.catalogue().size(), 3);
+    QCOMPARE(f.items.catalogue().first()->text(RecentItem::title), QStringLiteral("adapter")); // by title, case aside
+    QCOMPARE(f.items.catalogue(QStringLiteral("c-1")).size(), 1);
+    Record *entry = f.items.catalogue(QStringLiteral("consult")).value(0);
+    QVERIFY(entry);
+
+    // Edits are checked and saved; the line made from the entry stays.
+    f.prefs.setString(P::prefsRegion, QStringLiteral("de_DE"));
+    QVERIFY(f.items.editCatalogueEntry(entry, QStringLiteral("baseAmount"), QStringLiteral("120,50"), &f.error));
+    QCOMPARE(entry->num(RecentItem::baseAmount), 120.5);
+    QVERIFY(!f.items.editCatalogueEntry(entry, QStringLiteral("baseAmount"), QStringLiteral("viel"), &f.error));
+    QCOMPARE(f.error, QStringLiteral("The price “viel” is not a number."));
+    QVERIFY(!f.items.editCatalogueEntry(entry, QStringLiteral("uniqueID"), QStringLiteral("x"), &f.error));
+    QVERIFY(f.items.editCatalogueEntry(entry, QStringLiteral("isTax2Applied"), true, &f.error));
+    QVERIFY(f.items.editCatalogueEntry(entry, QStringLiteral("unit"), QStringLiteral("h"), &f.error));
+    QVERIFY(!f.app.managedObjectContext()->hasChanges());
+    QCOMPARE(line->num(Item::baseAmount), 100.0);
+
+    // Deleting asks, with Cancel the default.
+    f.ui.answers = {1};
+    QVERIFY(!f.items.deleteCatalogueEntries({entry}));
+    QCOMPARE(f.ui.alerts.last().defaultButton, 1);
+    QCOMPARE(f.items.catalogue(QStringLiteral("A")).size(), 2); // "Cable", "adapter"
+    QVERIFY(f.items.deleteCatalogueEntries(f.items.catalogue()));
+    QVERIFY(f.items.catalogue().isEmpty());
+    QCOMPARE(f.doc->toMany(Invoice::items).size(), 3);
 }
 
 QTEST_GUILESS_MAIN(TestItemCommands)

@@ -8,6 +8,7 @@
 #include "prefs/Preferences.h"
 #include "store/Store.h"
 
+#include <QCollator>
 #include <QHash>
 #include <QLocale>
 
@@ -160,6 +161,90 @@ ItemFields ItemCommands::newItemFields() const
         }
     }
     return f;
+}
+
+QList<Record *> ItemCommands::catalogue(const QString &search) const
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store)
+        return {};
+    QList<Record *> entries;
+    const QString needle = search.trimmed();
+    for (Record *entry : store->all(EntityId::RecentItem)) {
+        if (entry->isDeleted())
+            continue;
+        static constexpr int searched[] = {RecentItem::title, RecentItem::sku, RecentItem::unit};
+        if (!needle.isEmpty() && std::none_of(std::begin(searched), std::end(searched), [&](int a) {
+                return entry->text(a).contains(needle, Qt::CaseInsensitive);
+            }))
+            continue;
+        entries << entry;
+    }
+    QCollator collator;
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    collator.setNumericMode(true);
+    std::stable_sort(entries.begin(), entries.end(), [&](const Record *a, const Record *b) {
+        return collator.compare(a->text(RecentItem::title), b->text(RecentItem::title)) < 0;
+    });
+    return entries;
+}
+
+bool ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const QVariant &value, QString *error)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store || !entry || entry->isDeleted())
+        return false;
+    static const QStringList editable = {QStringLiteral("title"),         QStringLiteral("subtitle"),
+                                         QStringLiteral("unit"),          QStringLiteral("sku"),
+                                         QStringLiteral("note"),          QStringLiteral("baseAmount"),
+                                         QStringLiteral("isTax1Applied"), QStringLiteral("isTax2Applied"),
+                                         QStringLiteral("isTax3Applied")};
+    if (!editable.contains(key)) {
+        setError(error, QStringLiteral("A catalogue entry has no field “%1” to change.").arg(key));
+        return false;
+    }
+    const int attr = entry->desc().attributeIndex(key);
+    if (key == QLatin1String("baseAmount")) {
+        double price = 0;
+        if (value.metaType() == QMetaType::fromType<QString>()) {
+            if (!readField(*this, value.toString(), QStringLiteral("price"), &price, error))
+                return false;
+        } else {
+            bool ok = false;
+            price = value.toDouble(&ok);
+            if (!ok || !fitsAttribute(AttrType::Float, price)) {
+                setError(error, QStringLiteral("The price is not a number."));
+                return false;
+            }
+        }
+        entry->setSingle(attr, float(price));
+    } else if (key.startsWith(QLatin1String("isTax"))) {
+        entry->setBool(attr, value.toBool());
+    } else {
+        entry->setText(attr, value.toString());
+    }
+    m_app.saveContext();
+    return true;
+}
+
+bool ItemCommands::deleteCatalogueEntries(const QList<Record *> &entries)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store || entries.isEmpty())
+        return false;
+    const QString what = entries.size() == 1 ? QStringLiteral("“%1”").arg(entries.first()->text(RecentItem::title))
+                                             : QStringLiteral("%1 entries").arg(entries.size());
+    const int answer = m_app.ui().ask(
+        QStringLiteral("Delete from Catalogue"),
+        QStringLiteral("Delete %1 from the catalogue? Lines already written with %2 stay as they are.")
+            .arg(what, entries.size() == 1 ? QStringLiteral("it") : QStringLiteral("them")),
+        {QStringLiteral("Delete"), QStringLiteral("Cancel")}, 1);
+    if (answer != 0)
+        return false;
+    for (Record *entry : entries)
+        store->remove(entry);
+    m_app.saveContext();
+    return true;
 }
 
 Record *ItemCommands::addItem(const ItemFields &fields, QString *error)

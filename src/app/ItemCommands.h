@@ -65,6 +65,14 @@ public:
     // An empty popover: quantity 1 and one tax, the taxes of the last line
     // added (as far as they are still charged), else the first charged one.
     ItemFields newItemFields() const;
+    // The catalogue, by title; `search` (case aside) narrows it to entries
+    // whose title, article number or unit contains it.
+    QList<Record *> catalogue(const QString &search = {}) const;
+    // One field of a catalogue entry by key (title, subtitle, unit, sku,
+    // note, baseAmount, isTax1Applied..3), as typed; false with *error set.
+    bool editCatalogueEntry(Record *entry, const QString &key, const QVariant &value, QString *error);
+    // Deletes entries after asking; the lines made from them stay as they are.
+    bool deleteCatalogueEntries(const QList<Record *> &entries);
     // addItemRecent: the popover's fields from a catalogue entry.
     ItemFields addItemRecent(const Record &recentItem) const;
     // deleteItem: refused for a sent document, asks first. False when

@@ -1,5 +1,7 @@
 #include "cli/CatalogueCommand.h"
 
+#include "app/AppController.h"
+#include "app/ItemCommands.h"
 #include "cli/AttributeText.h"
 #include "cli/Console.h"
 #include "cli/JsonWriter.h"
@@ -9,16 +11,96 @@
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QHash>
 
 #include <algorithm>
 
 namespace tabo::cli {
 
 CatalogueCommand::CatalogueCommand(Session &session)
-    : Command(session, QStringLiteral("catalogue"), QStringLiteral("list|shipping [--json]"),
+    : Command(session, QStringLiteral("catalogue"),
+              QStringLiteral("list|shipping [--json] | edit ENTRY KEY=VALUE... | delete ENTRY... --yes"),
               QStringLiteral("List the article catalogue (title, price, article number, unit) or the "
-                             "remembered shipping lines (title, amount), by title."))
+                             "remembered shipping lines (title, amount), by title; change an entry (title, subtitle, "
+                             "unit, sku, note, price, tax1..tax3) or delete entries. ENTRY is a title, an article "
+                             "number or a uniqueID."))
 {
+}
+
+Record *CatalogueCommand::entry(const QString &name) const
+{
+    QList<Record *> found;
+    for (Record *e : m_session.controller().items().catalogue()) {
+        if (e->text(RecentItem::uniqueID) == name || e->text(RecentItem::sku) == name
+            || e->text(RecentItem::title).compare(name, Qt::CaseInsensitive) == 0)
+            found << e;
+    }
+    if (found.size() == 1)
+        return found.first();
+    if (found.isEmpty()) {
+        failure(QStringLiteral("The catalogue has no entry “%1”.").arg(name));
+    } else {
+        QStringList ids;
+        for (const Record *e : std::as_const(found))
+            ids << e->text(RecentItem::uniqueID);
+        failure(QStringLiteral("“%1” names %2 entries; use one of their IDs: %3")
+                    .arg(name)
+                    .arg(found.size())
+                    .arg(ids.join(QStringLiteral(", "))));
+    }
+    return nullptr;
+}
+
+int CatalogueCommand::edit(const QStringList &pos)
+{
+    if (pos.size() < 3)
+        return usageError(QStringLiteral("Give the entry and at least one KEY=VALUE."));
+    static const QHash<QString, QString> keys = {
+        {QStringLiteral("title"), QStringLiteral("title")},       {QStringLiteral("subtitle"), QStringLiteral("subtitle")},
+        {QStringLiteral("unit"), QStringLiteral("unit")},         {QStringLiteral("sku"), QStringLiteral("sku")},
+        {QStringLiteral("note"), QStringLiteral("note")},         {QStringLiteral("price"), QStringLiteral("baseAmount")},
+        {QStringLiteral("baseAmount"), QStringLiteral("baseAmount")}, {QStringLiteral("tax1"), QStringLiteral("isTax1Applied")},
+        {QStringLiteral("tax2"), QStringLiteral("isTax2Applied")}, {QStringLiteral("tax3"), QStringLiteral("isTax3Applied")}};
+    int code = kExitOk;
+    KeyValues values;
+    QStringList known = keys.keys();
+    known.sort();
+    if (!splitKeyValues(pos.mid(2), known, &values, &code))
+        return code;
+    Record *e = entry(pos.at(1));
+    if (!e)
+        return kExitFailure;
+    ItemCommands &items = m_session.controller().items();
+    for (const auto &[key, value] : std::as_const(values)) {
+        const QString attr = keys.value(key);
+        QVariant typed = value;
+        if (attr.startsWith(QLatin1String("isTax"))) {
+            bool flag = false;
+            QString reason;
+            if (!AttributeText::flag(key, value, &flag, &reason))
+                return failure(reason);
+            typed = flag;
+        }
+        QString error;
+        if (!items.editCatalogueEntry(e, attr, typed, &error))
+            return failure(error);
+    }
+    return kExitOk;
+}
+
+int CatalogueCommand::remove(const QStringList &pos)
+{
+    if (pos.size() < 2)
+        return usageError(QStringLiteral("Give the entries to delete."));
+    QList<Record *> entries;
+    for (const QString &name : pos.mid(1)) {
+        Record *e = entry(name);
+        if (!e)
+            return kExitFailure;
+        if (!entries.contains(e))
+            entries << e;
+    }
+    return m_session.controller().items().deleteCatalogueEntries(entries) ? kExitOk : kExitFailure;
 }
 
 int CatalogueCommand::execute(const QStringList &args)
@@ -27,12 +109,19 @@ int CatalogueCommand::execute(const QStringList &args)
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
     parser.addOption(json);
     int code = kExitOk;
-    if (!parse(parser, args, 1, 1, &code))
+    if (!parseConfirmed(parser, args, 1, -1, &code))
         return code;
-    const QString what = parser.positionalArguments().constFirst();
+    const QStringList pos = parser.positionalArguments();
+    const QString what = pos.constFirst();
+    if (what == QLatin1String("edit"))
+        return m_session.store() ? edit(pos) : kExitFailure;
+    if (what == QLatin1String("delete"))
+        return m_session.store() ? remove(pos) : kExitFailure;
     const bool articles = what == QLatin1String("list");
     if (!articles && what != QLatin1String("shipping"))
         return usageError(QStringLiteral("Unknown catalogue “%1”.").arg(what));
+    if (pos.size() > 1)
+        return usageError();
     Store *store = m_session.store();
     if (!store)
         return kExitFailure;

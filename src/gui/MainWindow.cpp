@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
+#include "gui/CatalogueWindow.h"
 #include "gui/DesignChoiceSheet.h"
 #include "gui/DocumentActions.h"
 #include "gui/DocumentEditor.h"
@@ -121,6 +122,23 @@ void MainWindow::createActions()
     QMenu *items = menuBar()->addMenu(tr("&Items"));
     items->addAction(m_actions->addItem());
     items->addAction(m_actions->deleteItem());
+    items->addSeparator();
+    QAction *catalogue = items->addAction(tr("Catalogue…"));
+    catalogue->setObjectName(QStringLiteral("actionCatalogue"));
+    connect(catalogue, &QAction::triggered, this, [this] {
+        CatalogueWindow *window = catalogueWindow();
+        window->reload();
+        window->show();
+        window->raise();
+        window->activateWindow();
+    });
+}
+
+CatalogueWindow *MainWindow::catalogueWindow()
+{
+    if (!m_catalogue)
+        m_catalogue = new CatalogueWindow(m_app, this);
+    return m_catalogue;
 }
 
 QAction *MainWindow::addOutputAction(

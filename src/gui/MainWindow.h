@@ -9,6 +9,7 @@ class QLineEdit;
 namespace tabo {
 
 class AppController;
+class CatalogueWindow;
 class DesignChoiceSheet;
 class DocumentActions;
 class DocumentEditor;
@@ -48,6 +49,7 @@ public:
     QAction *preferencesAction() const { return m_preferences; }
     // Built on first use.
     QVPreferencePanel *preferencePanel();
+    CatalogueWindow *catalogueWindow();
 
 protected:
     // Every quit, from the menu or the window's close button, ends here.
@@ -74,6 +76,7 @@ private:
     DocumentActions *m_actions = nullptr;
     FileMenu *m_fileMenu = nullptr;
     QLineEdit *m_search = nullptr;
+    CatalogueWindow *m_catalogue = nullptr;
     FilterButton *m_filterButton = nullptr;
     QAction *m_newInvoice = nullptr;
     QAction *m_newQuote = nullptr;

@@ -191,6 +191,15 @@ run 0 add-item "$E" title=Alpha price=10 quantity=2
 run 0 add-item "$E" title=Alpha price=12 quantity=1
 run 0 catalogue list --json
 jcheck 'sorted(e["baseAmount"] for e in d if e["title"] == "Alpha") == [10, 12] and not [e for e in d if e["title"] == "Gamma"]'
+run 0 catalogue edit Beta price=25 unit=h tax2=1
+run 1 catalogue edit Alpha price=1 # two entries are titled Alpha
+run 2 catalogue edit Beta colour=red
+run 0 catalogue list --json
+jcheck '[(e["baseAmount"], e["unit"], e["isTax2Applied"]) for e in d if e["title"] == "Beta"] == [(25, "h", True)]'
+run 1 catalogue delete Beta # asks first
+run 0 catalogue delete Beta --yes
+run 0 catalogue list --json
+jcheck 'len([e for e in d if e["title"] == "Alpha"]) == 2 and not [e for e in d if e["title"] == "Beta"]'
 run 1 delete-item "$E" 1
 run 1 delete-item "$E" 5 --yes
 run 2 delete-item "$E" first --yes

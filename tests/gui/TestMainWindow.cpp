@@ -1,3 +1,4 @@
+#include "gui/CatalogueWindow.h"
 #include "gui/DocumentListPane.h"
 #include "gui/DocumentTableModel.h"
 #include "gui/FilterButton.h"
@@ -9,6 +10,7 @@
 #include "WindowFixture.h"
 
 #include "app/AppController.h"
+#include "app/ItemCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 
@@ -23,6 +25,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTimer>
 #include <QtTest>
 
@@ -102,6 +105,7 @@ private Q_SLOTS:
     void foreignFileLeavesWindowUsable();
     void firstStartAssistantInstallsLanguage();
     void showsWhatTheCommandLineWrote();
+    void catalogueWindow();
 };
 
 void TestMainWindow::dialogsAndTestHooks()
@@ -282,6 +286,44 @@ void TestMainWindow::showsWhatTheCommandLineWrote()
     QTRY_COMPARE_WITH_TIMEOUT(f.model()->rowCount(), 2, 5000);
     QCOMPARE(f.figure("quoteCount"), QStringLiteral("1"));
     QVERIFY(f.app.findDocument(id));
+}
+
+void TestMainWindow::catalogueWindow()
+{
+    Fixture f;
+    f.start();
+    f.window->newInvoiceAction()->trigger();
+    QString error;
+    for (const char *title : {"Consulting", "Cable", "Adapter"})
+        QVERIFY(f.app.items().addItem({QLatin1String(title), {}, {}, {}, {}, QStringLiteral("10"), QStringLiteral("1"),
+                                       true, false, false},
+                                      &error));
+    f.window->findChild<QAction *>(QStringLiteral("actionCatalogue"))->trigger();
+    CatalogueWindow *window = f.window->catalogueWindow();
+    QVERIFY(window->isVisible());
+    QTableWidget *table = window->table();
+    QCOMPARE(table->rowCount(), 3);
+    QTest::keyClicks(window->searchField(), QStringLiteral("ca"));
+    QCOMPARE(table->rowCount(), 1);
+    QCOMPARE(table->item(0, CatalogueWindow::Title)->text(), QStringLiteral("Cable"));
+
+    // Edited in place; a price that is no number is refused and the cell shows the stored one.
+    table->item(0, CatalogueWindow::Price)->setText(QStringLiteral("12.5"));
+    table->item(0, CatalogueWindow::Tax2)->setCheckState(Qt::Checked);
+    Record *cable = f.app.items().catalogue(QStringLiteral("cable")).value(0);
+    QCOMPARE(cable->num(RecentItem::baseAmount), 12.5);
+    QVERIFY(cable->boolean(RecentItem::isTax2Applied));
+    table->item(0, CatalogueWindow::Price)->setText(QStringLiteral("cheap"));
+    QCOMPARE(cable->num(RecentItem::baseAmount), 12.5);
+    QCOMPARE(table->item(0, CatalogueWindow::Price)->text(), QStringLiteral("12.50"));
+
+    window->searchField()->clear();
+    table->selectRow(0);
+    GuiInteraction::setNextAnswer(0);
+    window->deleteButton()->click();
+    QCOMPARE(GuiInteraction::lastAlertTitle(), QStringLiteral("Delete from Catalogue"));
+    QCOMPARE(table->rowCount(), 2);
+    QCOMPARE(f.app.items().catalogue().size(), 2);
 }
 
 QTEST_MAIN(TestMainWindow)
