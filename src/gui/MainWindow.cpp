@@ -8,6 +8,7 @@
 #include "gui/DocumentActions.h"
 #include "gui/DocumentEditor.h"
 #include "gui/DocumentListPane.h"
+#include "gui/DocumentTableModel.h"
 #include "gui/ExportSheet.h"
 #include "gui/FileMenu.h"
 #include "gui/FilterButton.h"
@@ -15,21 +16,29 @@
 #include "gui/PreferencePanel.h"
 #include "gui/PreviewWindow.h"
 #include "gui/SummaryBar.h"
+#include "prefs/Preferences.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QEvent>
 #include <QFrame>
 #include <QIcon>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QSplitter>
 #include <QTableView>
 #include <QTimer>
-#include <QLineEdit>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 namespace tabo {
+
+namespace {
+// Window state is the desktop's business, not a document setting: kept under
+// names of its own beside the declared keys.
+constexpr char kGeometryKey[] = "window/mainGeometry";
+constexpr char kSplitterKey[] = "window/mainSplitter";
+} // namespace
 
 MainWindow::MainWindow(AppController &app, QWidget *parent)
     : QMainWindow(parent)
@@ -45,6 +54,8 @@ MainWindow::MainWindow(AppController &app, QWidget *parent)
     // The list above, the editor below: both get the full width their
     // columns need.
     auto *split = new QSplitter(Qt::Vertical, central);
+    split->setObjectName(QStringLiteral("mainSplitter"));
+    m_split = split;
     split->setChildrenCollapsible(false);
     m_list = new DocumentListPane(m_app, split);
     m_editor = new DocumentEditor(m_app, split);
@@ -65,6 +76,9 @@ MainWindow::MainWindow(AppController &app, QWidget *parent)
     createActions();
     createToolBar();
 
+    restoreLayout();
+    connect(&m_app, &AppController::currentInvoiceChanged, this, &MainWindow::updateTitle);
+    connect(&m_app, &AppController::listChanged, this, &MainWindow::updateTitle);
     connect(&m_app, &AppController::storeOpened, this, &MainWindow::updateCommands);
     connect(&m_app, &AppController::storeOpened, this, &MainWindow::selectNewestDocument);
     selectNewestDocument();
@@ -286,9 +300,42 @@ void MainWindow::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
 }
 
+void MainWindow::restoreLayout()
+{
+    const Preferences &prefs = m_app.prefs();
+    restoreGeometry(prefs.raw(QString::fromLatin1(kGeometryKey)).toByteArray());
+    m_split->restoreState(prefs.raw(QString::fromLatin1(kSplitterKey)).toByteArray());
+}
+
+void MainWindow::saveLayout()
+{
+    Preferences &prefs = m_app.prefs();
+    prefs.setRaw(QString::fromLatin1(kGeometryKey), saveGeometry());
+    prefs.setRaw(QString::fromLatin1(kSplitterKey), m_split->saveState());
+}
+
+void MainWindow::updateTitle()
+{
+    // The open document, as the list names it; the application's name alone
+    // when none is open.
+    const Record *doc = m_app.currentInvoice();
+    if (!doc) {
+        setWindowTitle(QStringLiteral("Tabo"));
+        return;
+    }
+    QString name = doc->text(Invoice::number).trimmed();
+    if (name.isEmpty())
+        name = DocumentTableModel::subjectText(*doc);
+    const QString client = DocumentTableModel::clientText(*doc);
+    if (!client.isEmpty())
+        name += QStringLiteral(" – ") + client;
+    setWindowTitle(QStringLiteral("%1 — Tabo").arg(name));
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     if (!m_quitDecided) {
+        saveLayout();
         m_editor->commitPending();
         if (m_app.applicationShouldTerminate() == AppController::TerminateReply::Cancel) {
             event->ignore();

@@ -5,6 +5,7 @@
 
 class QAction;
 class QLineEdit;
+class QSplitter;
 
 namespace tabo {
 
@@ -57,6 +58,9 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void restoreLayout();
+    void saveLayout();
+    void updateTitle();
     void createActions();
     void createToolBar();
     void createOutputActions();
@@ -77,6 +81,7 @@ private:
     FileMenu *m_fileMenu = nullptr;
     QLineEdit *m_search = nullptr;
     CatalogueWindow *m_catalogue = nullptr;
+    QSplitter *m_split = nullptr;
     FilterButton *m_filterButton = nullptr;
     QAction *m_newInvoice = nullptr;
     QAction *m_newQuote = nullptr;

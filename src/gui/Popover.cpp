@@ -32,11 +32,21 @@ void Popover::placeUnder(QWidget *anchor)
     if (!anchor)
         return;
     QPoint pos = anchor->mapToGlobal(QPoint(0, anchor->height()));
+    // Inside the window where it fits (a popover hanging off the window's
+    // edge looks lost), else inside the screen.
+    const QWidget *window = anchor->window();
+    QRect area = window->geometry();
     if (const QScreen *screen = anchor->screen()) {
-        const QRect area = screen->availableGeometry();
-        pos.setX(qBound(area.left(), pos.x(), area.right() - width()));
-        if (pos.y() + height() > area.bottom())
-            pos.setY(qMax(area.top(), anchor->mapToGlobal(QPoint(0, 0)).y() - height()));
+        const QRect screenArea = screen->availableGeometry();
+        if (width() > area.width() || height() > area.height())
+            area = screenArea;
+        else
+            area &= screenArea;
+    }
+    pos.setX(qBound(area.left(), pos.x(), area.right() - width()));
+    if (pos.y() + height() > area.bottom()) {
+        const int above = anchor->mapToGlobal(QPoint(0, 0)).y() - height();
+        pos.setY(above >= area.top() ? above : qMax(area.top(), area.bottom() - height()));
     }
     move(pos);
 }

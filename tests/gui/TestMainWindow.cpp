@@ -1,10 +1,13 @@
 #include "gui/CatalogueWindow.h"
+#include "gui/DocumentEditor.h"
 #include "gui/DocumentListPane.h"
 #include "gui/DocumentTableModel.h"
 #include "gui/FilterButton.h"
 #include "gui/FilterPopover.h"
 #include "gui/FirstStartAssistant.h"
 #include "gui/GuiInteraction.h"
+#include "gui/ItemPopover.h"
+#include "gui/ItemsPage.h"
 #include "gui/MainWindow.h"
 #include "TestSupport.h"
 #include "WindowFixture.h"
@@ -24,6 +27,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QSplitter>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTimer>
@@ -106,6 +110,7 @@ private Q_SLOTS:
     void firstStartAssistantInstallsLanguage();
     void showsWhatTheCommandLineWrote();
     void catalogueWindow();
+    void layoutAndTitle();
 };
 
 void TestMainWindow::dialogsAndTestHooks()
@@ -324,6 +329,38 @@ void TestMainWindow::catalogueWindow()
     QCOMPARE(GuiInteraction::lastAlertTitle(), QStringLiteral("Delete from Catalogue"));
     QCOMPARE(table->rowCount(), 2);
     QCOMPARE(f.app.items().catalogue().size(), 2);
+}
+
+void TestMainWindow::layoutAndTitle()
+{
+    Fixture f;
+    f.start();
+    QCOMPARE(f.window->windowTitle(), QStringLiteral("Tabo"));
+    f.window->newInvoiceAction()->trigger();
+    Record *doc = f.app.currentInvoice();
+    doc->setText(Invoice::address, QStringLiteral("Kunde GmbH\nWeg 5"));
+    f.app.documentChanged(doc);
+    QCOMPARE(f.window->windowTitle(), doc->text(Invoice::number) + QStringLiteral(" – Kunde GmbH — Tabo"));
+
+    // At the window's default size the item popover opens inside it.
+    f.window->editor()->itemsPage()->toggleItemPopover();
+    ItemPopover *popover = f.window->editor()->itemsPage()->itemPopover();
+    QVERIFY(popover && popover->isVisible());
+    QVERIFY2(f.window->frameGeometry().contains(popover->frameGeometry()),
+             qPrintable(QStringLiteral("%1,%2 %3x%4").arg(popover->x()).arg(popover->y()).arg(popover->width()).arg(popover->height())));
+    popover->hide();
+
+    // Size and the split between list and editor come back at the next start.
+    f.window->resize(900, 640);
+    auto *split = f.window->findChild<QSplitter *>(QStringLiteral("mainSplitter"));
+    split->setSizes({300, 250});
+    const QList<int> sizes = split->sizes();
+    f.window->quitAction()->trigger();
+    MainWindow again(f.app);
+    again.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&again));
+    QCOMPARE(again.size(), QSize(900, 640));
+    QCOMPARE(again.findChild<QSplitter *>(QStringLiteral("mainSplitter"))->sizes(), sizes);
 }
 
 QTEST_MAIN(TestMainWindow)
