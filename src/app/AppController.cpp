@@ -9,6 +9,7 @@
 #include "app/ItemCommands.h"
 #include "app/OutputCommands.h"
 #include "app/TemplateCommands.h"
+#include "app/UndoHistory.h"
 #include "base/Clock.h"
 #include "domain/CompanyFooter.h"
 #include "domain/Numbering.h"
@@ -41,6 +42,7 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     : QObject(parent)
     , m_prefs(prefs)
     , m_ui(ui)
+    , m_undo(std::make_unique<UndoHistory>(*this))
     , m_documents(std::make_unique<DocumentCommands>(*this))
     , m_items(std::make_unique<ItemCommands>(*this))
     , m_templates(std::make_unique<TemplateCommands>(*this))
@@ -489,6 +491,7 @@ Error AppController::closeStore()
     Error e;
     if (m_store)
         e = m_store->save();
+    m_undo->clear();
     m_current = nullptr;
     m_list.clear();
     m_store.reset();
@@ -695,6 +698,8 @@ bool AppController::setDocumentValue(Record *document, int attr, const QVariant 
         return true;
     if (attr == Invoice::due && !confirmDueDate(*document, value))
         return false;
+    const UndoHistory::Step step(*m_undo, document,
+                                 attr == Invoice::status ? QStringLiteral("Status") : QStringLiteral("Typing"));
     document->setValue(attr, value);
     documentChanged(document);
     return true;

@@ -21,6 +21,7 @@ class DocumentCommands;
 class FileCommands;
 class Interaction;
 class ItemCommands;
+class UndoHistory;
 class Preferences;
 class TemplateCommands;
 class Record;
@@ -158,6 +159,7 @@ public:
     // ---- Commands on the current document ----
     DocumentCommands &documents() { return *m_documents; }
     ItemCommands &items() { return *m_items; }
+    UndoHistory &undo() { return *m_undo; }
     TemplateCommands &templates() { return *m_templates; }
     FileCommands &files() { return *m_files; }
     BackupCommands &backups() { return *m_backups; }
@@ -230,6 +232,7 @@ private:
     QString m_storeURL;
     DocumentList m_list;
     Record *m_current = nullptr;
+    std::unique_ptr<UndoHistory> m_undo;
     QSet<QString> m_dueDateAsked; // unique IDs
     std::function<void()> m_backupBeforeMove;
     std::unique_ptr<DocumentCommands> m_documents;

@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "app/Interaction.h"
 #include "app/OutputCommands.h"
+#include "app/UndoHistory.h"
 #include "base/Clock.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
@@ -144,6 +145,8 @@ bool DocumentCommands::deleteInvoice()
     if (answer != 0)
         return false;
 
+    // What the history holds may refer to the document: it goes with it.
+    m_app.undo().clear();
     m_app.setFilterTag(0);
     store->remove(doc);
     m_app.documentRemoved(doc);

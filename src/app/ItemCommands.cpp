@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/Interaction.h"
+#include "app/UndoHistory.h"
 #include "base/Clock.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
@@ -261,6 +262,7 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
         || !readField(*this, fields.quantity, QStringLiteral("quantity"), &quantity, error))
         return nullptr;
 
+    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Add Line"));
     const Preferences &prefs = m_app.prefs();
     Record *item = store->insert(EntityId::Item);
     item->setText(Item::uniqueID, newUniqueId());
@@ -345,6 +347,7 @@ bool ItemCommands::deleteItem(Record *item)
     Record *doc = documentOf(*item);
     if (!doc)
         doc = m_app.currentInvoice();
+    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Delete Line"));
     Interaction &ui = m_app.ui();
     if (doc && doc->integer(Invoice::status) != 0) {
         ui.alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
@@ -384,6 +387,7 @@ bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &va
         return false;
     }
     const AttrType type = item->desc().attributes[attr].type;
+    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Edit Line"));
     const bool numeric = type == AttrType::Int || type == AttrType::Double || type == AttrType::Float;
     QVariant v = value;
     if (numeric && value.isValid() && !value.isNull()) {
@@ -418,6 +422,7 @@ bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *e
         setError(error, QStringLiteral("There is no document to add the shipping to."));
         return false;
     }
+    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Shipping"));
     double amount = 0;
     // A blank amount only matters when shipping is switched on.
     if ((fields.enabled || !fields.amount.trimmed().isEmpty())
@@ -472,6 +477,7 @@ void ItemCommands::selectRecentShipping(const Record &recentShipping)
     Record *doc = m_app.currentInvoice();
     if (!doc)
         return;
+    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Shipping"));
     doc->setText(Invoice::shippingTitle, recentShipping.text(RecentShipping::title));
     doc->setText(Invoice::shippingSubtitle, recentShipping.text(RecentShipping::subtitle));
     doc->setBool(Invoice::hasShippingSubtitle, recentShipping.boolean(RecentShipping::hasSubtitle));
@@ -489,6 +495,7 @@ bool ItemCommands::closeDiscountPopover(const DiscountFields &fields, QString *e
         setError(error, QStringLiteral("There is no document to add the discount to."));
         return false;
     }
+    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Discount"));
     // Only the field the kind selects must be filled in; a blank other one is 0.
     const bool fixed = fields.kind == 0;
     const bool needed = fields.enabled;

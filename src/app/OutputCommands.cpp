@@ -4,6 +4,7 @@
 #include "app/DesignLibrary.h"
 #include "app/FileCommands.h"
 #include "app/Interaction.h"
+#include "app/UndoHistory.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
@@ -295,6 +296,7 @@ void OutputCommands::markInvoiceAsSent(Record *document)
 {
     if (!document || document->integer(Invoice::kind) != 1 || !m_app.prefs().boolean(P::markInvoiceAsSent))
         return;
+    const UndoHistory::Step step(m_app.undo(), document, QStringLiteral("Mark as Sent"));
     // A paid invoice sent again is open again, and so no longer counts as
     // paid (a part payment stays received).
     if (document->integer(Invoice::status) == 3) {

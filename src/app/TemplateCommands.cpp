@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/Interaction.h"
+#include "app/UndoHistory.h"
 #include "base/Clock.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
@@ -132,6 +133,7 @@ bool TemplateCommands::selectTemplate(Record *templateRecord)
                          {QStringLiteral("OK")});
         return false;
     }
+    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Template"));
 
     const QList<Record *> oldLines = doc->toMany(Invoice::items);
     for (Record *line : oldLines)

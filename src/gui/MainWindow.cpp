@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
+#include "app/UndoHistory.h"
 #include "domain/Record.h"
 #include "gui/CatalogueWindow.h"
 #include "gui/DesignChoiceSheet.h"
@@ -28,6 +29,7 @@
 #include <QSplitter>
 #include <QTableView>
 #include <QTimer>
+#include <QUndoStack>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -120,6 +122,17 @@ void MainWindow::createActions()
     m_fileMenu = new FileMenu(m_app, m_editor, this);
     m_fileMenu->populate(menuBar()->addMenu(tr("&File")), m_quit);
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    // A text field keeps its own Ctrl+Z while it has the focus; elsewhere the
+    // document's changes are undone step by step.
+    QAction *undo = m_app.undo().stack().createUndoAction(this, tr("Undo"));
+    undo->setObjectName(QStringLiteral("actionUndo"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction *redo = m_app.undo().stack().createRedoAction(this, tr("Redo"));
+    redo->setObjectName(QStringLiteral("actionRedo"));
+    redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence::Redo});
+    edit->addAction(undo);
+    edit->addAction(redo);
+    edit->addSeparator();
     m_preferences = edit->addAction(tr("Preferences…"));
     m_preferences->setObjectName(QStringLiteral("actionPreferences"));
     m_preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));

@@ -1,0 +1,164 @@
+#include "app/UndoHistory.h"
+
+#include "app/AppController.h"
+#include "domain/Record.h"
+#include "store/Store.h"
+
+#include <QHash>
+#include <QSet>
+#include <QUndoCommand>
+#include <QUndoStack>
+#include <QVariant>
+#include <QVector>
+
+namespace tabo {
+
+namespace {
+// Steps hold whole documents: a hundred of them is plenty to go back on and
+// stays small next to the store.
+constexpr int kUndoLimit = 100;
+} // namespace
+
+struct UndoHistory::Snapshot
+{
+    QString uniqueID;
+    QVector<QVariant> values;
+    QList<QVector<QVariant>> lines; // each with its uniqueID among the values
+
+    bool operator==(const Snapshot &other) const = default;
+};
+
+struct UndoHistory::Step::State
+{
+    Snapshot snapshot;
+};
+
+class UndoHistory::Change : public QUndoCommand
+{
+public:
+    Change(UndoHistory &history, Snapshot before, Snapshot after, const QString &text)
+        : QUndoCommand(text)
+        , m_history(history)
+        , m_before(std::move(before))
+        , m_after(std::move(after))
+    {
+    }
+    void undo() override { m_history.restore(m_before); }
+    void redo() override
+    {
+        // The change itself has happened already when the step is pushed.
+        if (std::exchange(m_done, true))
+            m_history.restore(m_after);
+    }
+
+private:
+    UndoHistory &m_history;
+    Snapshot m_before;
+    Snapshot m_after;
+    bool m_done = false;
+};
+
+namespace {
+
+QVector<QVariant> valuesOf(const Record &record)
+{
+    QVector<QVariant> values;
+    const qsizetype count = qsizetype(record.desc().attributes.size());
+    values.reserve(count);
+    for (int a = 0; a < count; ++a)
+        values << record.value(a);
+    return values;
+}
+
+void writeValues(Record &record, const QVector<QVariant> &values)
+{
+    for (int a = 0; a < values.size(); ++a) {
+        if (record.value(a) != values.at(a)) {
+            if (values.at(a).isValid())
+                record.setValue(a, values.at(a));
+            else
+                record.setNull(a);
+        }
+    }
+}
+
+} // namespace
+
+UndoHistory::UndoHistory(AppController &app)
+    : m_app(app)
+    , m_stack(std::make_unique<QUndoStack>())
+{
+    m_stack->setUndoLimit(kUndoLimit);
+}
+
+UndoHistory::~UndoHistory() = default;
+
+void UndoHistory::clear()
+{
+    m_stack->clear();
+}
+
+UndoHistory::Snapshot UndoHistory::snapshot(const Record &document) const
+{
+    Snapshot s;
+    s.uniqueID = document.text(Invoice::uniqueID);
+    s.values = valuesOf(document);
+    for (const Record *line : document.toMany(Invoice::items))
+        s.lines << valuesOf(*line);
+    return s;
+}
+
+void UndoHistory::restore(const Snapshot &snapshot)
+{
+    Store *store = m_app.managedObjectContext();
+    Record *doc = store ? m_app.findDocument(snapshot.uniqueID) : nullptr;
+    if (!doc || doc->isDeleted())
+        return;
+    m_restoring = true;
+    writeValues(*doc, snapshot.values);
+    QHash<QString, Record *> current;
+    for (Record *line : doc->toMany(Invoice::items))
+        current.insert(line->text(Item::uniqueID), line);
+    QSet<QString> kept;
+    for (const QVector<QVariant> &values : snapshot.lines) {
+        const QString id = values.value(Item::uniqueID).toString();
+        kept.insert(id);
+        Record *line = current.value(id);
+        if (!line) {
+            line = store->insert(EntityId::Item);
+            line->setToOne(Item::invoice, doc);
+        }
+        writeValues(*line, values);
+    }
+    for (auto it = current.cbegin(); it != current.cend(); ++it)
+        if (!kept.contains(it.key()))
+            store->remove(it.value());
+    m_app.setCurrentInvoice(doc);
+    m_app.documentChanged(doc);
+    m_restoring = false;
+}
+
+UndoHistory::Step::Step(UndoHistory &history, Record *document, const QString &text)
+    : m_history(history)
+    , m_text(text)
+{
+    if (history.m_depth++ > 0 || history.m_restoring || !document || document->isDeleted())
+        return;
+    m_before = std::make_unique<State>(State{history.snapshot(*document)});
+}
+
+UndoHistory::Step::~Step()
+{
+    --m_history.m_depth;
+    if (!m_before)
+        return;
+    Record *doc = m_history.m_app.findDocument(m_before->snapshot.uniqueID);
+    if (!doc || doc->isDeleted())
+        return;
+    Snapshot after = m_history.snapshot(*doc);
+    if (after == m_before->snapshot)
+        return;
+    m_history.m_stack->push(new Change(m_history, std::move(m_before->snapshot), std::move(after), m_text));
+}
+
+} // namespace tabo

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class QUndoStack;
+
+namespace tabo {
+
+class AppController;
+class Record;
+
+// One undo stack for every change the window makes to a document: fields,
+// lines, shipping, discount, an applied template, the status. A step keeps the
+// document and its lines as they were before and after (whole, so every kind
+// of change is undone the same way); undoing writes the "before" back through
+// the controller, which recalculates and saves it like any edit. Deleting a
+// document is not undoable and empties the history.
+class UndoHistory
+{
+public:
+    explicit UndoHistory(AppController &app);
+    ~UndoHistory();
+
+    QUndoStack &stack() { return *m_stack; }
+    void clear();
+
+    // Records one step around a command: the document is read when the step
+    // begins and when it ends; nested steps and steps that changed nothing
+    // leave no trace, nor does anything while a step is being undone.
+    class Step
+    {
+    public:
+        Step(UndoHistory &history, Record *document, const QString &text);
+        ~Step();
+        Step(const Step &) = delete;
+        Step &operator=(const Step &) = delete;
+
+    private:
+        struct State;
+        UndoHistory &m_history;
+        std::unique_ptr<State> m_before;
+        QString m_text;
+    };
+
+private:
+    struct Snapshot;
+    class Change;
+    Snapshot snapshot(const Record &document) const;
+    void restore(const Snapshot &snapshot);
+
+    AppController &m_app;
+    std::unique_ptr<QUndoStack> m_stack;
+    int m_depth = 0;
+    bool m_restoring = false;
+};
+
+} // namespace tabo
