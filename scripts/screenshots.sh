@@ -50,3 +50,30 @@ echo "preview: docs/screenshots/preview.png"
 # Each pane of the preferences window.
 xvfb-run -a -s '-screen 0 1600x1000x24' "$(cd "$build" && pwd)/tabo" --screenshot-preferences docs/screenshots/preferences
 echo "preferences: docs/screenshots/preferences/"
+
+# The list with a search, the catalogue, and a German invoice's first page,
+# in a second home with the German defaults.
+home2=$(mktemp -d)
+trap 'rm -rf "$home" "$home2"' EXIT
+export HOME="$home2" XDG_DATA_HOME="$home2/data" XDG_CONFIG_HOME="$home2/config"
+"$cli" prefs install-language 1 >/dev/null
+"$cli" prefs set prefsName "Muster GmbH"
+for kv in "prefsStreet=Hauptstraße 1" prefsPostcode=10115 prefsCity=Berlin "prefsPhone=030 123456" \
+          prefsEmail=info@muster.example prefsVATID=DE123456789 "prefsBank=Berliner Bank" \
+          "prefsIBAN=DE02 1203 0000 0000 2020 51" prefsBIC=BYLADEM1001; do
+  "$cli" prefs set "${kv%%=*}" "${kv#*=}"
+done
+"$cli" prefs set prefsLetterbox "Muster GmbH · Hauptstraße 1 · 10115 Berlin"
+"$cli" prefs install-language 1 >/dev/null # composes the footers from the details above
+for client in "Kunde GmbH" "Atelier Lumen" "Kunde AG" "Nordlicht KG"; do
+  id=$("$cli" new invoice)
+  "$cli" address "$id" address="$client"$'\nWeg 5\n20095 Hamburg' >/dev/null
+  "$cli" set "$id" subject "Wartung ${client%% *}" >/dev/null
+  "$cli" add-item "$id" title=Beratung price=95 quantity=6 unit=Std. tax1=1 >/dev/null
+  "$cli" add-item "$id" title="Hosting, ein Jahr" price=240 quantity=1 unit=pauschal tax1=1 >/dev/null
+done
+"$cli" render "$id" --pdf "$home2/de.pdf"
+pdftoppm -png -r 70 -f 1 -l 1 -singlefile "$home2/de.pdf" docs/screenshots/invoice-german
+xvfb-run -a -s '-screen 0 1400x900x24' "$(cd "$build" && pwd)/tabo" --screenshot-search Kunde --screenshot docs/screenshots/list-search.png
+xvfb-run -a -s '-screen 0 1400x900x24' "$(cd "$build" && pwd)/tabo" --screenshot-catalogue docs/screenshots/catalogue.png
+echo "list, catalogue, German invoice: docs/screenshots/"

@@ -1,5 +1,6 @@
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
+#include "gui/CatalogueWindow.h"
 #include "gui/DesignPane.h"
 #include "gui/FirstStartAssistant.h"
 #include "gui/GuiInteraction.h"
@@ -12,6 +13,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QLineEdit>
 #include <QLoggingCategory>
 #include <QTimer>
 
@@ -81,6 +83,12 @@ int main(int argc, char **argv)
                                              QStringLiteral("folder"));
     screenshotPreferences.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(screenshotPreferences);
+    QCommandLineOption screenshotSearch(QStringLiteral("screenshot-search"), QString(), QStringLiteral("text"));
+    screenshotSearch.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(screenshotSearch);
+    QCommandLineOption screenshotCatalogue(QStringLiteral("screenshot-catalogue"), QString(), QStringLiteral("file"));
+    screenshotCatalogue.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(screenshotCatalogue);
     parser.addPositionalArgument(
         QStringLiteral("files"), QStringLiteral("Refused: open documents from the File menu."));
     parser.process(application);
@@ -98,8 +106,8 @@ int main(int argc, char **argv)
     controller.awakeFromNib();
     window.show();
     controller.applicationDidFinishLaunching();
-    const bool grabbing =
-        parser.isSet(screenshot) || parser.isSet(screenshotPreview) || parser.isSet(screenshotPreferences);
+    const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
+                          || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue);
     if (controller.needsFirstStartAssistant() && !grabbing) {
         QTimer::singleShot(350, &window, [&window, &controller] {
             FirstStartAssistant assistant(controller, &window);
@@ -111,6 +119,20 @@ int main(int argc, char **argv)
     for (const QString &file : files)
         QTimer::singleShot(0, &controller, [&controller, file] { controller.applicationOpenFile(file); });
 
+    if (parser.isSet(screenshotSearch))
+        window.searchField()->setText(parser.value(screenshotSearch));
+    if (parser.isSet(screenshotCatalogue)) {
+        const QString target = parser.value(screenshotCatalogue);
+        QTimer::singleShot(400, &window, [&window, target] {
+            CatalogueWindow *catalogue = window.catalogueWindow();
+            catalogue->show();
+            QTimer::singleShot(300, catalogue, [&window, catalogue, target] {
+                if (!catalogue->grab().save(target))
+                    qWarning("Could not write the screenshot to %s", qPrintable(target));
+                window.close();
+            });
+        });
+    }
     if (parser.isSet(screenshot)) {
         const QString target = parser.value(screenshot);
         QTimer::singleShot(400, &window, [&window, target] {
