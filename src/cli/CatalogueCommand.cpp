@@ -43,10 +43,7 @@ Record *CatalogueCommand::entry(const QString &name) const
         QStringList ids;
         for (const Record *e : std::as_const(found))
             ids << e->text(RecentItem::uniqueID);
-        failure(QStringLiteral("“%1” names %2 entries; use one of their IDs: %3")
-                    .arg(name)
-                    .arg(found.size())
-                    .arg(ids.join(QStringLiteral(", "))));
+        failure(ambiguousName(name, QStringLiteral("entries"), ids));
     }
     return nullptr;
 }

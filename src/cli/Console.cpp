@@ -19,4 +19,12 @@ void printError(const QString &line)
     std::fflush(stderr);
 }
 
+QString ambiguousName(const QString &name, const QString &what, const QStringList &ids)
+{
+    return QStringLiteral("“%1” names %2 %3; use one of their unique IDs: %4.")
+        .arg(name)
+        .arg(ids.size())
+        .arg(what, ids.join(QStringLiteral(", ")));
+}
+
 } // namespace tabo::cli

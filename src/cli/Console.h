@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace tabo::cli {
 
@@ -13,5 +14,8 @@ inline constexpr int kExitUsage = 2;
 void printOut(const QString &text);
 // One line on standard error.
 void printError(const QString &line);
+// The refusal of a name that picks several records: the command could act on
+// the wrong one, so it lists their IDs instead.
+QString ambiguousName(const QString &name, const QString &what, const QStringList &ids);
 
 } // namespace tabo::cli

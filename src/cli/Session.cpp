@@ -55,10 +55,7 @@ Record *Session::document(const QString &idOrNumber)
         QStringList ids;
         for (const Record *r : found)
             ids << r->text(Invoice::uniqueID);
-        printError(QStringLiteral("“%1” names %2 documents; use one of their unique IDs: %3.")
-                       .arg(idOrNumber)
-                       .arg(found.size())
-                       .arg(ids.join(QStringLiteral(", "))));
+        printError(ambiguousName(idOrNumber, QStringLiteral("documents"), ids));
         return nullptr;
     }
     return found.first();
