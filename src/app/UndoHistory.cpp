@@ -30,6 +30,7 @@ struct UndoHistory::Snapshot
 
 struct UndoHistory::Step::State
 {
+    Record *document;
     Snapshot snapshot;
 };
 
@@ -144,7 +145,7 @@ UndoHistory::Step::Step(UndoHistory &history, Record *document, const QString &t
 {
     if (history.m_depth++ > 0 || history.m_restoring || !document || document->isDeleted())
         return;
-    m_before = std::make_unique<State>(State{history.snapshot(*document)});
+    m_before = std::make_unique<State>(State{document, history.snapshot(*document)});
 }
 
 UndoHistory::Step::~Step()
@@ -152,8 +153,9 @@ UndoHistory::Step::~Step()
     --m_history.m_depth;
     if (!m_before)
         return;
-    Record *doc = m_history.m_app.findDocument(m_before->snapshot.uniqueID);
-    if (!doc || doc->isDeleted())
+    // Records stay allocated while the store is open, deleted or not.
+    Record *doc = m_before->document;
+    if (doc->isDeleted())
         return;
     Snapshot after = m_history.snapshot(*doc);
     if (after == m_before->snapshot)
