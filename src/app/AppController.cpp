@@ -537,6 +537,20 @@ void AppController::setFilterPredicate()
     arrangedAnew();
 }
 
+ReportFigures AppController::generateReport()
+{
+    Report::Range range;
+    if (m_prefs.boolean(P::useReportDateRange))
+        range = std::pair(m_prefs.date(P::reportDateL), m_prefs.date(P::reportDateR));
+    return generateReport(range);
+}
+
+ReportFigures AppController::generateReport(const Report::Range &range)
+{
+    calculateDatabase();
+    return Report::compute(m_list.arranged(), range);
+}
+
 void AppController::setSearchText(const QString &text)
 {
     DocumentList::Search search;

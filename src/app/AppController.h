@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "domain/Calculator.h"
 #include "domain/DocumentList.h"
+#include "reports/Report.h"
 
 #include <QObject>
 #include <QSet>
@@ -128,6 +129,10 @@ public:
     // summary follows what is shown.
     void setSearchText(const QString &text);
     void setFilterPredicate();
+    // The report over what the list shows, after a summary pass; the range
+    // from the preferences when `useReportDateRange` is on.
+    ReportFigures generateReport();
+    ReportFigures generateReport(const Report::Range &range);
     // The filter button: with a filter on it clears it and returns false;
     // otherwise returns true (the caller opens the popover).
     bool openFilterPopover();

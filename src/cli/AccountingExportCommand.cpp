@@ -8,23 +8,8 @@
 
 #include <QCommandLineParser>
 
-#include <optional>
-
 namespace tabo::cli {
 
-namespace {
-
-// A bare day covers the whole day, as the sheet's date pickers do.
-std::optional<Date> rangeDate(const QString &text, bool end)
-{
-    const QDate day = QDate::fromString(text, Qt::ISODate);
-    if (day.isValid())
-        return Date::fromDateTime(end ? day.endOfDay() : day.startOfDay());
-    const Date date = Date::fromIso8601(text);
-    return date.isValid() ? std::optional(date) : std::nullopt;
-}
-
-} // namespace
 
 AccountingExportCommand::AccountingExportCommand(Session &session)
     : Command(session, QStringLiteral("accounting-export"),

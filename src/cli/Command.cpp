@@ -84,6 +84,15 @@ bool Command::splitKeyValues(const QStringList &words, const QStringList &keys, 
     return true;
 }
 
+std::optional<Date> Command::rangeDate(const QString &text, bool end)
+{
+    const QDate day = QDate::fromString(text, Qt::ISODate);
+    if (day.isValid())
+        return Date::fromDateTime(end ? day.endOfDay() : day.startOfDay());
+    const Date date = Date::fromIso8601(text);
+    return date.isValid() ? std::optional(date) : std::nullopt;
+}
+
 QCommandLineOption Command::yesOption()
 {
     return QCommandLineOption(QStringLiteral("yes"), QStringLiteral("Confirm the questions the command asks."));

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "base/Date.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <utility>
 
 class QCommandLineOption;
@@ -46,6 +49,9 @@ protected:
     // a key outside `keys` (unless empty), is a usage error: false with
     // `exitCode` set.
     bool splitKeyValues(const QStringList &words, const QStringList &keys, KeyValues *out, int *exitCode) const;
+    // An ISO 8601 date or moment of --from/--to; a bare day covers the whole
+    // day, as the window's date pickers do.
+    static std::optional<Date> rangeDate(const QString &text, bool end);
     // --yes: confirm the questions the command asks.
     static QCommandLineOption yesOption();
     // --filter TAG, the document list's filter.

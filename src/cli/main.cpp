@@ -21,6 +21,7 @@
 #include "cli/PrefsCommand.h"
 #include "cli/PrintCommand.h"
 #include "cli/RenderCommand.h"
+#include "cli/ReportCommand.h"
 #include "cli/RestoreCommand.h"
 #include "cli/Session.h"
 #include "cli/SetCommand.h"
@@ -111,6 +112,7 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<TemplateCommand>(session));
     commands.push_back(std::make_unique<CalcCommand>(session));
     commands.push_back(std::make_unique<ListCommand>(session));
+    commands.push_back(std::make_unique<ReportCommand>(session));
     commands.push_back(std::make_unique<ShowCommand>(session));
     commands.push_back(std::make_unique<ExportCommand>(session));
     commands.push_back(std::make_unique<ImportCommand>(session));

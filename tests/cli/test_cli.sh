@@ -475,6 +475,16 @@ if command -v pdftotext >/dev/null; then
     done
 fi
 
+# --- report ------------------------------------------------------------------
+run 0 report --json
+jcheck 'set(d) == {"INVOICES", "CREATED", "SENT", "DUE", "PAID", "FLOATTOTAL", "FLOATTOTALNET", "FLOATDUE", "FLOATPAID", "FLOATAVERAGE", "FLOATAVERAGENET"} and all(isinstance(v, int) for v in d.values())'
+run 0 report --filter 4 --json # quotes only: nothing counts
+jcheck 'd["INVOICES"] == 0 and d["FLOATTOTAL"] == 0 and d["FLOATAVERAGE"] == 0'
+run 0 report --from 1999-01-01 --to 1999-12-31 --json
+jcheck 'd["INVOICES"] == 0 and d["CREATED"] == 0'
+run 2 report --from 2026-01-01
+run 2 report --from yesterday --to today
+
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
 printf 'not a database, just text\n' >"$T/other/data/Tabo/Tabo.mbdb"

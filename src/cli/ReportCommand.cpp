@@ -1,0 +1,82 @@
+#include "cli/ReportCommand.h"
+
+#include "app/AppController.h"
+#include "cli/Console.h"
+#include "cli/JsonWriter.h"
+#include "cli/Session.h"
+
+#include <QCommandLineParser>
+#include <QStringList>
+
+namespace tabo::cli {
+
+ReportCommand::ReportCommand(Session &session)
+    : Command(session, QStringLiteral("report"),
+              QStringLiteral("[--filter TAG] [--search TEXT] [--from DATE --to DATE] [--json]"),
+              QStringLiteral("The report over the documents a filter and search show: counts, sums and averages "
+                             "(with --json by their placeholder names), revenue per month and the five clients "
+                             "with the most. --from and --to limit it to invoices dated in between, both days "
+                             "included."))
+{
+}
+
+int ReportCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption filter = filterOption();
+    const QCommandLineOption search(QStringLiteral("search"), QStringLiteral("The list's search."),
+                                    QStringLiteral("TEXT"));
+    const QCommandLineOption from(QStringLiteral("from"), QStringLiteral("First day."), QStringLiteral("DATE"));
+    const QCommandLineOption to(QStringLiteral("to"), QStringLiteral("Last day."), QStringLiteral("DATE"));
+    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
+    parser.addOptions({filter, search, from, to, json});
+    int code = kExitOk;
+    if (!parse(parser, args, 0, 0, &code))
+        return code;
+    unsigned tag = 0;
+    if (!filterTag(parser, &tag, &code))
+        return code;
+    if (parser.isSet(from) != parser.isSet(to))
+        return usageError(QStringLiteral("A range needs both --from and --to."));
+    Report::Range range;
+    if (parser.isSet(from)) {
+        const std::optional<Date> begin = rangeDate(parser.value(from), false);
+        const std::optional<Date> end = rangeDate(parser.value(to), true);
+        if (!begin || !end)
+            return usageError(QStringLiteral("“%1” is not an ISO 8601 date.")
+                                  .arg(begin ? parser.value(to) : parser.value(from)));
+        range = std::pair(*begin, *end);
+    }
+    if (!m_session.store())
+        return kExitFailure;
+
+    AppController &app = m_session.controller();
+    app.setFilterTag(tag);
+    app.setFilterPredicate();
+    if (parser.isSet(search))
+        app.setSearchText(parser.value(search));
+    const ReportFigures figures = range ? app.generateReport(range) : app.generateReport(Report::Range());
+    const auto values = Report::placeholderValues(figures);
+
+    QStringList out;
+    if (parser.isSet(json)) {
+        for (const auto &[name, value] : values)
+            out << JsonWriter::string(name) + QStringLiteral(": ") + value.toString();
+        printOut(QLatin1Char('{') + out.join(QStringLiteral(", ")) + QLatin1Char('}'));
+        return kExitOk;
+    }
+    for (const auto &[name, value] : values)
+        out << name + QLatin1Char('\t') + value.toString();
+    for (const ReportFigures::Month &m : figures.months)
+        out << QStringLiteral("month %1-%2\t%3\t%4\tpaid %5\topen %6")
+                   .arg(m.year)
+                   .arg(m.month, 2, 10, QLatin1Char('0'))
+                   .arg(JsonWriter::number(m.gross), JsonWriter::number(m.net), JsonWriter::number(m.paid),
+                        JsonWriter::number(m.open));
+    for (const ReportFigures::Client &c : figures.topClients)
+        out << QStringLiteral("client\t%1\t%2\t%3 invoices").arg(c.name, JsonWriter::number(c.gross)).arg(c.invoices);
+    printOut(out.join(QLatin1Char('\n')));
+    return kExitOk;
+}
+
+} // namespace tabo::cli
