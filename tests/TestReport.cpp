@@ -3,6 +3,7 @@
 #include "domain/Record.h"
 #include "reports/Report.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 #include <memory>
@@ -103,6 +104,27 @@ private Q_SLOTS:
         for (int i = 0; i < 7; ++i)
             doc(1, 1, 10 + i, from, QStringLiteral("Client %1").arg(i));
         QCOMPARE(Report::compute(m_list, {}).topClients.size(), 5);
+    }
+
+    void pageFillsEveryPlaceholder()
+    {
+        Record *d = doc(1, 3, 1234.5, test::utc(2026, 2, 3), QStringLiteral("A & B <GmbH>"));
+        d->setNum(Invoice::paidAmount, 1234.5);
+        const ReportFigures f = Report::compute(m_list, {});
+        const QString page = Report::page(Report::chartTemplate(), f, Report::chartScript(),
+                                          QStringLiteral("Report | Müller & Co | 03.02.2026"),
+                                          QLocale(QLocale::German, QLocale::Germany));
+        QVERIFY(!page.isEmpty());
+        QRegularExpression left(QStringLiteral("%[A-Z]+%"));
+        QVERIFY2(!left.match(page).hasMatch(), qPrintable(left.match(page).captured()));
+        QVERIFY(page.contains(QStringLiteral("1.234,50")));
+        QVERIFY(page.contains(QStringLiteral("Müller &amp; Co")));
+        QVERIFY(page.contains(QStringLiteral("A &amp; B &lt;GmbH&gt;")));
+        // The whole-number and net placeholders stay apart.
+        const QString small = Report::page(QStringLiteral("%FLOATTOTAL%|%FLOATTOTALNET%|%FLOATTOTALCOMMA%"), f, {}, {},
+                                           QLocale::c());
+        QCOMPARE(small, QStringLiteral("1234|%1|1234.50").arg(Report::wholeNumber(f.totalNet)));
+        QCOMPARE(Report::page(QString(), f, {}, {}, QLocale::c()), QString());
     }
 };
 

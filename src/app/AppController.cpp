@@ -551,6 +551,15 @@ ReportFigures AppController::generateReport(const Report::Range &range)
     return Report::compute(m_list.arranged(), range);
 }
 
+QString AppController::reportPage(const ReportFigures &figures) const
+{
+    const QString comment = QStringLiteral("%1 | %2 | %3")
+                                .arg(QStringLiteral("Report"), m_prefs.string(P::prefsName),
+                                     Numbering::getPatternDateStringFromDate(m_prefs, now()));
+    return Report::page(Report::chartTemplate(), figures, Report::chartScript(), comment,
+                        QLocale(m_prefs.documentRegion()));
+}
+
 void AppController::setSearchText(const QString &text)
 {
     DocumentList::Search search;

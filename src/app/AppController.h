@@ -133,6 +133,8 @@ public:
     // from the preferences when `useReportDateRange` is on.
     ReportFigures generateReport();
     ReportFigures generateReport(const Report::Range &range);
+    // The report page of those figures ("Report | company | today").
+    QString reportPage(const ReportFigures &figures) const;
     // The filter button: with a filter on it clears it and returns false;
     // otherwise returns true (the caller opens the popover).
     bool openFilterPopover();

@@ -1,18 +1,20 @@
 #include "cli/ReportCommand.h"
 
 #include "app/AppController.h"
+#include "app/OutputCommands.h"
 #include "cli/Console.h"
 #include "cli/JsonWriter.h"
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QSaveFile>
 #include <QStringList>
 
 namespace tabo::cli {
 
 ReportCommand::ReportCommand(Session &session)
     : Command(session, QStringLiteral("report"),
-              QStringLiteral("[--filter TAG] [--search TEXT] [--from DATE --to DATE] [--json]"),
+              QStringLiteral("[--filter TAG] [--search TEXT] [--from DATE --to DATE] [--json | --html FILE | --pdf FILE]"),
               QStringLiteral("The report over the documents a filter and search show: counts, sums and averages "
                              "(with --json by their placeholder names), revenue per month and the five clients "
                              "with the most. --from and --to limit it to invoices dated in between, both days "
@@ -29,7 +31,11 @@ int ReportCommand::execute(const QStringList &args)
     const QCommandLineOption from(QStringLiteral("from"), QStringLiteral("First day."), QStringLiteral("DATE"));
     const QCommandLineOption to(QStringLiteral("to"), QStringLiteral("Last day."), QStringLiteral("DATE"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
-    parser.addOptions({filter, search, from, to, json});
+    const QCommandLineOption html(QStringLiteral("html"), QStringLiteral("Write the report page."),
+                                  QStringLiteral("FILE"));
+    const QCommandLineOption pdf(QStringLiteral("pdf"), QStringLiteral("Write the report as PDF."),
+                                 QStringLiteral("FILE"));
+    parser.addOptions({filter, search, from, to, json, html, pdf});
     int code = kExitOk;
     if (!parse(parser, args, 0, 0, &code))
         return code;
@@ -59,6 +65,20 @@ int ReportCommand::execute(const QStringList &args)
     const auto values = Report::placeholderValues(figures);
 
     QStringList out;
+    if (parser.isSet(pdf)) {
+        // The bars are the page's own CSS: the PDF engine runs no script.
+        if (!app.outputs().renderHtmlToFile(app.reportPage(figures), parser.value(pdf)))
+            return failure(QStringLiteral("The report could not be written to “%1”.").arg(parser.value(pdf)));
+        return kExitOk;
+    }
+    if (parser.isSet(html)) {
+        QSaveFile file(parser.value(html));
+        const QByteArray page = app.reportPage(figures).toUtf8();
+        if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.commit())
+            return failure(QStringLiteral("The report could not be written to “%1”: %2")
+                               .arg(parser.value(html), file.errorString()));
+        return kExitOk;
+    }
     if (parser.isSet(json)) {
         for (const auto &[name, value] : values)
             out << JsonWriter::string(name) + QStringLiteral(": ") + value.toString();

@@ -4,7 +4,8 @@
 
 namespace tabo::cli {
 
-// report [--filter TAG] [--search TEXT] [--from DATE --to DATE] [--json]: the
+// report [--filter TAG] [--search TEXT] [--from DATE --to DATE] [--json | --html FILE | --pdf FILE]:
+// the
 // report's figures over the documents the list shows.
 class ReportCommand : public Command
 {

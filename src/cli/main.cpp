@@ -67,7 +67,7 @@ bool rendersPages(int argc, char *argv[])
         rest << QString::fromLocal8Bit(argv[i]);
     if (name == "design")
         return DesignCommand::rendersPages(rest);
-    if (name != "render")
+    if (name != "render" && name != "report")
         return false;
     for (const QString &arg : std::as_const(rest)) {
         if (arg == QLatin1String("--"))

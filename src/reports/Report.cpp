@@ -3,6 +3,7 @@
 #include "domain/Record.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QHash>
 
 #include <algorithm>
@@ -165,6 +166,87 @@ QList<std::pair<QString, QVariant>> placeholderValues(const ReportFigures &f)
         {QStringLiteral("FLOATAVERAGE"), whole(f.average)},
         {QStringLiteral("FLOATAVERAGENET"), whole(f.averageNet)},
     };
+}
+
+QString chartTemplate()
+{
+    QFile file(QStringLiteral(":/reports/chart.html"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString chartScript()
+{
+    QFile file(QStringLiteral(":/reports/charts.js"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString page(const QString &templateText, const ReportFigures &f, const QString &script, const QString &comment,
+             const QLocale &locale)
+{
+    if (templateText.isEmpty())
+        return QString();
+    const auto amount = [&](float v) { return locale.toString(double(v), 'f', 2); };
+    QString months;
+    float monthsMax = 0;
+    for (const ReportFigures::Month &m : f.months)
+        monthsMax = std::max(monthsMax, m.gross);
+    for (const ReportFigures::Month &m : f.months) {
+        months += QStringLiteral("<tr><th>%1-%2</th><td><div class=\"stack\" style=\"--v: %3\">"
+                                 "<span class=\"paid\" style=\"flex: %4\"></span>"
+                                 "<span class=\"open\" style=\"flex: %5\"></span></div></td>"
+                                 "<td class=\"num\">%6<br><small>%7</small></td></tr>")
+                      .arg(m.year)
+                      .arg(m.month, 2, 10, QLatin1Char('0'))
+                      .arg(wholeNumber(m.gross), wholeNumber(std::max(m.paid, 0.0f)),
+                           wholeNumber(std::max(m.open, 0.0f)), amount(m.gross), amount(m.net));
+    }
+    QString clients;
+    for (const ReportFigures::Client &c : f.topClients) {
+        clients += QStringLiteral("<tr><th>%1</th><td class=\"num\">%2</td><td class=\"num\">%3</td></tr>")
+                       .arg(c.name.toHtmlEscaped(), amount(c.gross),
+                            c.invoices == 1 ? QStringLiteral("1 invoice")
+                                            : QStringLiteral("%1 invoices").arg(c.invoices));
+    }
+    // Longer names first, so "%FLOATTOTAL%" does not eat "%FLOATTOTALNET%".
+    const std::pair<QString, QString> values[] = {
+        {QStringLiteral("%LOCINVOICES%"), QStringLiteral("Invoices")},
+        {QStringLiteral("%LOCAVERAGE%"), QStringLiteral("Average")},
+        {QStringLiteral("%LOCTOTALUP%"), QStringLiteral("TOTAL")},
+        {QStringLiteral("%LOCTOTAL%"), QStringLiteral("Total")},
+        {QStringLiteral("%LOCSENT%"), QStringLiteral("Sent")},
+        {QStringLiteral("%LOCDUEUP%"), QStringLiteral("DUE")},
+        {QStringLiteral("%LOCDUE%"), QStringLiteral("Due")},
+        {QStringLiteral("%LOCPAIDUP%"), QStringLiteral("PAID")},
+        {QStringLiteral("%LOCPAID%"), QStringLiteral("Paid")},
+        {QStringLiteral("%LOCAVERAGEUP%"), QStringLiteral("AVERAGE")},
+        {QStringLiteral("%FLOATTOTALNETCOMMA%"), amount(f.totalNet)},
+        {QStringLiteral("%FLOATTOTALCOMMA%"), amount(f.total)},
+        {QStringLiteral("%FLOATDUECOMMA%"), amount(f.dueSum)},
+        {QStringLiteral("%FLOATPAIDCOMMA%"), amount(f.paidSum)},
+        {QStringLiteral("%FLOATAVERAGENETCOMMA%"), amount(f.averageNet)},
+        {QStringLiteral("%FLOATAVERAGECOMMA%"), amount(f.average)},
+        {QStringLiteral("%FLOATTOTALNET%"), wholeNumber(f.totalNet)},
+        {QStringLiteral("%FLOATTOTAL%"), wholeNumber(f.total)},
+        {QStringLiteral("%FLOATDUE%"), wholeNumber(f.dueSum)},
+        {QStringLiteral("%FLOATPAID%"), wholeNumber(f.paidSum)},
+        {QStringLiteral("%FLOATAVERAGENET%"), wholeNumber(f.averageNet)},
+        {QStringLiteral("%FLOATAVERAGE%"), wholeNumber(f.average)},
+        {QStringLiteral("%INVOICES%"), QString::number(f.invoices())},
+        {QStringLiteral("%CREATED%"), QString::number(f.created)},
+        {QStringLiteral("%SENT%"), QString::number(f.sent)},
+        {QStringLiteral("%DUE%"), QString::number(f.due)},
+        {QStringLiteral("%PAID%"), QString::number(f.paid)},
+        {QStringLiteral("%MONTHSMAX%"), wholeNumber(monthsMax)},
+        {QStringLiteral("%MONTHROWS%"), months},
+        {QStringLiteral("%CLIENTROWS%"), clients},
+        {QStringLiteral("%REPORTCOMMENT%"), comment.toHtmlEscaped()},
+    };
+    QString out = templateText;
+    for (const auto &[name, value] : values)
+        out.replace(name, value);
+    // The script last: nothing it holds is taken for a placeholder.
+    out.replace(QStringLiteral("%JSSCRIPT%"), script);
+    return out;
 }
 
 } // namespace tabo::Report

@@ -3,6 +3,7 @@
 #include "base/Date.h"
 
 #include <QList>
+#include <QLocale>
 #include <QString>
 #include <QVariant>
 
@@ -63,6 +64,15 @@ ReportFigures compute(const QList<Record *> &arranged, const Range &range);
 QList<std::pair<QString, QVariant>> placeholderValues(const ReportFigures &figures);
 // A sum for the chart: truncated to a whole number, no grouping, no decimals.
 QString wholeNumber(float value);
+
+// The report page: the "chart" template with every placeholder filled, the
+// chart script in place of %JSSCRIPT%, amounts for people in `locale`, and
+// `comment` as %REPORTCOMMENT%. An empty template gives an empty page.
+QString page(const QString &templateText, const ReportFigures &figures, const QString &script,
+             const QString &comment, const QLocale &locale);
+// The template and script kept with the application.
+QString chartTemplate();
+QString chartScript();
 
 } // namespace Report
 

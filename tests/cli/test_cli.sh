@@ -482,6 +482,8 @@ run 0 report --filter 4 --json # quotes only: nothing counts
 jcheck 'd["INVOICES"] == 0 and d["FLOATTOTAL"] == 0 and d["FLOATAVERAGE"] == 0'
 run 0 report --from 1999-01-01 --to 1999-12-31 --json
 jcheck 'd["INVOICES"] == 0 and d["CREATED"] == 0'
+run 0 report --html "$T/report.html"
+grep -q "Invoices" "$T/report.html" && ! grep -qE "%[A-Z]+%" "$T/report.html" && pass=$((pass + 1)) || bad "report page"
 run 2 report --from 2026-01-01
 run 2 report --from yesterday --to today
 
