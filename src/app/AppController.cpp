@@ -8,6 +8,7 @@
 #include "app/Interaction.h"
 #include "app/ItemCommands.h"
 #include "app/OutputCommands.h"
+#include "app/ReportCommands.h"
 #include "app/TemplateCommands.h"
 #include "app/UndoHistory.h"
 #include "base/Clock.h"
@@ -51,6 +52,7 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_accounting(std::make_unique<AccountingExport>(*this))
     , m_designs(std::make_unique<DesignLibrary>(*this))
     , m_outputs(std::make_unique<OutputCommands>(*this))
+    , m_reports(std::make_unique<ReportCommands>(*this))
 {
     setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });
     SyntaxDefinition::registerColorDefaults(m_prefs);

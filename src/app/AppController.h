@@ -22,6 +22,7 @@ class DocumentCommands;
 class FileCommands;
 class Interaction;
 class ItemCommands;
+class ReportCommands;
 class UndoHistory;
 class Preferences;
 class TemplateCommands;
@@ -167,6 +168,7 @@ public:
     DocumentCommands &documents() { return *m_documents; }
     ItemCommands &items() { return *m_items; }
     UndoHistory &undo() { return *m_undo; }
+    ReportCommands &reports() { return *m_reports; }
     TemplateCommands &templates() { return *m_templates; }
     FileCommands &files() { return *m_files; }
     BackupCommands &backups() { return *m_backups; }
@@ -250,6 +252,7 @@ private:
     std::unique_ptr<AccountingExport> m_accounting;
     std::unique_ptr<DesignLibrary> m_designs;
     std::unique_ptr<OutputCommands> m_outputs;
+    std::unique_ptr<ReportCommands> m_reports;
     bool m_tabo2TemplatePending = false;
     QString m_backupPath;
     QString m_pdfPath;

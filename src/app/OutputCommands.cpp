@@ -222,12 +222,17 @@ void OutputCommands::exportCommand()
 
 bool OutputCommands::printWorkingPdf(const Record &invoice)
 {
+    return printPdf(m_app.pdfPath(), jobTitle(invoice));
+}
+
+bool OutputCommands::printPdf(const QString &path, const QString &title)
+{
     PrintRequest request;
-    request.jobTitle = jobTitle(invoice);
+    request.jobTitle = title;
     request.printer = m_printer;
     if (m_app.prefs().integer(P::printBehavior) == 1 && !m_app.ui().printDialog(request))
         return false;
-    const Error error = PrintSystem::printFile(m_app.pdfPath(), request);
+    const Error error = PrintSystem::printFile(path, request);
     if (!error)
         return true;
     m_app.ui().alert(QStringLiteral("Error!"), error.message(), {kOK});
@@ -236,19 +241,25 @@ bool OutputCommands::printWorkingPdf(const Record &invoice)
 
 bool OutputCommands::savePdf(const Record &invoice)
 {
-    Interaction::FileRequest request;
-    request.title = QStringLiteral("Export As PDF File");
-    request.extensions = {QStringLiteral("pdf")};
     // A slash cannot stand in a file name; numbers such as "2026/17" are common.
-    request.suggestedName = jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-'));
+    return savePdfAs(m_app.pdfPath(), QStringLiteral("Export As PDF File"),
+                     jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-')));
+}
+
+bool OutputCommands::savePdfAs(const QString &path, const QString &panelTitle, const QString &suggestedName)
+{
+    Interaction::FileRequest request;
+    request.title = panelTitle;
+    request.extensions = {QStringLiteral("pdf")};
+    request.suggestedName = suggestedName;
     request.canCreateFolders = true;
-    QString path = m_app.ui().saveFile(request);
-    if (path.isEmpty())
+    QString target = m_app.ui().saveFile(request);
+    if (target.isEmpty())
         return false;
-    if (QFileInfo(path).suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive) != 0)
-        path += QStringLiteral(".pdf");
+    if (QFileInfo(target).suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive) != 0)
+        target += QStringLiteral(".pdf");
     QString error;
-    if (copyPdf(m_app.pdfPath(), path, &error))
+    if (copyPdf(path, target, &error))
         return true;
     m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
     return false;

@@ -92,6 +92,10 @@ public:
     // command line).
     bool renderHtmlToFile(const QString &html, const QString &path);
     bool renderHtmlToFile(const QString &html, const QString &path, const PageSetup &setup);
+    // Any finished PDF to the printer (with the print dialog when the
+    // preferences ask for it), or copied to a file the person chooses.
+    bool printPdf(const QString &path, const QString &jobTitle);
+    bool savePdfAs(const QString &path, const QString &panelTitle, const QString &suggestedName);
     // Paper and margins, and the line numbering the document's pages.
     PageSetup pageSetupFor(const Record &document) const;
     // Renders each document into the path of the same index, several at a

@@ -16,6 +16,7 @@
 #include "gui/LetterSheet.h"
 #include "gui/PreferencePanel.h"
 #include "gui/PreviewWindow.h"
+#include "gui/ReportWindow.h"
 #include "gui/SummaryBar.h"
 #include "prefs/Preferences.h"
 
@@ -150,6 +151,11 @@ void MainWindow::createActions()
     items->addAction(m_actions->addItem());
     items->addAction(m_actions->deleteItem());
     items->addSeparator();
+    QMenu *reports = menuBar()->addMenu(tr("&Reports"));
+    QAction *report = reports->addAction(tr("Report…"));
+    report->setObjectName(QStringLiteral("actionReport"));
+    report->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    connect(report, &QAction::triggered, this, [this] { reportWindow()->toggle(); });
     QAction *catalogue = items->addAction(tr("Catalogue…"));
     catalogue->setObjectName(QStringLiteral("actionCatalogue"));
     connect(catalogue, &QAction::triggered, this, [this] {
@@ -159,6 +165,13 @@ void MainWindow::createActions()
         window->raise();
         window->activateWindow();
     });
+}
+
+ReportWindow *MainWindow::reportWindow()
+{
+    if (!m_report)
+        m_report = new ReportWindow(m_app, this);
+    return m_report;
 }
 
 CatalogueWindow *MainWindow::catalogueWindow()

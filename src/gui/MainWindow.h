@@ -11,6 +11,7 @@ namespace tabo {
 
 class AppController;
 class CatalogueWindow;
+class ReportWindow;
 class DesignChoiceSheet;
 class DocumentActions;
 class DocumentEditor;
@@ -51,6 +52,7 @@ public:
     // Built on first use.
     QVPreferencePanel *preferencePanel();
     CatalogueWindow *catalogueWindow();
+    ReportWindow *reportWindow();
 
 protected:
     // Every quit, from the menu or the window's close button, ends here.
@@ -81,6 +83,7 @@ private:
     FileMenu *m_fileMenu = nullptr;
     QLineEdit *m_search = nullptr;
     CatalogueWindow *m_catalogue = nullptr;
+    ReportWindow *m_report = nullptr;
     QSplitter *m_split = nullptr;
     FilterButton *m_filterButton = nullptr;
     QAction *m_newInvoice = nullptr;

@@ -8,12 +8,15 @@
 #include "gui/GuiInteraction.h"
 #include "gui/ItemPopover.h"
 #include "gui/ItemsPage.h"
+#include "gui/PdfPane.h"
+#include "gui/ReportWindow.h"
 #include "gui/MainWindow.h"
 #include "TestSupport.h"
 #include "WindowFixture.h"
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
+#include "app/ReportCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 
@@ -111,6 +114,7 @@ private Q_SLOTS:
     void showsWhatTheCommandLineWrote();
     void catalogueWindow();
     void layoutAndTitle();
+    void reportFollowsTheList();
 };
 
 void TestMainWindow::dialogsAndTestHooks()
@@ -361,6 +365,50 @@ void TestMainWindow::layoutAndTitle()
     QVERIFY(QTest::qWaitForWindowExposed(&again));
     QCOMPARE(again.size(), QSize(900, 640));
     QCOMPARE(again.findChild<QSplitter *>(QStringLiteral("mainSplitter"))->sizes(), sizes);
+}
+
+void TestMainWindow::reportFollowsTheList()
+{
+    Fixture f;
+    f.start();
+    for (const char *client : {"Kunde GmbH", "Atelier"}) {
+        f.window->newInvoiceAction()->trigger();
+        Record *doc = f.app.currentInvoice();
+        doc->setText(Invoice::customerName, QLatin1String(client));
+        QString error;
+        QVERIFY(f.app.items().addItem({QStringLiteral("Work"), {}, {}, {}, {}, QStringLiteral("100"),
+                                       QStringLiteral("1"), false, false, false},
+                                      &error));
+        doc->setInt(Invoice::status, 1);
+        doc->setDate(Invoice::due, doc->date(Invoice::date).addDays(30));
+        f.app.documentChanged(doc);
+    }
+    // The first report explains itself once; Ctrl+R toggles the window.
+    GuiInteraction::setNextAnswer(0);
+    QAction *report = f.window->findChild<QAction *>(QStringLiteral("actionReport"));
+    report->trigger();
+    QCOMPARE(GuiInteraction::lastAlertTitle(), QStringLiteral("Hint!"));
+    ReportWindow *window = f.window->reportWindow();
+    QVERIFY(window->isVisible());
+    QTRY_VERIFY(window->view()->pageCount() > 0);
+    const QString pdf = ReportCommands::reportPdfPath();
+    QProcess text;
+    text.start(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")});
+    QVERIFY(text.waitForFinished(10000));
+    QVERIFY(QString::fromUtf8(text.readAllStandardOutput()).contains(QStringLiteral("200")));
+
+    // A search in the main list narrows the report with it.
+    f.window->searchField()->setText(QStringLiteral("Atelier"));
+    QTRY_VERIFY(window->view()->pageCount() > 0);
+    text.start(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")});
+    QVERIFY(text.waitForFinished(10000));
+    const QString narrowed = QString::fromUtf8(text.readAllStandardOutput());
+    QVERIFY2(narrowed.contains(QStringLiteral("Atelier")) && !narrowed.contains(QStringLiteral("Kunde")),
+             qPrintable(narrowed));
+    GuiInteraction::setNextAnswer(0);
+    report->trigger();
+    QVERIFY(!window->isVisible());
+    QVERIFY(f.prefs.boolean(Preferences::isReportHintShown));
 }
 
 QTEST_MAIN(TestMainWindow)
