@@ -72,8 +72,11 @@ for client in "Kunde GmbH" "Atelier Lumen" "Kunde AG" "Nordlicht KG"; do
   "$cli" add-item "$id" title=Beratung price=95 quantity=6 unit=Std. tax1=1 >/dev/null
   "$cli" add-item "$id" title="Hosting, ein Jahr" price=240 quantity=1 unit=pauschal tax1=1 >/dev/null
 done
+"$cli" set "$id" status 3 >/dev/null
+"$cli" report --pdf "$home2/report.pdf"
+pdftoppm -png -r 70 -f 1 -l 1 -singlefile "$home2/report.pdf" docs/screenshots/report
 "$cli" render "$id" --pdf "$home2/de.pdf"
 pdftoppm -png -r 70 -f 1 -l 1 -singlefile "$home2/de.pdf" docs/screenshots/invoice-german
 xvfb-run -a -s '-screen 0 1400x900x24' "$(cd "$build" && pwd)/tabo" --screenshot-search Kunde --screenshot docs/screenshots/list-search.png
 xvfb-run -a -s '-screen 0 1400x900x24' "$(cd "$build" && pwd)/tabo" --screenshot-catalogue docs/screenshots/catalogue.png
-echo "list, catalogue, German invoice: docs/screenshots/"
+echo "list, catalogue, report, German invoice: docs/screenshots/"
