@@ -1,0 +1,232 @@
+#include "render/PrinterDocument.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QDebug>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace tabo {
+
+namespace {
+
+QString tagOf(const QString &key)
+{
+    return QStringLiteral("<%1/>").arg(key);
+}
+
+} // namespace
+
+PrinterTextView::PrinterTextView(const QRectF &frame, const QString &html, double horizontalInset,
+                                 double verticalInset, const QColor &background)
+    : m_frame(frame)
+    , m_horizontalInset(horizontalInset)
+    , m_verticalInset(verticalInset)
+    , m_background(background)
+    , m_text(std::make_unique<QTextDocument>())
+{
+    m_text->setDocumentMargin(0);
+    m_text->setHtml(html);
+    m_text->setTextWidth(std::max(1.0, frame.width() - 2 * horizontalInset));
+}
+
+PrinterTextView::PrinterTextView(const PrinterTextView &other)
+    : m_frame(other.m_frame)
+    , m_horizontalInset(other.m_horizontalInset)
+    , m_verticalInset(other.m_verticalInset)
+    , m_background(other.m_background)
+    , m_text(std::unique_ptr<QTextDocument>(other.m_text->clone()))
+{
+}
+
+PrinterTextView &PrinterTextView::operator=(const PrinterTextView &other)
+{
+    if (this != &other) {
+        m_frame = other.m_frame;
+        m_horizontalInset = other.m_horizontalInset;
+        m_verticalInset = other.m_verticalInset;
+        m_background = other.m_background;
+        m_text.reset(other.m_text->clone());
+    }
+    return *this;
+}
+
+PrinterTextView::~PrinterTextView() = default;
+
+void PrinterTextView::setFrame(const QRectF &frame)
+{
+    m_frame = frame;
+    m_text->setTextWidth(std::max(1.0, frame.width() - 2 * m_horizontalInset));
+}
+
+double PrinterTextView::usedHeight() const
+{
+    return m_text->size().height() + 1 + 2 * m_verticalInset;
+}
+
+QString PrinterTextView::plainText() const
+{
+    return m_text->toPlainText();
+}
+
+void PrinterTextView::substituteVariables(const QHash<QString, QString> &values)
+{
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        const QString tag = tagOf(it.key());
+        // A value holding its own tag would put it back for ever.
+        const QString value = it.value().contains(tag) ? QStringLiteral("Error: Recursion") : it.value();
+        for (QTextCursor found = m_text->find(tag); !found.isNull(); found = m_text->find(tag, found)) {
+            const QTextCharFormat format = found.charFormat();
+            found.insertText(value, format);
+        }
+    }
+}
+
+void PrinterTextView::draw(QPainter &painter) const
+{
+    painter.save();
+    if (m_background.isValid())
+        painter.fillRect(m_frame, m_background);
+    painter.translate(m_frame.topLeft() + QPointF(m_horizontalInset, m_verticalInset));
+    const QRectF clip(0, 0, m_frame.width() - 2 * m_horizontalInset, m_frame.height() - 2 * m_verticalInset);
+    painter.setClipRect(clip);
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.clip = clip;
+    context.palette.setColor(QPalette::Text, Qt::black);
+    m_text->documentLayout()->draw(&painter, context);
+    painter.restore();
+}
+
+PrinterPage::PrinterPage(const QSizeF &size, double topMargin, double bottomMargin)
+    : m_size(size)
+    , m_topMargin(topMargin)
+    , m_bottomMargin(bottomMargin)
+{
+}
+
+QList<PrinterItem> PrinterPage::fillWithItems(QList<PrinterItem> items, const PrinterDocument &document)
+{
+    double footerHeight = 0;
+    if (document.headerView)
+        m_views.push_back(*document.headerView);
+    if (document.footerView) {
+        PrinterTextView footer = *document.footerView;
+        const QRectF f = footer.frame();
+        footerHeight = f.height();
+        footer.setFrame(QRectF(f.x(), m_size.height() - f.height(), f.width(), f.height()));
+        m_views.push_back(footer);
+    }
+    const double limit = m_size.height() - m_bottomMargin - footerHeight;
+    double cursor = m_topMargin;
+    bool placed = false;
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        PrinterItem &item = items[i];
+        if (item.pageBreakBefore) {
+            // Breaks once, even on a page still empty.
+            item.pageBreakBefore = false;
+            return items.mid(i);
+        }
+        const double width = m_size.width() - item.leftMargin - item.rightMargin;
+        PrinterTextView view(QRectF(item.leftMargin, 0, width, 0), item.html, item.horizontalInset, item.verticalInset,
+                             item.backgroundColor);
+        const double height = view.usedHeight();
+        const double top = cursor + item.topMargin;
+        if (top + height > limit) {
+            if (placed)
+                return items.mid(i);
+            // A block taller than a free page would never fit: it stands alone
+            // on its page, cut at the foot, so that building ends.
+            qWarning("A printed block of %.0f points is taller than the page; it is cut.", height);
+            ++m_clipped;
+            view.setFrame(QRectF(item.leftMargin, top, width, std::max(0.0, limit - top)));
+            m_views.push_back(view);
+            return items.mid(i + 1);
+        }
+        view.setFrame(QRectF(item.leftMargin, top, width, height));
+        m_views.push_back(view);
+        placed = true;
+        cursor = top + height + item.bottomMargin;
+    }
+    return {};
+}
+
+void PrinterPage::substituteVariables(const QHash<QString, QString> &values)
+{
+    for (PrinterTextView &view : m_views)
+        view.substituteVariables(values);
+}
+
+void PrinterPage::draw(QPainter &painter) const
+{
+    for (const PrinterTextView &view : m_views)
+        view.draw(painter);
+}
+
+PrinterDocument::PrinterDocument(QList<PrinterItem> items)
+    : m_items(std::move(items))
+{
+}
+
+void PrinterDocument::layout()
+{
+    if (m_layouted)
+        return;
+    m_layouted = true;
+    build();
+    paginate();
+}
+
+void PrinterDocument::build()
+{
+    QList<PrinterItem> remaining = m_items;
+    // The very first page is made even for no items: the heading of an empty
+    // list is still printed.
+    do {
+        PrinterPage page(pageSize, topMargin, bottomMargin);
+        remaining = page.fillWithItems(remaining, *this);
+        m_pages.push_back(std::move(page));
+    } while (!remaining.isEmpty());
+}
+
+void PrinterDocument::paginate()
+{
+    const QString count = QString::number(qlonglong(m_pages.size()));
+    for (std::size_t i = 0; i < m_pages.size(); ++i)
+        m_pages[i].substituteVariables(
+            {{QStringLiteral("pageNumber"), QString::number(qlonglong(i + 1))}, {QStringLiteral("pageCount"), count}});
+}
+
+void PrinterDocument::substituteVariables(const QHash<QString, QString> &values)
+{
+    layout();
+    for (PrinterPage &page : m_pages)
+        page.substituteVariables(values);
+}
+
+const std::vector<PrinterPage> &PrinterDocument::pages()
+{
+    layout();
+    return m_pages;
+}
+
+bool PrinterDocument::writePdf(const QString &path, const QString &title)
+{
+    layout();
+    QPdfWriter writer(path);
+    writer.setTitle(title);
+    writer.setResolution(72); // one unit a point, as the blocks are measured
+    writer.setPageSize(QPageSize(pageSize, QPageSize::Point, QString(), QPageSize::ExactMatch));
+    writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+    QPainter painter;
+    if (!painter.begin(&writer))
+        return false;
+    for (std::size_t i = 0; i < m_pages.size(); ++i) {
+        if (i > 0 && !writer.newPage())
+            return false;
+        m_pages[i].draw(painter);
+    }
+    return painter.end();
+}
+
+} // namespace tabo
