@@ -1,3 +1,4 @@
+#include "cli/AccountBookCommand.h"
 #include "cli/AccountingExportCommand.h"
 #include "cli/AddItemCommand.h"
 #include "cli/AddressCommand.h"
@@ -67,6 +68,9 @@ bool rendersPages(int argc, char *argv[])
         rest << QString::fromLocal8Bit(argv[i]);
     if (name == "design")
         return DesignCommand::rendersPages(rest);
+    // QPdfWriter and rich-text layout need the GUI application's fonts.
+    if (name == "account-book")
+        return true;
     if (name != "render" && name != "report")
         return false;
     for (const QString &arg : std::as_const(rest)) {
@@ -113,6 +117,7 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<CalcCommand>(session));
     commands.push_back(std::make_unique<ListCommand>(session));
     commands.push_back(std::make_unique<ReportCommand>(session));
+    commands.push_back(std::make_unique<AccountBookCommand>(session));
     commands.push_back(std::make_unique<ShowCommand>(session));
     commands.push_back(std::make_unique<ExportCommand>(session));
     commands.push_back(std::make_unique<ImportCommand>(session));

@@ -1,5 +1,6 @@
 #include "gui/MainWindow.h"
 
+#include "app/AccountBook.h"
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
 #include "app/UndoHistory.h"
@@ -156,6 +157,9 @@ void MainWindow::createActions()
     report->setObjectName(QStringLiteral("actionReport"));
     report->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
     connect(report, &QAction::triggered, this, [this] { reportWindow()->toggle(); });
+    QAction *book = reports->addAction(tr("Print Account Book…"));
+    book->setObjectName(QStringLiteral("actionAccountBook"));
+    connect(book, &QAction::triggered, this, [this] { AccountBook(m_app).print(); });
     QAction *catalogue = items->addAction(tr("Catalogue…"));
     catalogue->setObjectName(QStringLiteral("actionCatalogue"));
     connect(catalogue, &QAction::triggered, this, [this] {

@@ -484,6 +484,9 @@ run 0 report --from 1999-01-01 --to 1999-12-31 --json
 jcheck 'd["INVOICES"] == 0 and d["CREATED"] == 0'
 run 0 report --html "$T/report.html"
 grep -q "Invoices" "$T/report.html" && ! grep -qE "%[A-Z]+%" "$T/report.html" && pass=$((pass + 1)) || bad "report page"
+run 0 account-book --pdf "$T/book.pdf"
+pdftotext "$T/book.pdf" - 2>/dev/null | tr -d ' ' | grep -q '1/' && pass=$((pass + 1)) || bad "account book footer"
+run 2 account-book
 run 2 report --from 2026-01-01
 run 2 report --from yesterday --to today
 

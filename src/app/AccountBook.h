@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace tabo {
+
+class AppController;
+class Record;
+struct PrinterItem;
+
+// The printed account book: the invoices the main list shows, by date, one
+// block of three table lines each under the company's name and the column
+// headings, with "page / pages" at every foot.
+class AccountBook
+{
+public:
+    explicit AccountBook(AppController &app) : m_app(app) {}
+
+    // The blocks of the book for `documents` (only invoices are listed).
+    QList<PrinterItem> items(const QList<Record *> &documents) const;
+    // The book of what the list shows, written as PDF at `path`.
+    bool writePdf(const QString &path);
+    // printAccountBook:: the one-time hint, then the book to the printer.
+    bool print();
+
+    // A text cut to `length` characters, with " &hellip;" after a cut.
+    static QString cut(const QString &text, int length);
+    // The client line: the address on one line (" &middot; " between its
+    // lines) and the client number.
+    static QString clientLine(const QString &address, const QString &clientNumber);
+
+private:
+    AppController &m_app;
+};
+
+} // namespace tabo

@@ -1,0 +1,47 @@
+#include "cli/AccountBookCommand.h"
+
+#include "app/AccountBook.h"
+#include "app/AppController.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+AccountBookCommand::AccountBookCommand(Session &session)
+    : Command(session, QStringLiteral("account-book"), QStringLiteral("[--filter TAG] [--search TEXT] --pdf FILE"),
+              QStringLiteral("Write the account book of the invoices a filter and search show as PDF."))
+{
+}
+
+int AccountBookCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption filter = filterOption();
+    const QCommandLineOption search(QStringLiteral("search"), QStringLiteral("The list's search."),
+                                    QStringLiteral("TEXT"));
+    const QCommandLineOption pdf(QStringLiteral("pdf"), QStringLiteral("The PDF to write."), QStringLiteral("FILE"));
+    parser.addOptions({filter, search, pdf});
+    int code = kExitOk;
+    if (!parse(parser, args, 0, 0, &code))
+        return code;
+    unsigned tag = 0;
+    if (!filterTag(parser, &tag, &code))
+        return code;
+    if (!parser.isSet(pdf))
+        return usageError(QStringLiteral("Give the PDF to write with --pdf FILE."));
+    if (!m_session.store())
+        return kExitFailure;
+    AppController &app = m_session.controller();
+    app.setFilterTag(tag);
+    app.setFilterPredicate();
+    if (parser.isSet(search))
+        app.setSearchText(parser.value(search));
+    AccountBook book(app);
+    if (!book.writePdf(parser.value(pdf)))
+        return failure(QStringLiteral("The account book could not be written to “%1”.").arg(parser.value(pdf)));
+    return kExitOk;
+}
+
+} // namespace tabo::cli
