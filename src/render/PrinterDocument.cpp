@@ -24,11 +24,8 @@ PrinterTextView::PrinterTextView(const QRectF &frame, const QString &html, doubl
     , m_horizontalInset(horizontalInset)
     , m_verticalInset(verticalInset)
     , m_background(background)
-    , m_text(std::make_unique<QTextDocument>())
+    , m_html(html)
 {
-    m_text->setDocumentMargin(0);
-    m_text->setHtml(html);
-    m_text->setTextWidth(std::max(1.0, frame.width() - 2 * horizontalInset));
 }
 
 PrinterTextView::PrinterTextView(const PrinterTextView &other)
@@ -36,7 +33,7 @@ PrinterTextView::PrinterTextView(const PrinterTextView &other)
     , m_horizontalInset(other.m_horizontalInset)
     , m_verticalInset(other.m_verticalInset)
     , m_background(other.m_background)
-    , m_text(std::unique_ptr<QTextDocument>(other.m_text->clone()))
+    , m_html(other.m_html)
 {
 }
 
@@ -47,40 +44,65 @@ PrinterTextView &PrinterTextView::operator=(const PrinterTextView &other)
         m_horizontalInset = other.m_horizontalInset;
         m_verticalInset = other.m_verticalInset;
         m_background = other.m_background;
-        m_text.reset(other.m_text->clone());
+        m_html = other.m_html;
+        m_text.reset();
     }
     return *this;
 }
 
 PrinterTextView::~PrinterTextView() = default;
 
+void PrinterTextView::release() const
+{
+    m_text.reset();
+}
+
+QTextDocument &PrinterTextView::text() const
+{
+    if (!m_text) {
+        m_text = std::make_unique<QTextDocument>();
+        m_text->setDocumentMargin(0);
+        m_text->setHtml(m_html);
+        m_text->setTextWidth(std::max(1.0, m_frame.width() - 2 * m_horizontalInset));
+    }
+    return *m_text;
+}
+
 void PrinterTextView::setFrame(const QRectF &frame)
 {
     m_frame = frame;
-    m_text->setTextWidth(std::max(1.0, frame.width() - 2 * m_horizontalInset));
+    if (m_text)
+        m_text->setTextWidth(std::max(1.0, frame.width() - 2 * m_horizontalInset));
 }
 
 double PrinterTextView::usedHeight() const
 {
-    return m_text->size().height() + 1 + 2 * m_verticalInset;
+    return text().size().height() + 1 + 2 * m_verticalInset;
 }
 
 QString PrinterTextView::plainText() const
 {
-    return m_text->toPlainText();
+    return text().toPlainText();
 }
 
 void PrinterTextView::substituteVariables(const QHash<QString, QString> &values)
 {
+    // A tag reads "<key/>" in the text, so its HTML holds "/&gt;": without
+    // that there is nothing to fill in, and nothing needs laying out.
+    if (!m_html.contains(QLatin1String("/&gt;")))
+        return;
+    QTextDocument &doc = text();
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         const QString tag = tagOf(it.key());
         // A value holding its own tag would put it back for ever.
         const QString value = it.value().contains(tag) ? QStringLiteral("Error: Recursion") : it.value();
-        for (QTextCursor found = m_text->find(tag); !found.isNull(); found = m_text->find(tag, found)) {
+        for (QTextCursor found = doc.find(tag); !found.isNull(); found = doc.find(tag, found)) {
             const QTextCharFormat format = found.charFormat();
             found.insertText(value, format);
         }
     }
+    m_html = doc.toHtml();
+    release();
 }
 
 void PrinterTextView::draw(QPainter &painter) const
@@ -94,8 +116,9 @@ void PrinterTextView::draw(QPainter &painter) const
     QAbstractTextDocumentLayout::PaintContext context;
     context.clip = clip;
     context.palette.setColor(QPalette::Text, Qt::black);
-    m_text->documentLayout()->draw(&painter, context);
+    text().documentLayout()->draw(&painter, context);
     painter.restore();
+    release();
 }
 
 PrinterPage::PrinterPage(const QSizeF &size, double topMargin, double bottomMargin)
@@ -131,6 +154,7 @@ QList<PrinterItem> PrinterPage::fillWithItems(QList<PrinterItem> items, const Pr
         PrinterTextView view(QRectF(item.leftMargin, 0, width, 0), item.html, item.horizontalInset, item.verticalInset,
                              item.backgroundColor);
         const double height = view.usedHeight();
+        view.release();
         const double top = cursor + item.topMargin;
         if (top + height > limit) {
             if (placed)

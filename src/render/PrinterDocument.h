@@ -55,13 +55,19 @@ public:
     QString plainText() const;
     void substituteVariables(const QHash<QString, QString> &values);
     void draw(QPainter &painter) const;
+    // Drops the laid-out text; it is made again from the HTML when needed.
+    // A book of hundreds of pages would otherwise hold every block's layout.
+    void release() const;
 
 private:
+    QTextDocument &text() const;
+
     QRectF m_frame;
     double m_horizontalInset;
     double m_verticalInset;
     QColor m_background;
-    std::unique_ptr<QTextDocument> m_text;
+    QString m_html;
+    mutable std::unique_ptr<QTextDocument> m_text;
 };
 
 class PrinterDocument;
