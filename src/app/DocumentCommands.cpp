@@ -5,6 +5,7 @@
 #include "app/OutputCommands.h"
 #include "app/UndoHistory.h"
 #include "base/Clock.h"
+#include "domain/Contacts.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
@@ -193,9 +194,7 @@ QString DocumentCommands::describe(const Record &document) const
     const QString number = document.text(Invoice::number).trimmed();
     if (!number.isEmpty())
         text += QLatin1Char(' ') + number;
-    QString client = document.text(Invoice::customerName).trimmed();
-    if (client.isEmpty())
-        client = document.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed();
+    const QString client = Contacts::clientOf(document);
     if (!client.isEmpty())
         text += QStringLiteral(" for ") + client;
     if (!document.isNull(Invoice::amount))

@@ -19,8 +19,7 @@ int AccountBookCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
     const QCommandLineOption filter = filterOption();
-    const QCommandLineOption search(QStringLiteral("search"), QStringLiteral("The list's search."),
-                                    QStringLiteral("TEXT"));
+    const QCommandLineOption search = searchOption();
     const QCommandLineOption pdf(QStringLiteral("pdf"), QStringLiteral("The PDF to write."), QStringLiteral("FILE"));
     parser.addOptions({filter, search, pdf});
     int code = kExitOk;
@@ -33,12 +32,8 @@ int AccountBookCommand::execute(const QStringList &args)
         return usageError(QStringLiteral("Give the PDF to write with --pdf FILE."));
     if (!m_session.store())
         return kExitFailure;
-    AppController &app = m_session.controller();
-    app.setFilterTag(tag);
-    app.setFilterPredicate();
-    if (parser.isSet(search))
-        app.setSearchText(parser.value(search));
-    AccountBook book(app);
+    arrangeList(parser, tag);
+    AccountBook book(m_session.controller());
     if (!book.writePdf(parser.value(pdf)))
         return failure(QStringLiteral("The account book could not be written to “%1”.").arg(parser.value(pdf)));
     return kExitOk;

@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "app/AppController.h"
 #include "cli/CliInteraction.h"
 #include "cli/Console.h"
 #include "cli/Session.h"
@@ -101,6 +102,21 @@ QCommandLineOption Command::yesOption()
 QCommandLineOption Command::filterOption()
 {
     return QCommandLineOption(QStringLiteral("filter"), QStringLiteral("Filter tag."), QStringLiteral("TAG"));
+}
+
+QCommandLineOption Command::searchOption()
+{
+    return QCommandLineOption(QStringLiteral("search"), QStringLiteral("The list's search."), QStringLiteral("TEXT"));
+}
+
+void Command::arrangeList(const QCommandLineParser &parser, unsigned tag)
+{
+    AppController &app = m_session.controller();
+    app.setFilterTag(tag);
+    app.setFilterPredicate();
+    // Only commands that offer --search can have it given.
+    if (parser.optionNames().contains(QStringLiteral("search")))
+        app.setSearchText(parser.value(QStringLiteral("search")));
 }
 
 bool Command::filterTag(const QCommandLineParser &parser, unsigned *tag, int *exitCode) const

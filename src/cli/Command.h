@@ -54,8 +54,12 @@ protected:
     static std::optional<Date> rangeDate(const QString &text, bool end);
     // --yes: confirm the questions the command asks.
     static QCommandLineOption yesOption();
-    // --filter TAG, the document list's filter.
+    // --filter TAG, the document list's filter; --search TEXT, its search.
     static QCommandLineOption filterOption();
+    static QCommandLineOption searchOption();
+    // Arranges the controller's list by the filter tag and, when given, the
+    // search: what list, report and account book are made of.
+    void arrangeList(const QCommandLineParser &parser, unsigned tag);
     // The tag given with --filter (0 without it); false with `exitCode` set
     // after a usage error.
     bool filterTag(const QCommandLineParser &parser, unsigned *tag, int *exitCode) const;

@@ -41,9 +41,8 @@ int ListCommand::execute(const QStringList &args)
     if (!store)
         return kExitFailure;
 
+    arrangeList(parser, tag);
     AppController &app = m_session.controller();
-    app.setFilterTag(tag);
-    app.setFilterPredicate();
     const QList<Record *> &docs = app.documentList().arranged();
     const Summary &s = app.summary();
     QStringList lines;

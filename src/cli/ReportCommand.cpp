@@ -26,8 +26,7 @@ int ReportCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
     const QCommandLineOption filter = filterOption();
-    const QCommandLineOption search(QStringLiteral("search"), QStringLiteral("The list's search."),
-                                    QStringLiteral("TEXT"));
+    const QCommandLineOption search = searchOption();
     const QCommandLineOption from(QStringLiteral("from"), QStringLiteral("First day."), QStringLiteral("DATE"));
     const QCommandLineOption to(QStringLiteral("to"), QStringLiteral("Last day."), QStringLiteral("DATE"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
@@ -56,11 +55,8 @@ int ReportCommand::execute(const QStringList &args)
     if (!m_session.store())
         return kExitFailure;
 
+    arrangeList(parser, tag);
     AppController &app = m_session.controller();
-    app.setFilterTag(tag);
-    app.setFilterPredicate();
-    if (parser.isSet(search))
-        app.setSearchText(parser.value(search));
     const ReportFigures figures = range ? app.generateReport(range) : app.generateReport(Report::Range());
     const auto values = Report::placeholderValues(figures);
 

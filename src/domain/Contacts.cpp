@@ -439,6 +439,14 @@ Record *selectAddress(RecordOwner &store, Record &document, const AddressFields 
     return entry;
 }
 
+QString clientOf(const Record &document)
+{
+    const QString name = document.text(Invoice::customerName).trimmed();
+    if (!name.isEmpty())
+        return name;
+    return document.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed();
+}
+
 } // namespace Contacts
 
 } // namespace tabo

@@ -61,6 +61,10 @@ QString customerName(qint64 clientNamePatternTag, const QString &title, const QS
 Record *selectAddress(RecordOwner &store, Record &document, const AddressFields &fields,
                       qint64 clientNamePatternTag);
 
+// The client as lists and questions name it: the name built from the
+// contact, else the first line of the typed address.
+QString clientOf(const Record &document);
+
 } // namespace Contacts
 
 } // namespace tabo

@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
+#include "domain/Contacts.h"
 #include "domain/Record.h"
 #include "gui/Formats.h"
 #include "render/Formatters.h"
@@ -91,10 +92,7 @@ void DocumentTableModel::applySort()
 
 QString DocumentTableModel::clientText(const Record &document)
 {
-    const QString name = document.text(Invoice::customerName).trimmed();
-    if (!name.isEmpty())
-        return name;
-    return document.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed();
+    return Contacts::clientOf(document);
 }
 
 QString DocumentTableModel::subjectText(const Record &document)

@@ -1,5 +1,6 @@
 #include "reports/Report.h"
 
+#include "domain/Contacts.h"
 #include "domain/Record.h"
 
 #include <QDateTime>
@@ -13,14 +14,6 @@
 namespace tabo::Report {
 
 namespace {
-
-QString clientOf(const Record &invoice)
-{
-    const QString name = invoice.text(Invoice::customerName).trimmed();
-    if (!name.isEmpty())
-        return name;
-    return invoice.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed();
-}
 
 int monthIndex(int year, int month)
 {
@@ -114,7 +107,7 @@ ReportFigures compute(const QList<Record *> &arranged, const Range &range)
             first = std::min(first, index);
             last = std::max(last, index);
         }
-        const QString client = clientOf(*doc);
+        const QString client = Contacts::clientOf(*doc);
         if (!client.isEmpty()) {
             ReportFigures::Client &c = clients[client];
             c.name = client;
