@@ -10,7 +10,7 @@ packages=(
   libsqlite3-dev libicu-dev libplist-dev libqpdf-dev
   qt6-webengine-dev qt6-webengine-dev-tools libqt6webenginecore6-bin qt6-pdf-dev
   fonts-dejavu-core fonts-liberation2
-  cups-client xdg-utils poppler-utils
+  cups-client xdg-utils poppler-utils dbus
   xvfb xauth
 )
 # Further packages a caller needs (the benchmark's comparison programs).

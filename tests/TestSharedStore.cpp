@@ -214,18 +214,22 @@ void TestSharedStore::linesAndOlderStoresFollow()
     QVERIFY(f.app.documentList().all().isEmpty());
     QCOMPARE(f.app.currentInvoice(), nullptr);
 
-    // A store written before the journal existed gets it on opening.
+    // A store written before the journal and the reminders existed gets both on opening.
     f.app.closeStore();
     sqlite3 *db = nullptr;
     sqlite3_open(QFile::encodeName(f.storePath()).constData(), &db);
-    for (const char *sql : {"DROP TABLE _Changes", "DROP TABLE _Store", "PRAGMA user_version = 1"})
+    for (const char *sql : {"DROP TABLE _Changes", "DROP TABLE _Store", "DROP TABLE _Notification",
+                            "PRAGMA user_version = 1"})
         sqlite3_exec(db, sql, nullptr, nullptr, nullptr);
     sqlite3_close(db);
     QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM sqlite_master WHERE type = 'trigger'"),
              QString::number(3 * kEntityCount));
     QVERIFY(f.app.reopenStore());
-    QCOMPARE(firstRow(f.storePath(), "PRAGMA user_version"), QStringLiteral("2"));
-    QCOMPARE(cli({QStringLiteral("new"), QStringLiteral("invoice")}), 0);
+    QCOMPARE(firstRow(f.storePath(), "PRAGMA user_version"), QString::number(Store::kSchemaVersion));
+    QString created;
+    QCOMPARE(cli({QStringLiteral("new"), QStringLiteral("invoice")}, &created), 0);
+    QCOMPARE(cli({QStringLiteral("notify"), created}), 0);
+    QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM _Notification"), QStringLiteral("1"));
     f.app.syncWithStore();
     QCOMPARE(f.app.documentList().all().size(), 1);
 }

@@ -7,6 +7,7 @@
 #include "app/FileCommands.h"
 #include "app/Interaction.h"
 #include "app/ItemCommands.h"
+#include "app/NotificationCommands.h"
 #include "app/OutputCommands.h"
 #include "app/ReportCommands.h"
 #include "app/TemplateCommands.h"
@@ -53,6 +54,7 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_designs(std::make_unique<DesignLibrary>(*this))
     , m_outputs(std::make_unique<OutputCommands>(*this))
     , m_reports(std::make_unique<ReportCommands>(*this))
+    , m_notifications(std::make_unique<NotificationCommands>(*this))
 {
     setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });
     SyntaxDefinition::registerColorDefaults(m_prefs);
@@ -596,6 +598,18 @@ void AppController::selectFilterAction(unsigned tag)
 {
     setFilterTag(tag);
     setFilterPredicate();
+}
+
+void AppController::filterForInvoice(const QString &uniqueID)
+{
+    if (!managedObjectContext())
+        return;
+    m_list.setPredicate(ListFilter::uniqueIdLike(uniqueID));
+    m_list.rearrange();
+    const QList<Record *> &shown = m_list.arranged();
+    setCurrentInvoice(shown.isEmpty() ? nullptr : shown.first());
+    arrangedAnew();
+    setFilterTag(DocumentList::kInvoiceFilterTag);
 }
 
 void AppController::calculateDatabase()

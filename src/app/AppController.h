@@ -22,6 +22,7 @@ class DocumentCommands;
 class FileCommands;
 class Interaction;
 class ItemCommands;
+class NotificationCommands;
 class ReportCommands;
 class UndoHistory;
 class Preferences;
@@ -140,6 +141,9 @@ public:
     // otherwise returns true (the caller opens the popover).
     bool openFilterPopover();
     void selectFilterAction(unsigned tag);
+    // The list down to the invoice with that unique ID ("LIKE": "*" and "?"
+    // are wildcards), its first row selected; a deleted one leaves it empty.
+    void filterForInvoice(const QString &uniqueID);
     // True when the filter button shows "torchGlow".
     bool filterGlows() const { return m_list.filterTag() != 0; }
 
@@ -169,6 +173,7 @@ public:
     ItemCommands &items() { return *m_items; }
     UndoHistory &undo() { return *m_undo; }
     ReportCommands &reports() { return *m_reports; }
+    NotificationCommands &notifications() { return *m_notifications; }
     TemplateCommands &templates() { return *m_templates; }
     FileCommands &files() { return *m_files; }
     BackupCommands &backups() { return *m_backups; }
@@ -253,6 +258,7 @@ private:
     std::unique_ptr<DesignLibrary> m_designs;
     std::unique_ptr<OutputCommands> m_outputs;
     std::unique_ptr<ReportCommands> m_reports;
+    std::unique_ptr<NotificationCommands> m_notifications;
     bool m_tabo2TemplatePending = false;
     QString m_backupPath;
     QString m_pdfPath;

@@ -22,6 +22,7 @@
 #include "cli/PrefsCommand.h"
 #include "cli/PrintCommand.h"
 #include "cli/RenderCommand.h"
+#include "cli/NotifyCommand.h"
 #include "cli/ReportCommand.h"
 #include "cli/RestoreCommand.h"
 #include "cli/Session.h"
@@ -118,6 +119,8 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<ListCommand>(session));
     commands.push_back(std::make_unique<ReportCommand>(session));
     commands.push_back(std::make_unique<AccountBookCommand>(session));
+    commands.push_back(std::make_unique<NotifyCommand>(session));
+    commands.push_back(std::make_unique<NotificationsCommand>(session));
     commands.push_back(std::make_unique<ShowCommand>(session));
     commands.push_back(std::make_unique<ExportCommand>(session));
     commands.push_back(std::make_unique<ImportCommand>(session));

@@ -45,7 +45,8 @@ void DocumentList::clear()
 
 void DocumentList::setFilterPredicate(Date now)
 {
-    m_predicate = ListFilter::forTag(m_filterTag, now);
+    if (m_filterTag != kInvoiceFilterTag)
+        m_predicate = ListFilter::forTag(m_filterTag, now);
     applyPredicate();
 }
 

@@ -29,6 +29,9 @@ public:
     const QList<Record *> &all() const { return m_all; }
     const QList<Record *> &arranged() const { return m_arranged; }
 
+    // The tag of a filter to one invoice (from a notification): outside the
+    // person's own filters, and kept when the predicate is rebuilt.
+    static constexpr unsigned kInvoiceFilterTag = 99;
     unsigned filterTag() const { return m_filterTag; }
     // Only the tag: the predicate stays until setFilterPredicate runs.
     void setFilterTag(unsigned tag) { m_filterTag = tag; }

@@ -39,7 +39,8 @@ void FilterButton::selectFilter(bool glowing)
     // The filter in force is named, so a short list never looks like lost documents.
     const QStringList labels = FilterPopover::choiceLabels();
     const unsigned tag = m_app.filterTag();
-    setText(glowing ? tr("Filter: %1").arg(labels.value(int(tag < 9 ? tag : 1))) : tr("Filter"));
+    const QString name = tag == DocumentList::kInvoiceFilterTag ? tr("One Invoice") : labels.value(int(tag < 9 ? tag : 1));
+    setText(glowing ? tr("Filter: %1").arg(name) : tr("Filter"));
     setToolTip(glowing ? tr("A filter is on — click to show all documents") : tr("Filter the documents"));
 }
 

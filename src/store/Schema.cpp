@@ -48,6 +48,8 @@ const std::vector<std::function<Error(sqlite3 *)>> &steps()
                     return e;
             return Error{};
         },
+        /* 3: scheduled due-date notifications */
+        [](sqlite3 *db) { return exec(db, notificationTableSql()); },
     };
     return list;
 }
@@ -134,6 +136,18 @@ QStringList changeJournalSql()
     return sql;
 }
 
+QString notificationTableSql()
+{
+    // Kept beside the entities, not as one: the exchange files and object
+    // dictionaries carry exactly the entities' keys. `delivered` is set by
+    // whichever process shows the notification, inside the same write, so a
+    // second process never shows it again.
+    return QStringLiteral("CREATE TABLE IF NOT EXISTS \"%1\" (\"id\" INTEGER PRIMARY KEY, "
+                          "\"uniqueID\" TEXT NOT NULL, \"title\" TEXT, \"subtitle\" TEXT, \"text\" TEXT, "
+                          "\"date\" REAL NOT NULL, \"sound\" INTEGER NOT NULL DEFAULT 0, \"delivered\" REAL)")
+        .arg(kNotificationTable);
+}
+
 Error create(sqlite3 *db, int version)
 {
     for (int i = 0; i < kEntityCount; ++i)
@@ -145,6 +159,8 @@ Error create(sqlite3 *db, int version)
     for (const QString &sql : changeJournalSql())
         if (Error e = exec(db, sql))
             return e;
+    if (Error e = exec(db, notificationTableSql()))
+        return e;
     return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(version));
 }
 

@@ -33,6 +33,9 @@ bool hasMissingColumns(sqlite3 *db);
 inline const QString kChangesTable = QStringLiteral("_Changes");
 inline const QString kStoreTable = QStringLiteral("_Store");
 QStringList changeJournalSql();
+// Scheduled notifications (date in reference seconds; delivered when shown).
+inline const QString kNotificationTable = QStringLiteral("_Notification");
+QString notificationTableSql();
 // A new, empty store.
 Error create(sqlite3 *db, int version);
 

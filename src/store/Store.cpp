@@ -980,6 +980,28 @@ Error Store::save(const std::function<void()> &inTransaction)
     return {};
 }
 
+Error Store::write(const std::function<Error(sqlite3 *)> &body)
+{
+    if (!m_db)
+        return Error{kStoreDomain, SQLITE_MISUSE, QStringLiteral("No database is open."), {}};
+    if (const Error e = checkIntegrity())
+        return e;
+    if (sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK)
+        return sqlError(QStringLiteral("The database could not be written."));
+    refreshIfChanged();
+    Error e = m_damaged ? damagedError() : body(m_db);
+    if (!e && sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
+        e = sqlError(QStringLiteral("The database could not be written."));
+    if (e) {
+        if ((e.code & 0xff) == SQLITE_CORRUPT || (e.code & 0xff) == SQLITE_NOTADB)
+            m_damaged = true;
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+        return e;
+    }
+    changedElsewhere(); // our own commit is not news
+    return {};
+}
+
 bool Store::changedElsewhere()
 {
     if (!m_db)

@@ -106,8 +106,13 @@ public:
     void prefetchToMany(const QList<Record *> &owners, int rel);
 
     sqlite3 *handle() const { return m_db; }
+    // Writes rows beside the records (tables of their own) under the same
+    // rules as save(): refused on a damaged file, after the integrity check,
+    // with the write lock held and what others committed read first. `body`
+    // returns an error to roll back.
+    Error write(const std::function<Error(sqlite3 *)> &body);
 
-    static constexpr int kSchemaVersion = 2;
+    static constexpr int kSchemaVersion = 3;
 
 private:
     friend class Record;

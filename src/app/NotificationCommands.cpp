@@ -1,0 +1,213 @@
+#include "app/NotificationCommands.h"
+
+#include "app/AppController.h"
+#include "app/Interaction.h"
+#include "app/Notifier.h"
+#include "base/Clock.h"
+#include "domain/Record.h"
+#include "prefs/Preferences.h"
+#include "store/Store.h"
+
+#include <QRegularExpression>
+#include <QTimeZone>
+
+#include <algorithm>
+
+namespace tabo {
+
+using P = Preferences;
+
+namespace {
+
+// Other processes schedule too; the schedule is looked at this often while
+// nothing of our own is due sooner.
+constexpr qint64 kRecheckMs = 60 * 1000;
+
+} // namespace
+
+NotificationCommands::NotificationCommands(AppController &app) : m_app(app)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &NotificationCommands::deliverNow);
+}
+
+NotificationCommands::~NotificationCommands() = default;
+
+Notifier &NotificationCommands::notifier()
+{
+    if (!m_notifier)
+        setNotifier(std::make_unique<DBusNotifier>());
+    return *m_notifier;
+}
+
+void NotificationCommands::setNotifier(std::unique_ptr<Notifier> notifier)
+{
+    m_notifier = std::move(notifier);
+    connect(m_notifier.get(), &Notifier::activated, this, &NotificationCommands::didActivateNotification);
+}
+
+QString NotificationCommands::unavailableReason()
+{
+    return notifier().unavailableReason();
+}
+
+bool NotificationCommands::openNotificationSheet()
+{
+    Record *invoice = m_app.currentInvoice();
+    if (!invoice)
+        return false;
+    if (invoice->boolean(Invoice::misc4)) {
+        const int answer = m_app.ui().alert(
+            QStringLiteral("Notification Already Created"),
+            QStringLiteral("You've already created a notification for this invoice. Do you really want to create "
+                           "another one?"),
+            {QStringLiteral("OK"), QStringLiteral("Cancel")});
+        if (answer != 0)
+            return false;
+    }
+    return true;
+}
+
+Date NotificationCommands::reminderDate(Date due)
+{
+    // Calendar days, not 3 × 24 hours: a change to summer time in between
+    // must not move the reminder to the evening before.
+    const QDate day = due.toDateTime().toLocalTime().date().addDays(3);
+    return Date::fromDateTime(QDateTime(day, QTime(0, 0), QTimeZone::systemTimeZone()));
+}
+
+NotificationCommands::Draft NotificationCommands::prepareNotification() const
+{
+    Draft draft;
+    const Record *invoice = m_app.currentInvoice();
+    if (!invoice)
+        return draft;
+    draft.title = QStringLiteral("%1 | %2").arg(invoice->text(Invoice::title), invoice->text(Invoice::number));
+    const QString address = invoice->text(Invoice::address);
+    draft.subtitle = address.section(QRegularExpression(QStringLiteral("\r\n|\r|\n")), 0, 0);
+    const Date due = invoice->date(Invoice::due);
+    draft.date = reminderDate(due.isValid() ? due : now());
+    return draft;
+}
+
+Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice)
+{
+    if (!invoice)
+        invoice = m_app.currentInvoice();
+    Store *store = m_app.managedObjectContext();
+    if (!invoice || !store)
+        return Error{Error::kAppDomain, 1, QStringLiteral("There is no invoice to remind of."), {}};
+    ScheduledNotification n;
+    n.uniqueID = invoice->text(Invoice::uniqueID);
+    n.title = draft.title;
+    n.subtitle = draft.subtitle;
+    n.text = draft.text;
+    n.date = draft.date;
+    n.sound = m_app.prefs().boolean(P::prefsDeliverNotificationsWithSound);
+    if (Error e = NotificationSchedule(*store).schedule(n)) {
+        m_app.ui().presentError(e);
+        return e;
+    }
+    m_app.setDocumentValue(invoice, Invoice::misc4, true);
+    armTimer();
+    Q_EMIT scheduleChanged();
+    return {};
+}
+
+QList<ScheduledNotification> NotificationCommands::scheduled(bool pendingOnly)
+{
+    Store *store = m_app.managedObjectContext();
+    return store ? NotificationSchedule(*store).list(pendingOnly) : QList<ScheduledNotification>();
+}
+
+bool NotificationCommands::cancel(qint64 id)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store)
+        return false;
+    Error e;
+    if (NotificationSchedule(*store).cancel(id, &e)) {
+        armTimer();
+        Q_EMIT scheduleChanged();
+        return true;
+    }
+    if (!e)
+        e = Error{Error::kAppDomain, 1, QStringLiteral("There is no notification %1.").arg(id), {}};
+    m_app.ui().presentError(e);
+    return false;
+}
+
+int NotificationCommands::deliverDue(Error *error)
+{
+    Store *store = m_app.managedObjectContext();
+    if (!store)
+        return 0;
+    NotificationSchedule schedule(*store);
+    Error e;
+    // Ask the bus only when something is due: an hourly run with nothing to
+    // show costs one query.
+    const std::optional<Date> next = schedule.nextDate();
+    if (next && !(now() < *next)) {
+        const QString reason = unavailableReason();
+        if (!reason.isEmpty()) {
+            e = Error{Error::kAppDomain, 2, reason, QStringLiteral("The notifications stay scheduled.")};
+        } else {
+            const QList<ScheduledNotification> due = schedule.claimDue(now(), &e);
+            const QList<qint64> shown = due.isEmpty() ? QList<qint64>() : notifier().show(due);
+            QList<qint64> refused;
+            for (const ScheduledNotification &n : due)
+                if (!shown.contains(n.id))
+                    refused << n.id;
+            if (!refused.isEmpty()) {
+                schedule.unclaim(refused);
+                e = Error{Error::kAppDomain, 3,
+                          QStringLiteral("The notification service did not show %1 of the reminders.").arg(refused.size()),
+                          QStringLiteral("They stay scheduled.")};
+            }
+            if (error)
+                *error = e;
+            if (!shown.isEmpty())
+                Q_EMIT scheduleChanged();
+            return int(shown.size());
+        }
+    }
+    if (error)
+        *error = e;
+    return 0;
+}
+
+void NotificationCommands::startDelivering()
+{
+    m_delivering = true;
+    deliverNow();
+}
+
+void NotificationCommands::deliverNow()
+{
+    if (!m_delivering)
+        return;
+    Error e;
+    deliverDue(&e);
+    if (e)
+        qWarning("%s", qPrintable(e.message()));
+    armTimer();
+}
+
+void NotificationCommands::armTimer()
+{
+    if (!m_delivering)
+        return;
+    qint64 wait = kRecheckMs;
+    if (Store *store = m_app.managedObjectContext())
+        if (const std::optional<Date> next = NotificationSchedule(*store).nextDate())
+            wait = std::clamp(qint64((next->referenceSeconds() - now().referenceSeconds()) * 1000), qint64(0), kRecheckMs);
+    m_timer.start(std::chrono::milliseconds(wait));
+}
+
+void NotificationCommands::didActivateNotification(const QString &uniqueID)
+{
+    Q_EMIT bringForward();
+    QTimer::singleShot(kFilterDelayMs, this, [this, uniqueID] { m_app.filterForInvoice(uniqueID); });
+}
+
+} // namespace tabo
