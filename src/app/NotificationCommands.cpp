@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "app/Interaction.h"
 #include "app/Notifier.h"
+#include "app/ReminderTimer.h"
 #include "base/Clock.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
@@ -202,6 +203,34 @@ void NotificationCommands::armTimer()
         if (const std::optional<Date> next = NotificationSchedule(*store).nextDate())
             wait = std::clamp(qint64((next->referenceSeconds() - now().referenceSeconds()) * 1000), qint64(0), kRecheckMs);
     m_timer.start(std::chrono::milliseconds(wait));
+}
+
+void NotificationCommands::offerReminderTimerOnce()
+{
+    const QString offered = QStringLiteral("notifications/timerOffered");
+    Preferences &prefs = m_app.prefs();
+    if (prefs.raw(offered).toBool() || ReminderTimer().isInstalled())
+        return;
+    prefs.setRaw(offered, true);
+    prefs.sync();
+    const int answer = m_app.ui().alert(
+        QStringLiteral("Reminders While Tabo Is Closed"),
+        QStringLiteral("Tabo shows this reminder when its moment comes while Tabo is open. Shall a small timer of "
+                       "your desktop session look for due reminders every hour, so that they also arrive while "
+                       "Tabo is closed? You can remove it at any time in Preferences ▸ Data."),
+        {QStringLiteral("Install Timer"), QStringLiteral("Not Now")});
+    if (answer == 0)
+        setReminderTimerInstalled(true);
+}
+
+bool NotificationCommands::setReminderTimerInstalled(bool installed)
+{
+    ReminderTimer timer;
+    if (const Error e = installed ? timer.install() : timer.remove()) {
+        m_app.ui().presentError(e);
+        return false;
+    }
+    return true;
 }
 
 void NotificationCommands::didActivateNotification(const QString &uniqueID)

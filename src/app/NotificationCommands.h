@@ -64,6 +64,12 @@ public:
     // now, the rest at its moment.
     void startDelivering();
 
+    // After the first reminder: offers, once, the timer that shows reminders
+    // while Tabo is closed (it is never installed without asking).
+    void offerReminderTimerOnce();
+    // Installs or removes that timer; a failure is presented.
+    bool setReminderTimerInstalled(bool installed);
+
     // A click on a delivered notification: the window comes forward, and
     // 1.3 s later the list shows that invoice.
     void didActivateNotification(const QString &uniqueID);

@@ -2,6 +2,7 @@
 
 #include "app/AccountBook.h"
 #include "app/AppController.h"
+#include "app/NotificationCommands.h"
 #include "app/OutputCommands.h"
 #include "app/UndoHistory.h"
 #include "domain/Record.h"
@@ -14,7 +15,9 @@
 #include "gui/ExportSheet.h"
 #include "gui/FileMenu.h"
 #include "gui/FilterButton.h"
+#include "gui/Icons.h"
 #include "gui/LetterSheet.h"
+#include "gui/NotificationSheet.h"
 #include "gui/PreferencePanel.h"
 #include "gui/PreviewWindow.h"
 #include "gui/ReportWindow.h"
@@ -25,6 +28,7 @@
 #include <QCloseEvent>
 #include <QEvent>
 #include <QFrame>
+#include <QGraphicsOpacityEffect>
 #include <QIcon>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -147,6 +151,7 @@ void MainWindow::createActions()
     documents->addAction(m_actions->convert());
     documents->addSeparator();
     documents->addAction(m_actions->remove());
+    m_documentsMenu = documents;
     createOutputActions();
     QMenu *items = menuBar()->addMenu(tr("&Items"));
     items->addAction(m_actions->addItem());
@@ -292,6 +297,8 @@ void MainWindow::createToolBar()
     bar->addAction(m_actions->deleteItem());
     bar->addSeparator();
     bar->addActions({ m_previewAction, m_printAction, m_savePdfAction, m_emailAction });
+    bar->addSeparator();
+    createRemindAction(bar);
     auto *spacer = new QWidget(bar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(spacer);
@@ -312,6 +319,57 @@ void MainWindow::createToolBar()
     m_filterButton = new FilterButton(m_app, bar);
     m_filterButton->setIconSize(bar->iconSize());
     bar->addWidget(m_filterButton);
+}
+
+void MainWindow::createRemindAction(QToolBar *bar)
+{
+    m_notificationSheet = new NotificationSheet(m_app, this);
+    m_remind = new QAction(Icons::themed(QStringLiteral("appointment-soon"), QLatin1Char('!'), QColor(0xd9, 0x8c, 0x1f)),
+                           tr("Remind Me…"), this);
+    m_remind->setObjectName(QStringLiteral("actionRemind"));
+    // On: a reminder was made for this invoice.
+    m_remind->setCheckable(true);
+    bar->addAction(m_remind);
+    m_documentsMenu->insertAction(m_actions->remove(), m_remind);
+    m_documentsMenu->insertSeparator(m_actions->remove());
+    m_remindButton = bar->widgetForAction(m_remind);
+    const QString reason = m_app.notifications().unavailableReason();
+    if (!reason.isEmpty()) {
+        // Shown but dimmed, so the person learns the feature exists and why it rests.
+        auto *dim = new QGraphicsOpacityEffect(m_remindButton);
+        dim->setOpacity(0.7);
+        m_remindButton->setGraphicsEffect(dim);
+        m_remind->setToolTip(reason);
+    } else {
+        m_remind->setToolTip(tr("Schedule a desktop notification about this invoice"));
+    }
+    m_remind->setProperty("available", reason.isEmpty());
+    connect(m_remind, &QAction::triggered, this, [this] {
+        m_editor->commitPending();
+        if (!m_notificationSheet->begin())
+            updateRemindAction();
+    });
+    connect(m_notificationSheet, &NotificationSheet::scheduled, this, [this] {
+        updateRemindAction();
+        m_app.notifications().offerReminderTimerOnce();
+    });
+    connect(m_notificationSheet, &QDialog::rejected, this, &MainWindow::updateRemindAction);
+    connect(&m_app, &AppController::currentInvoiceChanged, this, &MainWindow::updateRemindAction);
+    connect(&m_app.notifications(), &NotificationCommands::bringForward, this, [this] {
+        if (isMinimized())
+            showNormal();
+        show();
+        raise();
+        activateWindow();
+    });
+    updateRemindAction();
+}
+
+void MainWindow::updateRemindAction()
+{
+    const Record *doc = m_app.currentInvoice();
+    m_remind->setEnabled(doc && m_remind->property("available").toBool());
+    m_remind->setChecked(doc && doc->boolean(Invoice::misc4));
 }
 
 void MainWindow::updateCommands()

@@ -5,7 +5,9 @@
 
 class QAction;
 class QLineEdit;
+class QMenu;
 class QSplitter;
+class QToolBar;
 
 namespace tabo {
 
@@ -20,6 +22,7 @@ class ExportSheet;
 class FileMenu;
 class FilterButton;
 class LetterSheet;
+class NotificationSheet;
 class PreviewWindow;
 class QVPreferencePanel;
 class SummaryBar;
@@ -49,6 +52,8 @@ public:
     LetterSheet *letterSheet() const { return m_letterSheet; }
     DesignChoiceSheet *designChoiceSheet() const { return m_designSheet; }
     QAction *preferencesAction() const { return m_preferences; }
+    QAction *remindAction() const { return m_remind; }
+    NotificationSheet *notificationSheet() const { return m_notificationSheet; }
     // Built on first use.
     QVPreferencePanel *preferencePanel();
     CatalogueWindow *catalogueWindow();
@@ -72,6 +77,8 @@ private:
     void updateOutputCommands();
     void terminateNow();
     void updateCommands();
+    void createRemindAction(QToolBar *bar);
+    void updateRemindAction();
     void newDocument(bool invoice);
     void selectNewestDocument();
 
@@ -99,6 +106,10 @@ private:
     LetterSheet *m_letterSheet = nullptr;
     DesignChoiceSheet *m_designSheet = nullptr;
     QAction *m_preferences = nullptr;
+    QAction *m_remind = nullptr;
+    QMenu *m_documentsMenu = nullptr;
+    QWidget *m_remindButton = nullptr;
+    NotificationSheet *m_notificationSheet = nullptr;
     QVPreferencePanel *m_preferencePanel = nullptr;
     bool m_quitDecided = false;
 };

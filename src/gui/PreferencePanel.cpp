@@ -1,6 +1,8 @@
 #include "gui/PreferencePanel.h"
 
 #include "app/AppController.h"
+#include "app/NotificationCommands.h"
+#include "app/ReminderTimer.h"
 #include "app/DesignLibrary.h"
 #include "app/Interaction.h"
 #include "domain/Numbering.h"
@@ -560,6 +562,29 @@ QWidget *QVPreferencePanel::createDataPane()
     });
     grid->addWidget(openBackups, 5, 1);
     column->addWidget(backups);
+
+    // Reminders reach the desktop only while some process looks at the schedule.
+    auto *reminders = new QGroupBox(tr("Reminders While Tabo Is Closed"));
+    auto *row = new QHBoxLayout(reminders);
+    auto *state = new QLabel;
+    state->setWordWrap(true);
+    auto *toggle = new QPushButton;
+    toggle->setObjectName(QStringLiteral("reminderTimer"));
+    const auto show = [state, toggle] {
+        const bool installed = ReminderTimer().isInstalled();
+        state->setText(installed ? tr("A timer of your desktop session shows due reminders every hour (%1).")
+                                       .arg(ReminderTimer::unitFolder())
+                                 : tr("Reminders arrive only while Tabo is open."));
+        toggle->setText(installed ? tr("Remove Timer") : tr("Install Timer"));
+    };
+    connect(toggle, &QPushButton::clicked, this, [this, show] {
+        m_app.notifications().setReminderTimerInstalled(!ReminderTimer().isInstalled());
+        show();
+    });
+    show();
+    row->addWidget(state, 1);
+    row->addWidget(toggle);
+    column->addWidget(reminders);
     column->addStretch();
     updateStorePath();
     return pane;

@@ -1,10 +1,15 @@
 #include "app/AppController.h"
+#include "app/InstanceBus.h"
+#include "app/NotificationCommands.h"
+#include "app/Notifier.h"
 #include "app/OutputCommands.h"
 #include "gui/CatalogueWindow.h"
 #include "gui/DesignPane.h"
 #include "gui/FirstStartAssistant.h"
 #include "gui/GuiInteraction.h"
 #include "gui/MainWindow.h"
+#include "gui/NotificationSheet.h"
+#include "gui/ReportWindow.h"
 #include "gui/PreferencePanel.h"
 #include "gui/PreviewWindow.h"
 #include "prefs/Preferences.h"
@@ -89,9 +94,24 @@ int main(int argc, char **argv)
     QCommandLineOption screenshotCatalogue(QStringLiteral("screenshot-catalogue"), QString(), QStringLiteral("file"));
     screenshotCatalogue.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(screenshotCatalogue);
+    QCommandLineOption screenshotReport(QStringLiteral("screenshot-report"), QString(), QStringLiteral("file"));
+    screenshotReport.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(screenshotReport);
+    QCommandLineOption screenshotReminder(QStringLiteral("screenshot-reminder"), QString(), QStringLiteral("file"));
+    screenshotReminder.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(screenshotReminder);
+    // A click on a reminder delivered while Tabo was closed starts it so.
+    QCommandLineOption showInvoice(QStringLiteral("show-invoice"),
+                                   QStringLiteral("Start with the list filtered to the invoice with this unique ID."),
+                                   QStringLiteral("uniqueID"));
+    parser.addOption(showInvoice);
     parser.addPositionalArgument(
         QStringLiteral("files"), QStringLiteral("Refused: open documents from the File menu."));
     parser.process(application);
+    QGuiApplication::setDesktopFileName(DBusNotifier::kDesktopEntry);
+    // A running Tabo takes the invoice; this process then has nothing to do.
+    if (parser.isSet(showInvoice) && InstanceBus::forwardShowInvoice(parser.value(showInvoice)))
+        return 0;
 
     Preferences prefs;
     GuiInteraction ui;
@@ -107,12 +127,23 @@ int main(int argc, char **argv)
     window.show();
     controller.applicationDidFinishLaunching();
     const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
-                          || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue);
+                          || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue)
+                          || parser.isSet(screenshotReport) || parser.isSet(screenshotReminder);
     if (controller.needsFirstStartAssistant() && !grabbing) {
         QTimer::singleShot(350, &window, [&window, &controller] {
             FirstStartAssistant assistant(controller, &window);
             assistant.exec();
         });
+    }
+
+    InstanceBus instance;
+    if (instance.registerInstance())
+        QObject::connect(&instance, &InstanceBus::showInvoiceRequested, &controller.notifications(),
+                         &NotificationCommands::didActivateNotification);
+    controller.notifications().startDelivering();
+    if (parser.isSet(showInvoice)) {
+        const QString id = parser.value(showInvoice);
+        QTimer::singleShot(0, &controller, [&controller, id] { controller.notifications().didActivateNotification(id); });
     }
 
     const QStringList files = parser.positionalArguments();
@@ -156,6 +187,34 @@ int main(int argc, char **argv)
         QTimer::singleShot(400, &window, [preview, grab] {
             if (!preview->showPreview())
                 grab();
+        });
+    }
+    if (parser.isSet(screenshotReport)) {
+        const QString target = parser.value(screenshotReport);
+        QTimer::singleShot(400, &window, [&window, target] {
+            ReportWindow *report = window.reportWindow();
+            report->toggle();
+            // The report waits for its PDF.
+            QTimer::singleShot(2500, report, [&window, report, target] {
+                if (!report->grab().save(target))
+                    qWarning("Could not write the screenshot to %s", qPrintable(target));
+                window.close();
+            });
+        });
+    }
+    if (parser.isSet(screenshotReminder)) {
+        const QString target = parser.value(screenshotReminder);
+        QTimer::singleShot(400, &window, [&window, target] {
+            NotificationSheet *sheet = window.notificationSheet();
+            if (!sheet->begin()) {
+                window.close();
+                return;
+            }
+            QTimer::singleShot(400, sheet, [&window, target] {
+                if (!window.grab().save(target))
+                    qWarning("Could not write the screenshot to %s", qPrintable(target));
+                window.close();
+            });
         });
     }
     if (parser.isSet(screenshotPreferences)) {

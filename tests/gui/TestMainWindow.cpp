@@ -8,6 +8,7 @@
 #include "gui/GuiInteraction.h"
 #include "gui/ItemPopover.h"
 #include "gui/ItemsPage.h"
+#include "gui/NotificationSheet.h"
 #include "gui/PdfPane.h"
 #include "gui/ReportWindow.h"
 #include "gui/MainWindow.h"
@@ -16,6 +17,7 @@
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
+#include "app/NotificationCommands.h"
 #include "app/ReportCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
@@ -33,7 +35,9 @@
 #include <QSplitter>
 #include <QTableView>
 #include <QTableWidget>
+#include <QPlainTextEdit>
 #include <QTimer>
+#include <QToolBar>
 #include <QtTest>
 
 #include <algorithm>
@@ -115,6 +119,7 @@ private Q_SLOTS:
     void catalogueWindow();
     void layoutAndTitle();
     void reportFollowsTheList();
+    void reminderSheet();
 };
 
 void TestMainWindow::dialogsAndTestHooks()
@@ -409,6 +414,42 @@ void TestMainWindow::reportFollowsTheList()
     report->trigger();
     QVERIFY(!window->isVisible());
     QVERIFY(f.prefs.boolean(Preferences::isReportHintShown));
+}
+
+void TestMainWindow::reminderSheet()
+{
+    Fixture f;
+    f.start();
+    QAction *remind = f.window->remindAction();
+    QVERIFY(!remind->isEnabled()); // nothing selected
+    f.window->newInvoiceAction()->trigger();
+    Record *doc = f.app.currentInvoice();
+    doc->setText(Invoice::address, QStringLiteral("Atelier Nord\nHafen 2"));
+    // Without a notification service (a plain test run) the button rests, dimmed.
+    const bool available = f.app.notifications().isAvailable();
+    QCOMPARE(remind->isEnabled(), available);
+    QWidget *button = f.window->findChild<QToolBar *>(QStringLiteral("mainToolBar"))->widgetForAction(remind);
+    QCOMPARE(button->graphicsEffect() != nullptr, !available);
+
+    NotificationSheet *sheet = f.window->notificationSheet();
+    QVERIFY(sheet->begin());
+    QVERIFY(sheet->isVisible());
+    QCOMPARE(sheet->subtitleField()->text(), QStringLiteral("Atelier Nord"));
+    QVERIFY(sheet->titleField()->text().endsWith(QStringLiteral(" | ") + doc->text(Invoice::number)));
+    sheet->textField()->setPlainText(QStringLiteral("Phone them"));
+    GuiInteraction::setNextAnswer(1); // the timer: "Not Now"
+    sheet->scheduleButton()->click();
+    QVERIFY(!sheet->isVisible());
+    QCOMPARE(GuiInteraction::lastAlertTitle(), QStringLiteral("Reminders While Tabo Is Closed"));
+    QVERIFY(remind->isChecked());
+    const auto scheduled = f.app.notifications().scheduled();
+    QCOMPARE(scheduled.size(), 1);
+    QCOMPARE(scheduled[0].text, QStringLiteral("Phone them"));
+    // Cancel on the second-reminder question opens nothing and keeps the button on.
+    GuiInteraction::setNextAnswer(1);
+    QVERIFY(!sheet->begin());
+    QVERIFY(!sheet->isVisible());
+    QVERIFY(remind->isChecked());
 }
 
 QTEST_MAIN(TestMainWindow)
