@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Renders page 1 of every built-in design with the sample document into
-# docs/screenshots/designs/, then shoots the preview and preferences windows,
+# docs/screenshots/designs/, then shoots the preview, preferences, report and
+# reminder windows and page 1 of the account book,
 # in a temporary home (your own data is not touched).
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -79,4 +80,14 @@ pdftoppm -png -r 70 -f 1 -l 1 -singlefile "$home2/report.pdf" docs/screenshots/r
 pdftoppm -png -r 70 -f 1 -l 1 -singlefile "$home2/de.pdf" docs/screenshots/invoice-german
 xvfb-run -a -s '-screen 0 1400x900x24' "$(cd "$build" && pwd)/tabo" --screenshot-search Kunde --screenshot docs/screenshots/list-search.png
 xvfb-run -a -s '-screen 0 1400x900x24' "$(cd "$build" && pwd)/tabo" --screenshot-catalogue docs/screenshots/catalogue.png
-echo "list, catalogue, report, German invoice: docs/screenshots/"
+"$cli" prefs set isReportHintShown 1 >/dev/null # the one-time hint would wait for a click
+xvfb-run -a -s '-screen 0 1400x900x24' "$(cd "$build" && pwd)/tabo" --screenshot-report docs/screenshots/report-window.png
+"$cli" account-book --pdf "$home2/book.pdf"
+pdftoppm -png -r 70 -f 1 -l 1 -singlefile "$home2/book.pdf" docs/screenshots/account-book
+# The reminder sheet, with the tests' notification service on a private bus so
+# that the window offers reminders as on a desktop.
+cmake --build "$build" --target FakeNotificationServer >/dev/null
+dbus-run-session -- bash -c '"$1" "$2/shown.jsonl" & sleep 1
+  xvfb-run -a -s "-screen 0 1400x900x24" "$3" --screenshot-reminder docs/screenshots/reminder-sheet.png' _ \
+  "$(cd "$build" && pwd)/tests/FakeNotificationServer" "$home2" "$(cd "$build" && pwd)/tabo"
+echo "list, catalogue, report, account book, reminder sheet, German invoice: docs/screenshots/"

@@ -20,6 +20,8 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QLoggingCategory>
+#include <QPainter>
+#include <QPixmap>
 #include <QTimer>
 
 #include <functional>
@@ -210,8 +212,13 @@ int main(int argc, char **argv)
                 window.close();
                 return;
             }
-            QTimer::singleShot(400, sheet, [&window, target] {
-                if (!window.grab().save(target))
+            QTimer::singleShot(400, sheet, [&window, sheet, target] {
+                // The sheet is a window of its own: drawn over the main window as it appears.
+                QPixmap shot = window.grab();
+                QPainter painter(&shot);
+                painter.drawPixmap((shot.width() - sheet->width()) / 2, 60, sheet->grab());
+                painter.end();
+                if (!shot.save(target))
                     qWarning("Could not write the screenshot to %s", qPrintable(target));
                 window.close();
             });

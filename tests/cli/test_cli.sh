@@ -490,6 +490,26 @@ run 2 account-book
 run 2 report --from 2026-01-01
 run 2 report --from yesterday --to today
 
+# --- reminders ---------------------------------------------------------------
+R=$("$CLI" new invoice 2>/dev/null)
+run 0 notify "$R" --date 2030-02-01T09:30 --title "Call" --text "About <b>RE</b> & more"
+N=$OUT
+run 1 notify "$R"
+run 0 notify "$R" --yes --date 2031-01-01
+run 0 notifications list --json
+jcheck 'len(d) == 2 and d[0]["id"] == '"$N"' and d[0]["text"] == "About <b>RE</b> & more" and d[0]["delivered"] is None and d[0]["uniqueID"] == "'"$R"'"'
+run 0 show "$R" --json
+jcheck 'd["misc4"] == True'
+run 0 notifications cancel "$N"
+run 1 notifications cancel "$N"
+run 2 notifications cancel first
+run 2 notify "$R" --date "next week"
+run 1 notify no-such-invoice
+run 2 notifications
+run 2 notifications deliver-due --wait soon
+run 0 notifications list
+expect "one reminder left" "$(printf '%s\n' "$OUT" | wc -l)" 1
+
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
 printf 'not a database, just text\n' >"$T/other/data/Tabo/Tabo.mbdb"
