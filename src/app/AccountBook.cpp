@@ -31,15 +31,16 @@ QString fontFamilies(const Preferences &prefs)
 QString table(const QString &fonts, const QStringList &c)
 {
     const QString light = QStringLiteral("color: #555;");
-    // Qt's rich text gives a table's font to no cell: the cells are styled.
+    // Qt's rich text gives a table's font to no cell: the cells are styled. Sizes in px: the
+    // page is drawn one unit a point, so 7px prints at 7 points.
     return QStringLiteral(
-               "<html><head><style>td { font-size: 7pt; font-family: %1; }</style></head><body>"
+               "<html><head><style>td { font-size: 7px; font-family: %1; }</style></head><body>"
                "<table border=\"0\" width=\"100%\" cellpadding=\"1\" cellspacing=\"0\">"
                "<tr><td width=\"24\" align=\"right\"><b>%2</b></td><td width=\"4\"></td><td width=\"60\">%3</td>"
-               "<td><b>%4</b> <span style=\"font-size: 6pt\">%5</span></td><td width=\"70\" align=\"right\"><b>%6</b></td>"
+               "<td><b>%4</b> <span style=\"font-size: 6px\">%5</span></td><td width=\"70\" align=\"right\"><b>%6</b></td>"
                "<td width=\"6\"></td><td width=\"48\">%7</td><td width=\"8\"><b></b></td></tr>"
                "<tr><td></td><td></td><td style=\"%10\">%8</td><td style=\"%10\">%9</td>"
-               "<td align=\"right\" style=\"%10\"><span style=\"font-size: 6pt\">%11</span></td><td></td><td></td><td></td></tr>"
+               "<td align=\"right\" style=\"%10\"><span style=\"font-size: 6px\">%11</span></td><td></td><td></td><td></td></tr>"
                "<tr><td colspan=\"8\" style=\"%10\"></td></tr></table></body></html>")
         .arg(fonts, c.value(0), c.value(1), c.value(2), c.value(3), c.value(4), c.value(5), c.value(6), c.value(7),
              light, c.value(8));
@@ -87,7 +88,7 @@ QList<PrinterItem> AccountBook::items(const QList<Record *> &documents) const
                                    label(P::locDescription), label(P::locTotal), label(P::locDue), QString(),
                                    QString(), label(P::locSubtotal)}),
                      10, 0);
-    items << rowItem(QStringLiteral("<span style=\"font-family: %1; font-size: 7pt; color: #999;\">%2</span>")
+    items << rowItem(QStringLiteral("<span style=\"font-family: %1; font-size: 7px; color: #999;\">%2</span>")
                          .arg(fonts, QString(84, QLatin1Char('_'))),
                      -20, 20);
 
@@ -122,7 +123,7 @@ QList<PrinterItem> AccountBook::items(const QList<Record *> &documents) const
     return items;
 }
 
-bool AccountBook::writePdf(const QString &path)
+bool AccountBook::writePdf(const QString &path, bool forPrint)
 {
     m_app.calculateDatabase();
     PrinterDocument book(items(m_app.documentList().arranged()));
@@ -130,10 +131,11 @@ bool AccountBook::writePdf(const QString &path)
     book.bottomMargin = 40;
     book.footerView = PrinterTextView(
         QRectF(40, 0, 515, 40),
-        QStringLiteral("<span style=\"font-family: %1; font-size: 6pt; color: #777;\">"
+        QStringLiteral("<span style=\"font-family: %1; font-size: 6px; color: #777;\">"
                        "&lt;pageNumber/&gt; / &lt;pageCount/&gt;</span>")
             .arg(fontFamilies(m_app.prefs())));
-    return book.writePdf(path, QStringLiteral("%1 | Account Book").arg(m_app.prefs().string(P::prefsName)));
+    return book.writePdf(path, QStringLiteral("%1 | Account Book").arg(m_app.prefs().string(P::prefsName)),
+                         forPrint ? QMarginsF(72, 40, 72, 40) : QMarginsF());
 }
 
 bool AccountBook::print()
@@ -151,7 +153,7 @@ bool AccountBook::print()
     }
     QDir().mkpath(Locations::dataFolder());
     const QString path = QDir(Locations::dataFolder()).filePath(QStringLiteral("AccountBook.pdf"));
-    if (!writePdf(path)) {
+    if (!writePdf(path, true)) {
         m_app.ui().alert(QStringLiteral("Error!"), QStringLiteral("The account book could not be written."),
                          {QStringLiteral("OK")});
         return false;

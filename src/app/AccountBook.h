@@ -19,8 +19,9 @@ public:
 
     // The blocks of the book for `documents` (only invoices are listed).
     QList<PrinterItem> items(const QList<Record *> &documents) const;
-    // The book of what the list shows, written as PDF at `path`.
-    bool writePdf(const QString &path);
+    // The book of what the list shows, written as PDF at `path`; `forPrint`
+    // places each page within the printout's margins, centred.
+    bool writePdf(const QString &path, bool forPrint = false);
     // printAccountBook:: the one-time hint, then the book to the printer.
     bool print();
 

@@ -6,6 +6,8 @@
 #include <QPdfWriter>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QtConcurrent/QtConcurrentMap>
+#include <QtConcurrent/QtConcurrentRun>
 
 namespace tabo {
 
@@ -55,6 +57,11 @@ PrinterTextView::~PrinterTextView() = default;
 void PrinterTextView::release() const
 {
     m_text.reset();
+}
+
+void PrinterTextView::prepare() const
+{
+    text().size();
 }
 
 QTextDocument &PrinterTextView::text() const
@@ -153,7 +160,7 @@ QList<PrinterItem> PrinterPage::fillWithItems(QList<PrinterItem> items, const Pr
         const double width = m_size.width() - item.leftMargin - item.rightMargin;
         PrinterTextView view(QRectF(item.leftMargin, 0, width, 0), item.html, item.horizontalInset, item.verticalInset,
                              item.backgroundColor);
-        const double height = view.usedHeight();
+        const double height = item.measuredHeight >= 0 ? item.measuredHeight : view.usedHeight();
         view.release();
         const double top = cursor + item.topMargin;
         if (top + height > limit) {
@@ -181,6 +188,12 @@ void PrinterPage::substituteVariables(const QHash<QString, QString> &values)
         view.substituteVariables(values);
 }
 
+void PrinterPage::prepare() const
+{
+    for (const PrinterTextView &view : m_views)
+        view.prepare();
+}
+
 void PrinterPage::draw(QPainter &painter) const
 {
     for (const PrinterTextView &view : m_views)
@@ -203,6 +216,13 @@ void PrinterDocument::layout()
 
 void PrinterDocument::build()
 {
+    // Measuring is most of the work and each block stands alone, so every
+    // core measures (Qt 6's rich text and fonts may be used off the GUI thread).
+    QtConcurrent::blockingMap(m_items, [this](PrinterItem &item) {
+        const double width = pageSize.width() - item.leftMargin - item.rightMargin;
+        item.measuredHeight = PrinterTextView(QRectF(0, 0, width, 0), item.html, item.horizontalInset,
+                                              item.verticalInset).usedHeight();
+    });
     QList<PrinterItem> remaining = m_items;
     // The very first page is made even for no items: the heading of an empty
     // list is still printed.
@@ -234,7 +254,7 @@ const std::vector<PrinterPage> &PrinterDocument::pages()
     return m_pages;
 }
 
-bool PrinterDocument::writePdf(const QString &path, const QString &title)
+bool PrinterDocument::writePdf(const QString &path, const QString &title, const QMarginsF &margins)
 {
     layout();
     QPdfWriter writer(path);
@@ -245,10 +265,29 @@ bool PrinterDocument::writePdf(const QString &path, const QString &title)
     QPainter painter;
     if (!painter.begin(&writer))
         return false;
+    const QSizeF room(pageSize.width() - margins.left() - margins.right(),
+                      pageSize.height() - margins.top() - margins.bottom());
+    const double scale = std::min(room.width() / pageSize.width(), room.height() / pageSize.height());
+    const QPointF origin(margins.left() + (room.width() - pageSize.width() * scale) / 2,
+                         margins.top() + (room.height() - pageSize.height() * scale) / 2);
+    // The next page is laid out on another core while this one is drawn;
+    // the drawing itself stays on this thread with the writer.
+    const auto prepare = [this](std::size_t i) {
+        return i < m_pages.size() ? QtConcurrent::run([page = &m_pages[i]] { page->prepare(); }) : QFuture<void>();
+    };
+    QFuture<void> next = prepare(0);
     for (std::size_t i = 0; i < m_pages.size(); ++i) {
-        if (i > 0 && !writer.newPage())
+        next.waitForFinished();
+        next = prepare(i + 1);
+        if (i > 0 && !writer.newPage()) {
+            next.waitForFinished();
             return false;
+        }
+        painter.save();
+        painter.translate(origin);
+        painter.scale(scale, scale);
         m_pages[i].draw(painter);
+        painter.restore();
     }
     return painter.end();
 }

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QHash>
+#include <QMarginsF>
 #include <QList>
 #include <QRectF>
 #include <QSizeF>
@@ -34,6 +35,7 @@ struct PrinterItem
     double verticalInset = 0;
     bool pageBreakBefore = false;
     QColor backgroundColor; // invalid: none
+    double measuredHeight = -1; // the used height, once measured at the page's width
 };
 
 // A text placed on a page. Variables are empty tags of their key's name in
@@ -58,6 +60,8 @@ public:
     // Drops the laid-out text; it is made again from the HTML when needed.
     // A book of hundreds of pages would otherwise hold every block's layout.
     void release() const;
+    // Lays the text out now, on any thread, ahead of draw().
+    void prepare() const;
 
 private:
     QTextDocument &text() const;
@@ -82,6 +86,7 @@ public:
     void substituteVariables(const QHash<QString, QString> &values);
     void draw(QPainter &painter) const;
     const std::vector<PrinterTextView> &views() const { return m_views; }
+    void prepare() const;
     // Blocks that could never fit a page and were cut at its foot.
     int clippedBlocks() const { return m_clipped; }
 
@@ -108,8 +113,9 @@ public:
     void layout();
     void substituteVariables(const QHash<QString, QString> &values);
     const std::vector<PrinterPage> &pages();
-    // Every page into a PDF file.
-    bool writePdf(const QString &path, const QString &title = {});
+    // Every page into a PDF file. With `margins` each page is scaled to fit
+    // inside them, centred, as a printer places a page on paper.
+    bool writePdf(const QString &path, const QString &title = {}, const QMarginsF &margins = {});
 
 private:
     void build();
