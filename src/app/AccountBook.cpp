@@ -36,7 +36,7 @@ QString table(const QString &fonts, const QStringList &c)
     return QStringLiteral(
                "<html><head><style>td { font-size: 7px; font-family: %1; }</style></head><body>"
                "<table border=\"0\" width=\"100%\" cellpadding=\"1\" cellspacing=\"0\">"
-               "<tr><td width=\"24\" align=\"right\"><b>%2</b></td><td width=\"4\"></td><td width=\"60\">%3</td>"
+               "<tr><td width=\"24\" align=\"right\"><b>%2</b></td><td width=\"4\"></td><td width=\"66\">%3</td>"
                "<td><b>%4</b> <span style=\"font-size: 6px\">%5</span></td><td width=\"70\" align=\"right\"><b>%6</b></td>"
                "<td width=\"6\"></td><td width=\"48\">%7</td><td width=\"8\"><b></b></td></tr>"
                "<tr><td></td><td></td><td style=\"%10\">%8</td><td style=\"%10\">%9</td>"
@@ -88,7 +88,8 @@ QList<PrinterItem> AccountBook::items(const QList<Record *> &documents) const
                                    label(P::locDescription), label(P::locTotal), label(P::locDue), QString(),
                                    QString(), label(P::locSubtotal)}),
                      10, 0);
-    items << rowItem(QStringLiteral("<span style=\"font-family: %1; font-size: 7px; color: #999;\">%2</span>")
+    // The rule runs the width of the table: a line of underscores, cut at the edge.
+    items << rowItem(QStringLiteral("<div style=\"white-space: nowrap; font-family: %1; font-size: 12px; color: #999;\">%2</div>")
                          .arg(fonts, QString(84, QLatin1Char('_'))),
                      -20, 20);
 
