@@ -129,6 +129,12 @@ void PdfPane::fit()
     updateScrollBars();
 }
 
+void PdfPane::fitToWidth()
+{
+    m_view->setZoomMode(QPdfView::ZoomMode::FitToWidth);
+    updateScrollBars();
+}
+
 void PdfPane::zoomInOnce()
 {
     // Fitting the width keeps following the window's size, which a fixed

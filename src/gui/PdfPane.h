@@ -31,6 +31,8 @@ public:
     void setSinglePage(bool single);
     // The whole page in the view, following the window's size.
     void fit();
+    // Follows the pane's width: a page taller than the pane scrolls.
+    void fitToWidth();
     // One step closer than now; from "fit" this is the page's full width.
     void zoomInOnce();
 

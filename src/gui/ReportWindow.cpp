@@ -49,6 +49,7 @@ ReportWindow::ReportWindow(AppController &app, QWidget *parent)
     bar->addWidget(save);
     bar->addWidget(print);
     m_view = new PdfPane(this);
+    m_view->fitToWidth();
     m_view->setObjectName(QStringLiteral("reportView"));
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(bar);
