@@ -31,6 +31,14 @@ using namespace tabo;
 
 namespace {
 
+// Saves a screenshot for the documentation and ends the run.
+void saveShot(const QPixmap &shot, const QString &target, QWidget &window)
+{
+    if (!shot.save(target))
+        qWarning("Could not write the screenshot to %s", qPrintable(target));
+    window.close();
+}
+
 // Every pane of the preferences into `folder` ("1-Company.png" …), the Design
 // pane with its stylesheet and live preview; then quits.
 void grabPreferencePanes(tabo::MainWindow &window, const QString &folder)
@@ -160,18 +168,14 @@ int main(int argc, char **argv)
             CatalogueWindow *catalogue = window.catalogueWindow();
             catalogue->show();
             QTimer::singleShot(300, catalogue, [&window, catalogue, target] {
-                if (!catalogue->grab().save(target))
-                    qWarning("Could not write the screenshot to %s", qPrintable(target));
-                window.close();
+                saveShot(catalogue->grab(), target, window);
             });
         });
     }
     if (parser.isSet(screenshot)) {
         const QString target = parser.value(screenshot);
         QTimer::singleShot(400, &window, [&window, target] {
-            if (!window.grab().save(target))
-                qWarning("Could not write the screenshot to %s", qPrintable(target));
-            window.close();
+            saveShot(window.grab(), target, window);
         });
     }
     if (parser.isSet(screenshotPreview)) {
@@ -180,9 +184,7 @@ int main(int argc, char **argv)
         auto grab = [preview, &window, target] {
             // Time for the view to lay out and paint the page.
             QTimer::singleShot(600, preview, [preview, &window, target] {
-                if (!preview->grab().save(target))
-                    qWarning("Could not write the screenshot to %s", qPrintable(target));
-                window.close();
+                saveShot(preview->grab(), target, window);
             });
         };
         QObject::connect(&controller.outputs(), &OutputCommands::previewReady, preview, grab, Qt::QueuedConnection);
@@ -198,9 +200,7 @@ int main(int argc, char **argv)
             report->toggle();
             // The report waits for its PDF.
             QTimer::singleShot(2500, report, [&window, report, target] {
-                if (!report->grab().save(target))
-                    qWarning("Could not write the screenshot to %s", qPrintable(target));
-                window.close();
+                saveShot(report->grab(), target, window);
             });
         });
     }
@@ -218,9 +218,7 @@ int main(int argc, char **argv)
                 QPainter painter(&shot);
                 painter.drawPixmap((shot.width() - sheet->width()) / 2, 60, sheet->grab());
                 painter.end();
-                if (!shot.save(target))
-                    qWarning("Could not write the screenshot to %s", qPrintable(target));
-                window.close();
+                saveShot(shot, target, window);
             });
         });
     }
