@@ -59,8 +59,8 @@ trap 'rm -rf "$home" "$home2"' EXIT
 export HOME="$home2" XDG_DATA_HOME="$home2/data" XDG_CONFIG_HOME="$home2/config"
 "$cli" prefs install-language 1 >/dev/null
 "$cli" prefs set prefsName "Muster GmbH"
-for kv in "prefsStreet=Hauptstraße 1" prefsPostcode=10115 prefsCity=Berlin "prefsPhone=030 123456" \
-          prefsEmail=info@muster.example prefsVATID=DE123456789 "prefsBank=Berliner Bank" \
+for kv in "prefsStreet=Hauptstraße 1" prefsPostcode=10115 prefsCity=Berlin "prefsContactPhone=030 123456" \
+          prefsContactEmail=info@muster.example prefsVATID=DE123456789 "prefsBankName=Berliner Bank" \
           "prefsIBAN=DE02 1203 0000 0000 2020 51" prefsBIC=BYLADEM1001; do
   "$cli" prefs set "${kv%%=*}" "${kv#*=}"
 done

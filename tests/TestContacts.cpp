@@ -172,7 +172,7 @@ void TestContacts::selectAddressRemembersOnce()
     invoice->setText(Invoice::customerTitle, QStringLiteral("Frau"));
     AddressFields fields{QStringLiteral("Anna Weber\nAltweg 1\n53111 Bonn"), QStringLiteral("K1001"),
                          QStringLiteral("anna@example.org"), QStringLiteral("DE123"), QString(),
-                         QStringLiteral("Anna"), QStringLiteral("Weber")};
+                         QStringLiteral("Anna"), QStringLiteral("Weber"), {}};
     const auto texts = [](const Record *r, std::initializer_list<int> attrs) {
         QStringList out;
         for (int a : attrs)
@@ -198,8 +198,19 @@ void TestContacts::selectAddressRemembersOnce()
     QVERIFY(!store.save());
 
     fields.customerTitle = QStringLiteral("Dr.");
+    // The parts an e-invoice needs reach the document and complete the
+    // address remembered with the same text.
+    fields.buyer = {QStringLiteral("Anna Weber"), QStringLiteral("Altweg 1"), QStringLiteral("53111"),
+                    QStringLiteral("Bonn"), Contacts::countryCode(QStringLiteral("Deutschland")), QString(),
+                    QStringLiteral(" anna@example.org ")};
     QVERIFY(!Contacts::selectAddress(store, *invoice, fields, 4));
     QCOMPARE(store.count(EntityId::Address), 1);
+    QCOMPARE(Contacts::buyerOf(*invoice)[4], QStringLiteral("DE"));
+    QCOMPARE(Contacts::buyerOf(*entry), Contacts::buyerOf(*invoice));
+    QCOMPARE(Contacts::buyerOf(*entry)[6], QStringLiteral("anna@example.org"));
+    for (const auto &[name, code] : {std::pair{"France", "FR"}, {"Österreich", "AT"}, {"at", "AT"}, {"España", "ES"},
+                                     {"Atlantis", ""}})
+        QCOMPARE(Contacts::countryCode(QString::fromUtf8(name)), QLatin1String(code));
     QCOMPARE(texts(invoice, {Invoice::customerTitle, Invoice::customerName}),
              QStringList({"Dr.", "Dr. Anna Weber"}));
 

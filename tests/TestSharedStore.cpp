@@ -219,6 +219,7 @@ void TestSharedStore::linesAndOlderStoresFollow()
     sqlite3 *db = nullptr;
     sqlite3_open(QFile::encodeName(f.storePath()).constData(), &db);
     for (const char *sql : {"DROP TABLE _Changes", "DROP TABLE _Store", "DROP TABLE _Notification",
+                            "ALTER TABLE Invoice DROP COLUMN company", "ALTER TABLE Item DROP COLUMN unitCode",
                             "PRAGMA user_version = 1"})
         sqlite3_exec(db, sql, nullptr, nullptr, nullptr);
     sqlite3_close(db);
@@ -230,6 +231,10 @@ void TestSharedStore::linesAndOlderStoresFollow()
     QCOMPARE(cli({QStringLiteral("new"), QStringLiteral("invoice")}, &created), 0);
     QCOMPARE(cli({QStringLiteral("notify"), created}), 0);
     QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM _Notification"), QStringLiteral("1"));
+    QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM pragma_table_info('Invoice') WHERE name IN "
+                                     "('company', 'electronicAddress')"), QStringLiteral("2"));
+    QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM pragma_table_info('Item') WHERE name = 'unitCode'"),
+             QStringLiteral("1"));
     f.app.syncWithStore();
     QCOMPARE(f.app.documentList().all().size(), 1);
 }

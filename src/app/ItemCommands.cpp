@@ -269,6 +269,7 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
     item->setText(Item::title, fields.title);
     item->setText(Item::subtitle, fields.subtitle);
     item->setText(Item::unit, fields.unit);
+    item->setText(Item::unitCode, fields.unitCode.trimmed().toUpper());
     item->setText(Item::sku, fields.sku);
     item->setText(Item::note, fields.note);
     // The popover has always read price and quantity in single precision.
@@ -307,6 +308,7 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
     entry->setText(RecentItem::title, item->text(Item::title));
     entry->setText(RecentItem::subtitle, item->text(Item::subtitle));
     entry->setText(RecentItem::unit, item->text(Item::unit));
+    entry->setText(RecentItem::unitCode, item->text(Item::unitCode));
     entry->setText(RecentItem::sku, sku);
     entry->setText(RecentItem::note, item->text(Item::note));
     entry->setNum(RecentItem::baseAmount, item->num(Item::baseAmount));
@@ -326,6 +328,7 @@ ItemFields ItemCommands::addItemRecent(const Record &recentItem) const
     f.title = recentItem.text(RecentItem::title);
     f.subtitle = recentItem.text(RecentItem::subtitle);
     f.unit = recentItem.text(RecentItem::unit);
+    f.unitCode = recentItem.text(RecentItem::unitCode);
     f.sku = recentItem.text(RecentItem::sku);
     f.note = recentItem.text(RecentItem::note);
     f.price = numberText(recentItem.num(RecentItem::baseAmount));

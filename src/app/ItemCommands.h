@@ -23,6 +23,8 @@ struct ItemFields
     bool tax1 = false;
     bool tax2 = false;
     bool tax3 = false;
+    // UN/ECE Recommendation 20; empty: derived from `unit` when needed.
+    QString unitCode = {};
 };
 
 // The shipping popover's fields (the document's shipping attributes).

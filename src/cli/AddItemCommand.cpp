@@ -6,6 +6,7 @@
 #include "cli/Console.h"
 #include "cli/Session.h"
 #include "domain/Record.h"
+#include "domain/UnitCodes.h"
 #include "store/Store.h"
 
 #include <QCommandLineParser>
@@ -17,7 +18,7 @@ namespace tabo::cli {
 AddItemCommand::AddItemCommand(Session &session)
     : Command(session, QStringLiteral("add-item"), QStringLiteral("ID KEY=VALUE..."),
               QStringLiteral("Add a line to a document as the item popover does, e.g. title=Consulting "
-                             "price=100 quantity=2 tax1=1 (also subtitle, unit, sku, note; baseAmount, "
+                             "price=100 quantity=2 tax1=1 (also subtitle, unit, unitCode, sku, note; baseAmount, "
                              "unitCount, isTax1Applied..3 are the same fields). Rates, tax titles and compound "
                              "flags come from the preferences; any other line attribute is set afterwards. "
                              "The catalogue remembers the line. Prints the line's unique ID."))
@@ -33,6 +34,10 @@ bool AddItemCommand::popoverField(ItemFields &f, const QString &key, const QStri
         f.subtitle = value;
     else if (is("unit"))
         f.unit = value;
+    else if (is("unitCode"))
+        return UnitCodes::isCode(value) ? (f.unitCode = value.toUpper(), true)
+                                        : (*error = QStringLiteral("“%1” is not a unit code of UN/ECE Recommendation 20 "
+                                                                   "(such as HUR, C62, DAY).").arg(value), false);
     else if (is("sku"))
         f.sku = value;
     else if (is("note"))

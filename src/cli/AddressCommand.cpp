@@ -19,11 +19,18 @@ const QStringList kKeys{QStringLiteral("address"),       QStringLiteral("clientN
                         QStringLiteral("customerTitle"), QStringLiteral("firstName"),
                         QStringLiteral("lastName")};
 
+const QStringList &allKeys()
+{
+    static const QStringList keys = kKeys + QStringList(Contacts::kBuyerKeys.begin(), Contacts::kBuyerKeys.end());
+    return keys;
+}
+
 QString *field(AddressFields &f, const QString &key)
 {
     QString *const fields[] = {&f.address,       &f.clientNumber, &f.emailAddress, &f.customerVATID,
                                &f.customerTitle, &f.firstName,    &f.lastName};
-    return fields[kKeys.indexOf(key)];
+    const qsizetype i = kKeys.indexOf(key);
+    return i >= 0 ? fields[i] : &f.buyer[std::size_t(allKeys().indexOf(key) - kKeys.size())];
 }
 
 } // namespace
@@ -32,7 +39,7 @@ AddressCommand::AddressCommand(Session &session)
     : Command(session, QStringLiteral("address"), QStringLiteral("ID [--vcard FILE [--contact N]] [KEY=VALUE...]"),
               QStringLiteral("Set a document's client as the address popover does, from contact N (default 1) "
                              "of a vCard file by the address pattern and from the keys ")
-                  + kKeys.join(QStringLiteral(", "))
+                  + allKeys().join(QStringLiteral(", "))
                   + QStringLiteral(". Fields not given are empty, as in a fresh popover. The address is "
                                    "remembered unless it already is."))
 {
@@ -73,7 +80,7 @@ int AddressCommand::execute(const QStringList &args)
     QStringList pos = parser.positionalArguments();
     const QString id = pos.takeFirst();
     KeyValues values;
-    if (!splitKeyValues(pos, kKeys, &values, &code))
+    if (!splitKeyValues(pos, allKeys(), &values, &code))
         return code;
     if (!parser.isSet(vcard) && values.isEmpty())
         return usageError(QStringLiteral("Give a vCard file or at least one field."));

@@ -19,9 +19,9 @@ struct Token
 constexpr Token kTokens[] = {
     {QLatin1StringView("%NAME%"), P::prefsName},          {QLatin1StringView("%STREET%"), P::prefsStreet},
     {QLatin1StringView("%POSTCODE%"), P::prefsPostcode},  {QLatin1StringView("%CITY%"), P::prefsCity},
-    {QLatin1StringView("%PHONE%"), P::prefsPhone},        {QLatin1StringView("%EMAIL%"), P::prefsEmail},
+    {QLatin1StringView("%PHONE%"), P::prefsContactPhone},        {QLatin1StringView("%EMAIL%"), P::prefsContactEmail},
     {QLatin1StringView("%VATID%"), P::prefsVATID},        {QLatin1StringView("%TAXNUMBER%"), P::prefsTaxNumber},
-    {QLatin1StringView("%BANK%"), P::prefsBank},          {QLatin1StringView("%IBAN%"), P::prefsIBAN},
+    {QLatin1StringView("%BANK%"), P::prefsBankName},          {QLatin1StringView("%IBAN%"), P::prefsIBAN},
     {QLatin1StringView("%BIC%"), P::prefsBIC},
 };
 

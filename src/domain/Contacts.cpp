@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QStringDecoder>
 
 #include <unicode/unistr.h>
@@ -392,7 +393,54 @@ bool fieldsFromContact(const Preferences &prefs, const Contact &contact, Address
     fields->emailAddress = contact.email;
     fields->firstName = contact.firstName;
     fields->lastName = contact.lastName;
+    const QString person = QString(contact.firstName + QLatin1Char(' ') + contact.lastName).trimmed();
+    fields->buyer[0] = contact.organization.isEmpty() ? person : contact.organization;
+    fields->buyer[1] = contact.street;
+    fields->buyer[2] = contact.zip;
+    fields->buyer[3] = contact.city;
+    fields->buyer[4] = countryCode(contact.country);
     return true;
+}
+
+const std::array<QString, 7> kBuyerKeys{QStringLiteral("company"),     QStringLiteral("street"),
+                                        QStringLiteral("postcode"),    QStringLiteral("city"),
+                                        QStringLiteral("countryCode"), QStringLiteral("buyerReference"),
+                                        QStringLiteral("electronicAddress")};
+
+std::array<QString, 7> buyerOf(const Record &record)
+{
+    std::array<QString, 7> buyer;
+    for (std::size_t i = 0; i < buyer.size(); ++i)
+        buyer[i] = record.value(kBuyerKeys[i]).toString();
+    return buyer;
+}
+
+void setBuyer(Record &record, const std::array<QString, 7> &buyer)
+{
+    for (std::size_t i = 0; i < buyer.size(); ++i)
+        record.setValue(kBuyerKeys[i], buyer[i].trimmed());
+}
+
+QString countryCode(const QString &country)
+{
+    const QString name = country.trimmed();
+    if (name.size() == 2 && name.at(0).isLetter() && name.at(1).isLetter())
+        return name.toUpper();
+    if (name.isEmpty())
+        return {};
+    // The names of the four languages Tabo writes in, then English.
+    for (const char *language : {"de", "fr", "es", "en"}) {
+        const QLocale::Language lang = QLocale::codeToLanguage(QString::fromLatin1(language));
+        for (int t = 1; t <= int(QLocale::LastTerritory); ++t) {
+            const QLocale locale(lang, QLocale::Territory(t));
+            if (locale.territory() != QLocale::Territory(t))
+                continue;
+            if (locale.nativeTerritoryName().compare(name, Qt::CaseInsensitive) == 0
+                || QLocale::territoryToString(QLocale::Territory(t)).compare(name, Qt::CaseInsensitive) == 0)
+                return QLocale::territoryToCode(QLocale::Territory(t));
+        }
+    }
+    return {};
 }
 
 QString customerName(qint64 clientNamePatternTag, const QString &title, const QString &first, const QString &last)
@@ -422,10 +470,15 @@ Record *selectAddress(RecordOwner &store, Record &document, const AddressFields 
     if (!fields.customerTitle.isEmpty())
         document.setText(Invoice::customerTitle, fields.customerTitle);
     document.setText(Invoice::customerName, name);
+    setBuyer(document, fields.buyer);
 
-    for (const Record *known : store.all(EntityId::Address)) {
-        if (known->text(Address::address) == fields.address)
+    for (Record *known : store.all(EntityId::Address)) {
+        if (known->text(Address::address) == fields.address) {
+            // The parts given now complete what was remembered with the text.
+            if (std::any_of(fields.buyer.begin(), fields.buyer.end(), [](const QString &v) { return !v.isEmpty(); }))
+                setBuyer(*known, fields.buyer);
             return nullptr;
+        }
     }
     Record *entry = store.insert(EntityId::Address);
     entry->setText(Address::uniqueID, newUniqueId());
@@ -435,6 +488,7 @@ Record *selectAddress(RecordOwner &store, Record &document, const AddressFields 
     entry->setText(Address::customerVATID, fields.customerVATID);
     entry->setText(Address::customerTitle, fields.customerTitle);
     entry->setText(Address::customerName, name);
+    setBuyer(*entry, fields.buyer);
     entry->setDate(Address::date, now());
     return entry;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QList>
+
+#include <array>
 #include <QString>
 
 namespace tabo {
@@ -35,9 +37,21 @@ struct AddressFields
     QString customerTitle;
     QString firstName;
     QString lastName;
+    // What e-invoices need beyond the address text, by kBuyerKeys.
+    std::array<QString, 7> buyer;
 };
 
 namespace Contacts {
+
+// The buyer's parts, named alike in documents and remembered addresses:
+// company, street, postcode, city, countryCode, buyerReference,
+// electronicAddress.
+extern const std::array<QString, 7> kBuyerKeys;
+std::array<QString, 7> buyerOf(const Record &record);
+void setBuyer(Record &record, const std::array<QString, 7> &buyer);
+// An ISO 3166-1 code for a country as written ("Deutschland", "France",
+// "de"); empty when unknown.
+QString countryCode(const QString &country);
 
 // Every usable contact of a vCard file; an empty list with a reason when the
 // data is not a vCard or holds none.

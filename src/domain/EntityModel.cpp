@@ -58,6 +58,16 @@ std::array<EntityDesc, kEntityCount> buildAll()
     for (auto &d : all)
         if (d.id != EntityId::Invoice)
             d.listTextMask = ~std::uint64_t(0);
+    const auto local = [&all](EntityId e, std::initializer_list<int> attrs) {
+        for (int a : attrs)
+            all[int(e)].attributes[a].exchanged = false;
+    };
+    local(EntityId::Invoice, {Invoice::company, Invoice::street, Invoice::postcode, Invoice::city,
+                              Invoice::countryCode, Invoice::buyerReference, Invoice::electronicAddress});
+    local(EntityId::Address, {Address::company, Address::street, Address::postcode, Address::city,
+                              Address::countryCode, Address::buyerReference, Address::electronicAddress});
+    local(EntityId::Item, {Item::unitCode});
+    local(EntityId::RecentItem, {RecentItem::unitCode});
     return all;
 }
 

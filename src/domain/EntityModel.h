@@ -39,6 +39,9 @@ struct AttributeDesc {
     QString name;
     AttrType type;
     int slot; // index into the record's numeric or text storage
+    // False for what is kept in the store only: the exchange files and
+    // object dictionaries carry exactly the keys other readers know.
+    bool exchanged = true;
     bool isText() const { return type == AttrType::Text; }
 };
 

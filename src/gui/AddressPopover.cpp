@@ -44,6 +44,7 @@ AddressPopover::AddressPopover(AppController &app, QWidget *parent)
     m_tabs->addTab(createAddressPage(), tr("Address"));
     m_tabs->addTab(m_contacts, tr("Contacts"));
     m_tabs->addTab(createRecentPage(), tr("Recent"));
+    m_tabs->addTab(createEInvoicePage(), tr("E-invoice"));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(10, 8, 10, 10);
     layout->addWidget(m_tabs);
@@ -139,6 +140,7 @@ void AddressPopover::prepare()
         f.customerTitle = doc->text(Invoice::customerTitle);
         splitName(m_app.prefs().integer(P::clientNamePatternTag), f.customerTitle, doc->text(Invoice::customerName),
             &f.firstName, &f.lastName);
+        f.buyer = Contacts::buyerOf(*doc);
     }
     setFields(f);
     loadRememberedFile();
@@ -193,12 +195,39 @@ void AddressPopover::setFields(const AddressFields &f)
     m_title->setText(f.customerTitle);
     m_first->setText(f.firstName);
     m_last->setText(f.lastName);
+    for (std::size_t i = 0; i < m_buyer.size(); ++i)
+        m_buyer[i]->setText(f.buyer[i]);
 }
 
 AddressFields AddressPopover::fields() const
 {
-    return { m_address->toPlainText(), m_clientNumber->text(), m_email->text(), m_vatID->text(), m_title->text(),
-        m_first->text(), m_last->text() };
+    AddressFields f { m_address->toPlainText(), m_clientNumber->text(), m_email->text(), m_vatID->text(),
+        m_title->text(), m_first->text(), m_last->text(), {} };
+    for (std::size_t i = 0; i < m_buyer.size(); ++i)
+        f.buyer[i] = m_buyer[i]->text();
+    return f;
+}
+
+QWidget *AddressPopover::createEInvoicePage()
+{
+    // What an e-invoice needs beyond the address text, in its parts.
+    auto *page = new QWidget(this);
+    auto *form = new QFormLayout(page);
+    const QString labels[] = { tr("Company or name:"), tr("Street:"), tr("Postcode:"), tr("City:"),
+        tr("Country code:"), tr("Buyer reference:"), tr("E-invoice address:") };
+    for (std::size_t i = 0; i < m_buyer.size(); ++i) {
+        m_buyer[i] = new QLineEdit(page);
+        m_buyer[i]->setObjectName(QStringLiteral("popover_") + Contacts::kBuyerKeys[i]);
+        form->addRow(labels[i], m_buyer[i]);
+    }
+    m_buyer[4]->setMaxLength(2);
+    m_buyer[4]->setPlaceholderText(tr("DE, FR, AT…"));
+    m_buyer[5]->setPlaceholderText(tr("Leitweg-ID of a public authority"));
+    m_buyer[6]->setPlaceholderText(tr("e-mail or scheme:identifier"));
+    auto *use = new QPushButton(tr("Use Address"), page);
+    connect(use, &QPushButton::clicked, this, &AddressPopover::useAddress);
+    form->addRow(QString(), use);
+    return page;
 }
 
 void AddressPopover::alert(const QString &message)
@@ -251,9 +280,10 @@ void AddressPopover::useRecent()
     const auto *entry = static_cast<const Record *>(row->data(0, Qt::UserRole).value<void *>());
     AddressFields f { entry->text(Address::address), entry->text(Address::clientNumber),
         entry->text(Address::emailAddress), entry->text(Address::customerVATID), entry->text(Address::customerTitle),
-        {}, {} };
+        {}, {}, {} };
     splitName(m_app.prefs().integer(P::clientNamePatternTag), f.customerTitle, entry->text(Address::customerName),
         &f.firstName, &f.lastName);
+    f.buyer = Contacts::buyerOf(*entry);
     setFields(f);
     m_tabs->setCurrentIndex(AddressTab);
     m_address->setFocus();

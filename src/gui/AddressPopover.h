@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "gui/Popover.h"
 
 class QLineEdit;
@@ -40,6 +42,7 @@ protected:
 
 private:
     QWidget *createAddressPage();
+    QWidget *createEInvoicePage();
     QWidget *createRecentPage();
     void fillRecent();
     void loadRememberedFile();
@@ -60,6 +63,7 @@ private:
     QLineEdit *m_title = nullptr;
     QLineEdit *m_first = nullptr;
     QLineEdit *m_last = nullptr;
+    std::array<QLineEdit *, 7> m_buyer {};
     ContactsTab *m_contacts = nullptr;
     QTreeWidget *m_recent = nullptr;
     QPushButton *m_useRecent = nullptr;

@@ -67,19 +67,19 @@ FirstStartAssistant::FirstStartAssistant(AppController &app, QWidget *parent) : 
           {P::prefsStreet, tr("Street:")},
           {P::prefsPostcode, tr("Postcode:")},
           {P::prefsCity, tr("City:")},
-          {P::prefsCountry, tr("Country code:")},
-          {P::prefsPhone, tr("Phone:")},
-          {P::prefsEmail, tr("E-mail:")}});
+          {P::prefsCountryCode, tr("Country code:")},
+          {P::prefsContactPhone, tr("Phone:")},
+          {P::prefsContactEmail, tr("E-mail:")}});
     page(tr("Taxes and bank"),
          tr("Invoices must name your tax number or VAT ID, and your customers need your bank details to pay. "
             "They go into the footer of every document; leave out what you do not have."),
          {{P::prefsVATID, tr("VAT ID:")},
           {P::prefsTaxNumber, tr("Tax number:")},
-          {P::prefsBank, tr("Bank:")},
+          {P::prefsBankName, tr("Bank:")},
           {P::prefsIBAN, tr("IBAN:")},
           {P::prefsBIC, tr("BIC:")}});
-    field(P::prefsCountry)->setMaxLength(2);
-    field(P::prefsCountry)->setPlaceholderText(tr("DE, FR, US…"));
+    field(P::prefsCountryCode)->setMaxLength(2);
+    field(P::prefsCountryCode)->setPlaceholderText(tr("DE, FR, US…"));
 }
 
 QLineEdit *FirstStartAssistant::field(Preferences::Key key) const
@@ -95,7 +95,7 @@ bool FirstStartAssistant::validateCurrentPage()
     if (currentId() == 0) {
         m_app.firstAssiTabAction(m_language->currentIndex());
         static const char *const countries[] = {"US", "DE", "FR", "ES"};
-        QLineEdit *country = field(Preferences::prefsCountry);
+        QLineEdit *country = field(Preferences::prefsCountryCode);
         if (country->text().isEmpty())
             country->setText(QLatin1String(countries[m_language->currentIndex()]));
         companyName()->setFocus();
@@ -110,7 +110,7 @@ void FirstStartAssistant::done(int result)
     if (result == QDialog::Accepted) {
         for (const auto &[key, edit] : std::as_const(m_fields)) {
             QString value = edit->text().trimmed();
-            if (key == P::prefsCountry || key == P::prefsIBAN || key == P::prefsBIC)
+            if (key == P::prefsCountryCode || key == P::prefsIBAN || key == P::prefsBIC)
                 value = value.toUpper();
             if (!value.isEmpty())
                 prefs.setString(key, value);
@@ -120,7 +120,7 @@ void FirstStartAssistant::done(int result)
             QStringList contact;
             const QStringList lines = {prefs.string(P::prefsStreet),
                                        prefs.string(P::prefsPostcode) + QLatin1Char(' ') + prefs.string(P::prefsCity),
-                                       prefs.string(P::prefsPhone), prefs.string(P::prefsEmail)};
+                                       prefs.string(P::prefsContactPhone), prefs.string(P::prefsContactEmail)};
             for (const QString &line : lines)
                 if (!line.trimmed().isEmpty())
                     contact << line.trimmed();

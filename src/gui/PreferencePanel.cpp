@@ -218,13 +218,14 @@ QWidget *QVPreferencePanel::createCompanyPane()
     form->addRow(tr("Currency sign:"), currency);
 
     // Two columns keep the pane no taller than the others.
-    auto *details = new QGroupBox(tr("Address, taxes and bank (for footers)"));
+    auto *details = new QGroupBox(tr("Address, taxes and bank (for footers and e-invoices)"));
     auto *grid = new QGridLayout(details);
     const std::pair<P::Key, QString> fields[] = {
         {P::prefsStreet, tr("Street:")},  {P::prefsPostcode, tr("Postcode:")},  {P::prefsCity, tr("City:")},
-        {P::prefsCountry, tr("Country code:")}, {P::prefsPhone, tr("Phone:")},  {P::prefsEmail, tr("E-mail:")},
-        {P::prefsVATID, tr("VAT ID:")},   {P::prefsTaxNumber, tr("Tax number:")}, {P::prefsBank, tr("Bank:")},
-        {P::prefsIBAN, tr("IBAN:")},      {P::prefsBIC, tr("BIC:")}};
+        {P::prefsCountryCode, tr("Country code:")}, {P::prefsContactPhone, tr("Phone:")},  {P::prefsContactEmail, tr("E-mail:")},
+        {P::prefsVATID, tr("VAT ID:")},   {P::prefsTaxNumber, tr("Tax number:")}, {P::prefsBankName, tr("Bank:")},
+        {P::prefsIBAN, tr("IBAN:")},      {P::prefsBIC, tr("BIC:")}, {P::prefsContactName, tr("Contact person:")},
+        {P::prefsElectronicAddress, tr("E-invoice address:")}, {P::prefsCurrencyCode, tr("Currency code:")}};
     int i = 0;
     for (const auto &[key, label] : fields) {
         grid->addWidget(new QLabel(label), i / 2, (i % 2) * 2, Qt::AlignRight);
@@ -283,11 +284,22 @@ QWidget *QVPreferencePanel::createTaxesPane()
     grid->addWidget(new QLabel(tr("Rate (%)")), 0, 2);
     struct Tax
     {
-        P::Key enabled, title, rate, compound;
+        P::Key enabled, title, rate, compound, category, exemption;
     };
-    const std::array<Tax, 3> taxes {{{P::tax1Enabled, P::tax1Title, P::tax1Rate, P::KeyCount},
-                                     {P::tax2Enabled, P::tax2Title, P::tax2Rate, P::tax2IsCompound},
-                                     {P::tax3Enabled, P::tax3Title, P::tax3Rate, P::tax3IsCompound}}};
+    const std::array<Tax, 3> taxes {{{P::tax1Enabled, P::tax1Title, P::tax1Rate, P::KeyCount, P::tax1Category,
+                                      P::tax1ExemptionReason},
+                                     {P::tax2Enabled, P::tax2Title, P::tax2Rate, P::tax2IsCompound, P::tax2Category,
+                                      P::tax2ExemptionReason},
+                                     {P::tax3Enabled, P::tax3Title, P::tax3Rate, P::tax3IsCompound, P::tax3Category,
+                                      P::tax3ExemptionReason}}};
+    // The VAT categories of EN 16931 (UNCL 5305), as e-invoices state them.
+    const QList<std::pair<QString, QString>> categories{
+        {QStringLiteral("S"), tr("Standard rate")},       {QStringLiteral("Z"), tr("Zero rated")},
+        {QStringLiteral("E"), tr("Exempt")},              {QStringLiteral("AE"), tr("Reverse charge")},
+        {QStringLiteral("K"), tr("Intra-community supply")}, {QStringLiteral("G"), tr("Export outside the EU")},
+        {QStringLiteral("O"), tr("Not subject to VAT")}};
+    grid->addWidget(new QLabel(tr("E-invoice category")), 0, 4);
+    grid->addWidget(new QLabel(tr("Reason when not charged")), 0, 5);
     int row = 1;
     for (const Tax &tax : taxes) {
         grid->addWidget(m_binder->check(tax.enabled, tr("Tax %1").arg(row)), row, 0, Qt::AlignTop);
@@ -297,6 +309,10 @@ QWidget *QVPreferencePanel::createTaxesPane()
         grid->addWidget(withHint(m_binder, rate), row, 2, Qt::AlignTop);
         if (tax.compound != P::KeyCount)
             grid->addWidget(m_binder->check(tax.compound, tr("Compound")), row, 3, Qt::AlignTop);
+        grid->addWidget(m_binder->code(tax.category, categories), row, 4, Qt::AlignTop);
+        QLineEdit *reason = m_binder->text(tax.exemption);
+        reason->setPlaceholderText(tr("e.g. Steuerschuldnerschaft des Leistungsempfängers"));
+        grid->addWidget(reason, row, 5, Qt::AlignTop);
         ++row;
     }
     column->addLayout(grid);

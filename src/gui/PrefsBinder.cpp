@@ -82,6 +82,17 @@ QComboBox *PrefsBinder::choice(Preferences::Key key, const QStringList &labels)
     return combo;
 }
 
+QComboBox *PrefsBinder::code(Preferences::Key key, const QList<std::pair<QString, QString>> &choices)
+{
+    auto *combo = new QComboBox;
+    for (const auto &[value, label] : choices)
+        combo->addItem(label, value);
+    add(combo, key, [this, combo, key] { combo->setCurrentIndex(combo->findData(m_prefs.string(key))); });
+    connect(combo, &QComboBox::activated, this,
+            [this, combo, key](int index) { write(key, combo->itemData(index).toString()); });
+    return combo;
+}
+
 QLineEdit *PrefsBinder::checked(Preferences::Key key, Check check)
 {
     auto *edit = new QLineEdit;

@@ -38,6 +38,8 @@ public:
     QCheckBox *check(Preferences::Key key, const QString &label);
     // The value is the index of the choice.
     QComboBox *choice(Preferences::Key key, const QStringList &labels);
+    // The value is the code of the choice (first of each pair; the second is shown).
+    QComboBox *code(Preferences::Key key, const QList<std::pair<QString, QString>> &choices);
     // A whole number from `minimum` up.
     QLineEdit *number(Preferences::Key key, qint64 minimum, qint64 maximum, const QString &what);
     // A rate stored as a fraction and shown in percent.

@@ -182,6 +182,17 @@ Preferences::Preferences(const QString &filePath)
 {
     clearStaleLock(filePath + QStringLiteral(".lock"));
     m_settings = std::make_unique<QSettings>(filePath, QSettings::IniFormat);
+    // The seller's details got the names scripts and e-invoices use; what was
+    // typed under the earlier names moves over once.
+    for (const auto &[before, now] : {std::pair{"prefsCountry", "prefsCountryCode"}, {"prefsPhone", "prefsContactPhone"},
+                                      {"prefsEmail", "prefsContactEmail"}, {"prefsBank", "prefsBankName"}}) {
+        const QString was = QString::fromLatin1(before);
+        if (!m_settings->contains(was))
+            continue;
+        if (!m_settings->contains(QLatin1String(now)))
+            m_settings->setValue(QLatin1String(now), m_settings->value(was));
+        m_settings->remove(was);
+    }
 }
 
 Preferences::~Preferences() = default;

@@ -107,6 +107,8 @@ QVariantMap toDictionaryWithTraversalHistory(const Record &record, QList<const R
     dictionary.insert(kClassKey, desc.id == EntityId::Template ? kGenericClass : desc.name);
     for (int a = 0; a < int(desc.attributes.size()); ++a) {
         const AttributeDesc &attr = desc.attributes[a];
+        if (!attr.exchanged)
+            continue;
         if (attr.isText()) {
             const QString text = record.text(a);
             if (!text.isNull())

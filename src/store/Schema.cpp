@@ -50,6 +50,21 @@ const std::vector<std::function<Error(sqlite3 *)>> &steps()
         },
         /* 3: scheduled due-date notifications */
         [](sqlite3 *db) { return exec(db, notificationTableSql()); },
+        /* 4: what e-invoices need and the exchange files do not carry: the
+              buyer's address in parts, reference and electronic address;
+              the lines' unit codes */
+        [](sqlite3 *db) {
+            for (int i = 0; i < kEntityCount; ++i) {
+                const EntityDesc &entity = entityDesc(EntityId(i));
+                const QSet<QString> have = existingColumns(db, entity.name);
+                for (const auto &a : entity.attributes)
+                    if (!a.exchanged && !have.contains(a.name))
+                        if (Error e = exec(db, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
+                                                   .arg(quoted(entity.name), quoted(a.name), columnType(a.type))))
+                            return e;
+            }
+            return Error{};
+        },
     };
     return list;
 }

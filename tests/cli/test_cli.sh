@@ -510,6 +510,18 @@ run 2 notifications deliver-due --wait soon
 run 0 notifications list
 expect "one reminder left" "$(printf '%s\n' "$OUT" | wc -l)" 1
 
+# --- what e-invoices need: the buyer in parts, unit codes ---------------------
+E=$("$CLI" new invoice 2>/dev/null)
+run 0 address "$E" address=$'Amt für Wege\nPostfach 1\n10115 Berlin' company="Amt für Wege" street="Postfach 1" \
+    postcode=10115 city=Berlin countryCode=DE buyerReference=991-12345-67 electronicAddress=rechnung@amt.example
+run 0 show "$E" --json
+jcheck 'd["company"] == "Amt für Wege" and d["countryCode"] == "DE" and d["buyerReference"] == "991-12345-67"'
+run 0 add-item "$E" title=Work price=10 quantity=1 unitCode=hur
+run 1 add-item "$E" title=Work price=10 quantity=1 unitCode=HOUR
+run 0 export "$E" --tabo "$T/e.tabo"
+python3 -c "import plistlib,sys; d=open(sys.argv[1],'rb').read(); sys.exit(1 if b'buyerReference' in d or b'unitCode' in d else 0)" "$T/e.tabo" \
+    && pass=$((pass + 1)) || bad "the exchange file carries store-only keys"
+
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
 printf 'not a database, just text\n' >"$T/other/data/Tabo/Tabo.mbdb"

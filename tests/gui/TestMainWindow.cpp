@@ -274,7 +274,7 @@ void TestMainWindow::firstStartAssistantInstallsLanguage()
     QCOMPARE(f.prefs.string(Preferences::locInvoice), QStringLiteral("Rechnung"));
     QVERIFY(!f.app.needsFirstStartAssistant());
     assistant.companyName()->setText(QStringLiteral("  Atelier Nord  "));
-    QCOMPARE(assistant.field(Preferences::prefsCountry)->text(), QStringLiteral("DE"));
+    QCOMPARE(assistant.field(Preferences::prefsCountryCode)->text(), QStringLiteral("DE"));
     assistant.field(Preferences::prefsCity)->setText(QStringLiteral("Kiel"));
     assistant.field(Preferences::prefsIBAN)->setText(QStringLiteral("de02 1203 0000 0000 2020 51"));
     assistant.accept();
