@@ -22,6 +22,7 @@
 #include "cli/PrefsCommand.h"
 #include "cli/PrintCommand.h"
 #include "cli/RenderCommand.h"
+#include "cli/EInvoiceCommand.h"
 #include "cli/NotifyCommand.h"
 #include "cli/ReportCommand.h"
 #include "cli/RestoreCommand.h"
@@ -132,6 +133,7 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<RenderCommand>(session));
     commands.push_back(std::make_unique<PrintCommand>(session));
     commands.push_back(std::make_unique<EmailCommand>(session));
+    commands.push_back(std::make_unique<EInvoiceCommand>(session));
     commands.push_back(std::make_unique<DesignCommand>(session));
 
     QStringList args = QCoreApplication::arguments().mid(1);

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "einvoice/CiiWriter.h"
+
+#include <QString>
+
+namespace tabo {
+
+class AppController;
+class Record;
+
+// E-invoices of the user's invoices: the check of what the standard needs,
+// then the XML.
+class EInvoiceCommands
+{
+public:
+    explicit EInvoiceCommands(AppController &app) : m_app(app) {}
+
+    // The document as the standard sees it, calculated afresh first.
+    einvoice::Mapping map(Record &document) const;
+    // Writes the XRechnung (CII) of `document` to `path`. Nothing is written
+    // while something is missing or cannot be stated: the person is told
+    // what and where to fill it, all at once.
+    bool exportXRechnungCii(Record &document, const QString &path);
+
+    static QString problemsText(const einvoice::Mapping &mapping);
+
+private:
+    AppController &m_app;
+};
+
+} // namespace tabo

@@ -1,0 +1,50 @@
+#include "cli/EInvoiceCommand.h"
+
+#include "app/AppController.h"
+#include "app/EInvoiceCommands.h"
+#include "cli/Console.h"
+#include "cli/Session.h"
+
+#include <QCommandLineParser>
+
+namespace tabo::cli {
+
+EInvoiceCommand::EInvoiceCommand(Session &session)
+    : Command(session, QStringLiteral("einvoice"), QStringLiteral("export ID --xrechnung-cii FILE | missing ID"),
+              QStringLiteral("Write an invoice as XRechnung (CII), or list what it still needs for one (each in "
+                             "words, with where to fill it). Nothing is written while something is missing."))
+{
+}
+
+int EInvoiceCommand::execute(const QStringList &args)
+{
+    const QString sub = args.value(0);
+    QCommandLineParser parser;
+    const QCommandLineOption cii(QStringLiteral("xrechnung-cii"), QStringLiteral("XRechnung in CII."),
+                                 QStringLiteral("FILE"));
+    if (sub == QLatin1String("export"))
+        parser.addOption(cii);
+    else if (sub != QLatin1String("missing"))
+        return usageError(sub.isEmpty() ? QStringLiteral("Missing export or missing.")
+                                        : QStringLiteral("Unknown “%1”: export or missing.").arg(sub));
+    int code = kExitOk;
+    if (!parse(parser, args.mid(1), 1, 1, &code))
+        return code;
+    if (sub == QLatin1String("export") && !parser.isSet(cii))
+        return usageError(QStringLiteral("Say where: --xrechnung-cii FILE."));
+    Record *doc = m_session.select(parser.positionalArguments().constFirst());
+    if (!doc)
+        return kExitFailure;
+    EInvoiceCommands commands(m_session.controller());
+    const einvoice::Mapping mapping = commands.map(*doc);
+    if (sub == QLatin1String("missing")) {
+        for (const QString &problem : mapping.problems())
+            printOut(problem + QLatin1Char('\n'));
+        return mapping.ok() ? kExitOk : kExitFailure;
+    }
+    if (!mapping.ok())
+        return failure(QStringLiteral("The e-invoice cannot be written yet: ") + mapping.problems().join(QStringLiteral("; ")));
+    return commands.exportXRechnungCii(*doc, parser.value(cii)) ? kExitOk : kExitFailure;
+}
+
+} // namespace tabo::cli

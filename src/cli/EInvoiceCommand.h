@@ -1,0 +1,16 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace tabo::cli {
+
+// einvoice export ID --xrechnung-cii FILE | einvoice check ID: the
+// e-invoice of an invoice, or what it still needs.
+class EInvoiceCommand : public Command
+{
+public:
+    explicit EInvoiceCommand(Session &session);
+    int execute(const QStringList &args) override;
+};
+
+} // namespace tabo::cli

@@ -1,0 +1,132 @@
+#pragma once
+
+#include <QDate>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace tabo {
+
+class Preferences;
+class Record;
+
+// An invoice in the terms of the European e-invoice standard (EN 16931):
+// what its XML forms (CII, UBL) state, and nothing of how Tabo prints it.
+namespace einvoice {
+
+struct Party
+{
+    QString name;
+    QString street;
+    QString postcode;
+    QString city;
+    QString countryCode;
+    QString vatId;
+    QString taxNumber;
+    QString electronicAddress;
+    QString electronicScheme; // EAS code ("EM" for e-mail)
+    QString contactName;
+    QString contactPhone;
+    QString contactEmail;
+};
+
+struct TaxCategory
+{
+    QString code;    // S, Z, E, AE, K, G, O
+    double rate = 0; // in percent
+    QString exemptionReason;
+    bool operator==(const TaxCategory &o) const { return code == o.code && rate == o.rate; }
+};
+
+struct Line
+{
+    QString id;
+    QString name;
+    QString description;
+    QString sellerId;
+    QString unitCode;
+    double quantity = 0;
+    double price = 0; // net, per unit
+    double net = 0;   // to the cent
+    TaxCategory tax;
+};
+
+// A discount (allowance) or shipping (charge) on the whole document.
+struct AllowanceCharge
+{
+    bool charge = false;
+    double amount = 0;
+    QString reason;
+    TaxCategory tax;
+};
+
+struct TaxBreakdown
+{
+    TaxCategory category;
+    double basis = 0;
+    double amount = 0;
+};
+
+struct Model
+{
+    QString number;
+    QString typeCode = QStringLiteral("380");
+    QDate issueDate;
+    QDate dueDate;      // may be null
+    QDate deliveryDate; // may be null
+    QString currency;
+    QString buyerReference;
+    QString paymentTerms;
+    QStringList notes;
+    Party seller;
+    Party buyer;
+    QString iban;
+    QString bic;
+    QString bankName;
+    QList<Line> lines;
+    QList<AllowanceCharge> allowancesCharges;
+    QList<TaxBreakdown> taxes;
+    double lineTotal = 0;
+    double allowanceTotal = 0;
+    double chargeTotal = 0;
+    double taxExclusive = 0;
+    double taxTotal = 0;
+    double taxInclusive = 0;
+    // What makes the total the page prints from the parts it prints, each
+    // rounded to the cent (a cent or two at most).
+    double rounding = 0;
+    double prepaid = 0;
+    double payable = 0;
+    // A credit note's invoice.
+    QString precedingNumber;
+    QDate precedingDate;
+};
+
+// The outcome of reading a document as an e-invoice.
+struct Mapping
+{
+    Model invoice;
+    // Data the standard needs that is not filled in, each in the person's
+    // words with where to fill it.
+    QStringList missing;
+    // What the standard cannot state as Tabo printed it.
+    QStringList refusals;
+    bool ok() const { return missing.isEmpty() && refusals.isEmpty(); }
+    QStringList problems() const { return missing + refusals; }
+};
+
+// The document as an e-invoice, with the amounts it prints.
+Mapping fromDocument(const Record &document, const Preferences &prefs);
+
+// An electronic address as typed ("name@example.org", "0204:991-…",
+// "9930:DE123…") split into scheme and identifier.
+std::pair<QString, QString> electronicAddress(const QString &typed);
+
+// Amounts in the XML: two decimals, a point, no grouping.
+QString amount(double value);
+// Quantities and prices: as many decimals as they have, up to four.
+QString decimal(double value);
+
+} // namespace einvoice
+
+} // namespace tabo
