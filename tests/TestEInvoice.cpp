@@ -7,6 +7,7 @@
 #include "domain/Record.h"
 #include "domain/UnitCodes.h"
 #include "einvoice/CiiWriter.h"
+#include "einvoice/UblWriter.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -133,7 +134,7 @@ void TestEInvoice::refusesWhatItCannotStateAndAsksForWhatIsMissing()
     QCOMPARE(m.missing.size(), 3);
     // Nothing is written while anything is missing, and the person hears all of it at once.
     const QString path = f.home.path() + QStringLiteral("/x.xml");
-    QVERIFY(!EInvoiceCommands(f.app).exportXRechnungCii(*doc, path));
+    QVERIFY(!EInvoiceCommands(f.app).exportXml(*doc, path, EInvoiceCommands::Form::XRechnungUbl));
     QVERIFY(!QFile::exists(path));
     QCOMPARE(f.ui.lastAlertText().count(QStringLiteral("• ")), 3);
 
@@ -212,9 +213,13 @@ void TestEInvoice::variedInvoicesFollowTheRules()
         // The XML states what the page prints.
         QCOMPARE(einvoice::amount(m.invoice.taxInclusive + m.invoice.rounding), einvoice::amount(doc->num(Invoice::amount)));
         QVERIFY(std::abs(m.invoice.rounding) <= 0.02);
-        QFile out(QStringLiteral("%1/%2.xml").arg(dir).arg(n, 3, 10, QLatin1Char('0')));
-        QVERIFY(out.open(QIODevice::WriteOnly));
-        out.write(einvoice::writeCii(m.invoice, einvoice::Profile::XRechnung));
+        for (const auto &[syntax, xml] : {std::pair{QStringLiteral("cii"), einvoice::writeCii(m.invoice, einvoice::Profile::XRechnung)},
+                                          {QStringLiteral("ubl"), einvoice::writeUbl(m.invoice, einvoice::Profile::XRechnung)}}) {
+            QDir().mkpath(dir + QLatin1Char('/') + syntax);
+            QFile out(QStringLiteral("%1/%2/%3.xml").arg(dir, syntax).arg(n, 3, 10, QLatin1Char('0')));
+            QVERIFY(out.open(QIODevice::WriteOnly));
+            out.write(xml);
+        }
         ++written;
     }
     for (const auto &[reason, count] : refused)
@@ -226,8 +231,11 @@ void TestEInvoice::variedInvoicesFollowTheRules()
         QSKIP("The rule sets (../shared/einvoice) are not here; the invoices were not checked against them.");
     if (!QFile::exists(kSaxon) || QStandardPaths::findExecutable(QStringLiteral("java")).isEmpty())
         QSKIP("Saxon or Java is missing (scripts/setup.sh installs them); the invoices were not checked.");
-    const QStringList fatal = fatalFindings(dir, {kKit + QStringLiteral("/validation/EN16931-CII-validation.xslt"),
-                                                  kKit + QStringLiteral("/validation/XRechnung-CII-validation.xsl")});
+    QStringList fatal;
+    for (const QString &syntax : {QStringLiteral("CII"), QStringLiteral("UBL")})
+        fatal += fatalFindings(dir + QLatin1Char('/') + syntax.toLower(),
+                               {kKit + QStringLiteral("/validation/EN16931-%1-validation.xslt").arg(syntax),
+                                kKit + QStringLiteral("/validation/XRechnung-%1-validation.xsl").arg(syntax)});
     QVERIFY2(fatal.isEmpty(), qPrintable(fatal.mid(0, 20).join(QLatin1Char('\n'))));
 }
 

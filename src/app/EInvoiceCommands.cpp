@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/Interaction.h"
+#include "einvoice/UblWriter.h"
 
 #include <QSaveFile>
 
@@ -21,7 +22,7 @@ QString EInvoiceCommands::problemsText(const einvoice::Mapping &mapping)
     return lines.join(QLatin1Char('\n'));
 }
 
-bool EInvoiceCommands::exportXRechnungCii(Record &document, const QString &path)
+bool EInvoiceCommands::exportXml(Record &document, const QString &path, Form form)
 {
     const einvoice::Mapping mapping = map(document);
     if (!mapping.ok()) {
@@ -29,7 +30,8 @@ bool EInvoiceCommands::exportXRechnungCii(Record &document, const QString &path)
                          {QStringLiteral("OK")});
         return false;
     }
-    const QByteArray xml = einvoice::writeCii(mapping.invoice, einvoice::Profile::XRechnung);
+    const QByteArray xml = form == Form::XRechnungCii ? einvoice::writeCii(mapping.invoice, einvoice::Profile::XRechnung)
+                                                      : einvoice::writeUbl(mapping.invoice, einvoice::Profile::XRechnung);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(xml) != xml.size() || !file.commit()) {
         m_app.ui().presentError(Error::file(QStringLiteral("The e-invoice could not be written to “%1”: %2")

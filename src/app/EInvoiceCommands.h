@@ -18,10 +18,11 @@ public:
 
     // The document as the standard sees it, calculated afresh first.
     einvoice::Mapping map(Record &document) const;
-    // Writes the XRechnung (CII) of `document` to `path`. Nothing is written
+    enum class Form { XRechnungCii, XRechnungUbl };
+    // Writes the e-invoice of `document` to `path`. Nothing is written
     // while something is missing or cannot be stated: the person is told
     // what and where to fill it, all at once.
-    bool exportXRechnungCii(Record &document, const QString &path);
+    bool exportXml(Record &document, const QString &path, Form form);
 
     static QString problemsText(const einvoice::Mapping &mapping);
 

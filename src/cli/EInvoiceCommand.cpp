@@ -10,8 +10,8 @@
 namespace tabo::cli {
 
 EInvoiceCommand::EInvoiceCommand(Session &session)
-    : Command(session, QStringLiteral("einvoice"), QStringLiteral("export ID --xrechnung-cii FILE | missing ID"),
-              QStringLiteral("Write an invoice as XRechnung (CII), or list what it still needs for one (each in "
+    : Command(session, QStringLiteral("einvoice"), QStringLiteral("export ID --xrechnung-cii FILE | --xrechnung-ubl FILE | missing ID"),
+              QStringLiteral("Write an invoice as XRechnung (CII or UBL), or list what it still needs for one (each in "
                              "words, with where to fill it). Nothing is written while something is missing."))
 {
 }
@@ -22,16 +22,18 @@ int EInvoiceCommand::execute(const QStringList &args)
     QCommandLineParser parser;
     const QCommandLineOption cii(QStringLiteral("xrechnung-cii"), QStringLiteral("XRechnung in CII."),
                                  QStringLiteral("FILE"));
+    const QCommandLineOption ubl(QStringLiteral("xrechnung-ubl"), QStringLiteral("XRechnung in UBL."),
+                                 QStringLiteral("FILE"));
     if (sub == QLatin1String("export"))
-        parser.addOption(cii);
+        parser.addOptions({cii, ubl});
     else if (sub != QLatin1String("missing"))
         return usageError(sub.isEmpty() ? QStringLiteral("Missing export or missing.")
                                         : QStringLiteral("Unknown “%1”: export or missing.").arg(sub));
     int code = kExitOk;
     if (!parse(parser, args.mid(1), 1, 1, &code))
         return code;
-    if (sub == QLatin1String("export") && !parser.isSet(cii))
-        return usageError(QStringLiteral("Say where: --xrechnung-cii FILE."));
+    if (sub == QLatin1String("export") && parser.isSet(cii) == parser.isSet(ubl))
+        return usageError(QStringLiteral("Say which and where: --xrechnung-cii FILE or --xrechnung-ubl FILE."));
     Record *doc = m_session.select(parser.positionalArguments().constFirst());
     if (!doc)
         return kExitFailure;
@@ -40,11 +42,17 @@ int EInvoiceCommand::execute(const QStringList &args)
     if (sub == QLatin1String("missing")) {
         for (const QString &problem : mapping.problems())
             printOut(problem + QLatin1Char('\n'));
-        return mapping.ok() ? kExitOk : kExitFailure;
+        if (mapping.ok())
+            return kExitOk;
+        return failure(QStringLiteral("The e-invoice cannot be written yet (%1 above).").arg(mapping.problems().size()));
     }
     if (!mapping.ok())
         return failure(QStringLiteral("The e-invoice cannot be written yet: ") + mapping.problems().join(QStringLiteral("; ")));
-    return commands.exportXRechnungCii(*doc, parser.value(cii)) ? kExitOk : kExitFailure;
+    const bool asCii = parser.isSet(cii);
+    return commands.exportXml(*doc, parser.value(asCii ? cii : ubl),
+                              asCii ? EInvoiceCommands::Form::XRechnungCii : EInvoiceCommands::Form::XRechnungUbl)
+               ? kExitOk
+               : kExitFailure;
 }
 
 } // namespace tabo::cli

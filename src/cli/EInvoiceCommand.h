@@ -4,7 +4,7 @@
 
 namespace tabo::cli {
 
-// einvoice export ID --xrechnung-cii FILE | einvoice check ID: the
+// einvoice export ID --xrechnung-cii FILE | --xrechnung-ubl FILE, einvoice missing ID: the
 // e-invoice of an invoice, or what it still needs.
 class EInvoiceCommand : public Command
 {

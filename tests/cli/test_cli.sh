@@ -522,6 +522,29 @@ run 0 export "$E" --tabo "$T/e.tabo"
 python3 -c "import plistlib,sys; d=open(sys.argv[1],'rb').read(); sys.exit(1 if b'buyerReference' in d or b'unitCode' in d else 0)" "$T/e.tabo" \
     && pass=$((pass + 1)) || bad "the exchange file carries store-only keys"
 
+# --- e-invoices -----------------------------------------------------------------
+run 1 einvoice export "$E" --xrechnung-cii "$T/einvoice.xml"
+[ ! -e "$T/einvoice.xml" ] && pass=$((pass + 1)) || bad "an incomplete e-invoice was written"
+run 1 einvoice missing "$E"
+[[ $OUT == *"The company's IBAN is missing (Preferences ▸ Company)"* ]] && pass=$((pass + 1)) || bad "missing: $OUT"
+for kv in "prefsName=Muster GmbH" "prefsStreet=Hauptstraße 1" prefsPostcode=10115 prefsCity=Berlin prefsCountryCode=DE \
+          "prefsContactPhone=030 123456" prefsContactEmail=info@muster.example prefsVATID=DE123456789 \
+          "prefsIBAN=DE02 1203 0000 0000 2020 51" prefsCurrencyCode=EUR; do
+    "$CLI" prefs set "${kv%%=*}" "${kv#*=}" >/dev/null
+done
+run 0 einvoice missing "$E"
+run 0 einvoice export "$E" --xrechnung-ubl "$T/einvoice.xml"
+run 0 show "$E" --json
+TOTAL=$(printf '%s' "$OUT" | python3 -c 'import json,sys; print("%.2f" % json.load(sys.stdin)["amount"])')
+python3 - "$T/einvoice.xml" "$TOTAL" <<'PY' && pass=$((pass + 1)) || bad "the UBL total is not the printed total"
+import sys, xml.etree.ElementTree as ET
+ns = {"cbc": "urn:oasis:names:specification:ubl:schema:xsd:CommonBasicComponents-2"}
+root = ET.parse(sys.argv[1]).getroot()
+sys.exit(0 if root.find(".//cbc:PayableAmount", ns).text == sys.argv[2] and root.find("cbc:BuyerReference", ns).text == "991-12345-67" else 1)
+PY
+run 2 einvoice export "$E"
+run 2 einvoice send "$E"
+
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
 printf 'not a database, just text\n' >"$T/other/data/Tabo/Tabo.mbdb"
