@@ -52,6 +52,7 @@ private Q_SLOTS:
     void convertQuote();
     void duplicate();
     void dueDateBeforeDateAsksOnce();
+    void cancelByCreditNote();
 };
 
 void TestDocumentCommands::deleteRefusalsConfirmationsAndCounter()
@@ -156,6 +157,53 @@ void TestDocumentCommands::duplicate()
     Record *quoteCopy = f.docs.duplicateInvoice();
     QCOMPARE(quoteCopy->integer(Invoice::kind), 0);
     QCOMPARE(quoteCopy->text(Invoice::number), QStringLiteral("RE-13"));
+}
+
+void TestDocumentCommands::cancelByCreditNote()
+{
+    Fixture f;
+    f.prefs.setString(P::locCreditNote, QStringLiteral("Stornorechnung"));
+    f.prefs.setString(P::locCreditNoteFor, QStringLiteral("Storno der Rechnung %1 vom %2"));
+    f.prefs.setString(P::prefsDatePattern, QStringLiteral("dd.MM.yyyy"));
+    Record *invoice = f.app.addInvoice();
+    Record *taxed = f.line(invoice, 100);
+    taxed->setBool(Item::isTax1Applied, true);
+    taxed->setNum(Item::tax1Percent, 0.19);
+    invoice->setNum(Invoice::tax1Percent, 0.19);
+    f.line(invoice, 20.5)->setNum(Item::unitCount, 3);
+    invoice->setBool(Invoice::isShippingEnabled, true);
+    invoice->setNum(Invoice::shippingAmount, 4.9);
+    f.app.documentChanged(invoice);
+    const double total = invoice->num(Invoice::amount);
+    QCOMPARE(total, 100 * 1.19 + 61.5 + 4.9);
+
+    // A created invoice is changed or deleted instead.
+    QVERIFY(!f.docs.cancelInvoice());
+    QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Sorry!"));
+    f.app.setDocumentValue(invoice, Invoice::status, 1);
+    f.ui.answers = {1};
+    QVERIFY(!f.docs.cancelInvoice());
+    QCOMPARE(f.ui.alerts.last().defaultButton, 1); // Return keeps the invoice alone
+    QCOMPARE(f.app.documentList().all().size(), 1);
+
+    f.ui.answers = {0};
+    Record *note = f.docs.cancelInvoice();
+    QVERIFY(note && note != invoice);
+    QCOMPARE(f.app.currentInvoice(), note);
+    QCOMPARE(note->integer(Invoice::kind), 1);
+    QCOMPARE(note->text(Invoice::number), QStringLiteral("RE-12"));
+    QCOMPARE(note->text(Invoice::title), QStringLiteral("Stornorechnung"));
+    QCOMPARE(note->text(Invoice::subject), QStringLiteral("Storno der Rechnung RE-11 vom 05.03.2026"));
+    QCOMPARE(note->text(Invoice::precedingDate), QStringLiteral("2026-03-05"));
+    // Taxes included: a credit note of the net alone would leave VAT owed.
+    QCOMPARE(note->num(Invoice::amount), -total);
+    QCOMPARE(note->num(Invoice::tax1Amount), -19.0);
+    QCOMPARE(invoice->num(Invoice::amount), total); // the invoice stays as it was
+    // Sent, it takes its amount back out of the summary.
+    f.app.setDocumentValue(note, Invoice::status, 1);
+    QCOMPARE(f.app.summary().totalAmount, 0.0f);
+    // A credit note is not cancelled in turn.
+    QVERIFY(!f.docs.cancelInvoice());
 }
 
 QTEST_GUILESS_MAIN(TestDocumentCommands)

@@ -2,6 +2,7 @@
 // varied invoices checked against the official EN 16931 and XRechnung rules.
 #include "CommandSupport.h"
 
+#include "app/DocumentCommands.h"
 #include "app/EInvoiceCommands.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
@@ -175,6 +176,7 @@ void TestEInvoice::variedInvoicesFollowTheRules()
     std::map<QString, int> refused;
     constexpr int kBuilt = 240;
     int written = 0;
+    int credited = 0;
     for (int n = 0; n < kBuilt; ++n) {
         f.prefs.setBool(P::beforeTaxesBool, random.bounded(2) == 0);
         const bool reverse = n % 10 == 9;
@@ -213,20 +215,38 @@ void TestEInvoice::variedInvoicesFollowTheRules()
         // The XML states what the page prints.
         QCOMPARE(einvoice::amount(m.invoice.taxInclusive + m.invoice.rounding), einvoice::amount(doc->num(Invoice::amount)));
         QVERIFY(std::abs(m.invoice.rounding) <= 0.02);
-        for (const auto &[syntax, xml] : {std::pair{QStringLiteral("cii"), einvoice::writeCii(m.invoice, einvoice::Profile::XRechnung)},
-                                          {QStringLiteral("ubl"), einvoice::writeUbl(m.invoice, einvoice::Profile::XRechnung)}}) {
-            QDir().mkpath(dir + QLatin1Char('/') + syntax);
-            QFile out(QStringLiteral("%1/%2/%3.xml").arg(dir, syntax).arg(n, 3, 10, QLatin1Char('0')));
-            QVERIFY(out.open(QIODevice::WriteOnly));
-            out.write(xml);
-        }
+        const auto write = [&dir](const einvoice::Model &model, const QString &name) {
+            for (const auto &[syntax, xml] : {std::pair{QStringLiteral("cii"), einvoice::writeCii(model, einvoice::Profile::XRechnung)},
+                                              {QStringLiteral("ubl"), einvoice::writeUbl(model, einvoice::Profile::XRechnung)}}) {
+                QDir().mkpath(dir + QLatin1Char('/') + syntax);
+                QFile out(QStringLiteral("%1/%2/%3.xml").arg(dir, syntax, name));
+                out.open(QIODevice::WriteOnly);
+                out.write(xml);
+            }
+        };
+        write(m.invoice, QStringLiteral("%1").arg(n, 3, 10, QLatin1Char('0')));
         ++written;
+        if (n % 12 == 5) {
+            // Sent, then cancelled: the credit note takes back the same amounts.
+            f.app.setDocumentValue(doc, Invoice::status, 1);
+            Record *note = f.app.documents().cancelInvoice();
+            QVERIFY(note);
+            const einvoice::Mapping c = f.map();
+            QVERIFY2(c.ok(), qPrintable(c.problems().join(QLatin1Char('\n'))));
+            QCOMPARE(c.invoice.typeCode, QStringLiteral("381"));
+            QCOMPARE(c.invoice.precedingNumber, doc->text(Invoice::number));
+            QCOMPARE(einvoice::amount(c.invoice.payable), einvoice::amount(m.invoice.payable));
+            QCOMPARE(einvoice::amount(note->num(Invoice::amount)), einvoice::amount(-doc->num(Invoice::amount)));
+            write(c.invoice, QStringLiteral("%1-credit").arg(n, 3, 10, QLatin1Char('0')));
+            ++credited;
+        }
     }
     for (const auto &[reason, count] : refused)
         qInfo("refused %d of %d: %s…", count, kBuilt, qPrintable(reason));
     // Discounts are refused where the tax they leave differs by more than a
     // unit (about one invoice in ten here); everything else is written.
     QVERIFY2(written >= kBuilt * 8 / 10, qPrintable(QString::number(written)));
+    QVERIFY(credited >= 15);
     if (!QFile::exists(kKit + QStringLiteral("/validation")))
         QSKIP("The rule sets (../shared/einvoice) are not here; the invoices were not checked against them.");
     if (!QFile::exists(kSaxon) || QStandardPaths::findExecutable(QStringLiteral("java")).isEmpty())

@@ -134,6 +134,20 @@ void TestPreferences::installChoosesFileAndOverwrites()
     QCOMPARE(prefs.string(P::locInvoice), QStringLiteral("Rechnung"));
     QCOMPARE(prefs.real(P::tax1Rate), 0.19);
     QCOMPARE(prefs.string(P::prefsName), QStringLiteral("Acme")); // not in the file: kept
+
+    // A later version's new labels arrive in the language installed; what the
+    // person changed stays, and earlier names of the seller's details move over.
+    prefs.remove(P::locCreditNote);
+    prefs.setString(P::locInvoice, "Faktura");
+    QCOMPARE(prefs.completeFromLanguageDefaults(), 1);
+    QCOMPARE(prefs.string(P::locCreditNote), QStringLiteral("Stornorechnung"));
+    QCOMPARE(prefs.string(P::locInvoice), QStringLiteral("Faktura"));
+    QCOMPARE(prefs.completeFromLanguageDefaults(), 0);
+    prefs.setRaw(QStringLiteral("prefsPhone"), QStringLiteral("030 1"));
+    prefs.sync();
+    P reopened(home.configFile());
+    QCOMPARE(reopened.string(P::prefsContactPhone), QStringLiteral("030 1"));
+    QVERIFY(!reopened.raw(QStringLiteral("prefsPhone")).isValid());
 }
 
 void TestPreferences::wrongTypeReadsEmpty()

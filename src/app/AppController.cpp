@@ -325,6 +325,8 @@ void AppController::applicationDidFinishLaunching()
         m_prefs.setBool(P::beforeTaxesBool, true);
         m_prefs.setBool(P::update_2_1, true);
     }
+    // Labels and settings this version added, in the language installed.
+    m_prefs.completeFromLanguageDefaults();
     m_prefs.sync();
 }
 

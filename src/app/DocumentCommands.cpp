@@ -6,6 +6,7 @@
 #include "app/UndoHistory.h"
 #include "base/Clock.h"
 #include "domain/Contacts.h"
+#include "domain/Numbering.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
@@ -72,6 +73,51 @@ Record *DocumentCommands::duplicateInvoice()
 
     m_app.documentCreated(copy);
     return copy;
+}
+
+Record *DocumentCommands::cancelInvoice()
+{
+    Record *original = m_app.currentInvoice();
+    if (!original)
+        return nullptr;
+    Interaction &ui = m_app.ui();
+    if (original->integer(Invoice::kind) != 1 || !isCurrentInvoiceSent()
+        || !original->text(Invoice::precedingNumber).isEmpty()) {
+        ui.alert(QStringLiteral("Sorry!"),
+                 QStringLiteral("Only an invoice marked as sent or paid is cancelled by a credit note. An invoice "
+                                "still marked as created can be changed or deleted instead."),
+                 {kOk});
+        return nullptr;
+    }
+    const QString number = original->text(Invoice::number).trimmed();
+    const int answer = ui.ask(QStringLiteral("Cancel Invoice"),
+                              QStringLiteral("A credit note with the same lines, negated, cancels this invoice; the "
+                                             "invoice itself stays as it is.\n\n")
+                                  + describe(*original),
+                              {QStringLiteral("Create Credit Note"), kCancel}, 1);
+    if (answer != 0)
+        return nullptr;
+    const QDate day = original->date(Invoice::date).toDateTime().toLocalTime().date();
+    Record *note = duplicateInvoice();
+    if (!note)
+        return nullptr;
+    const Preferences &prefs = m_app.prefs();
+    note->setText(Invoice::precedingNumber, number);
+    note->setText(Invoice::precedingDate, day.toString(Qt::ISODate));
+    note->setText(Invoice::title, prefs.string(P::locCreditNote));
+    QString pattern = prefs.string(P::locCreditNoteFor);
+    if (!pattern.contains(QLatin1String("%1")))
+        pattern = QStringLiteral("Cancels invoice %1 of %2");
+    note->setText(Invoice::subject,
+                  pattern.arg(number, Numbering::getPatternDateStringFromDate(prefs, original->date(Invoice::date))));
+    for (Record *line : note->toMany(Invoice::items))
+        line->setSingle(Item::unitCount, -line->single(Item::unitCount));
+    if (note->boolean(Invoice::isShippingEnabled))
+        note->setNum(Invoice::shippingAmount, -note->num(Invoice::shippingAmount));
+    if (note->boolean(Invoice::isDiscountEnabled))
+        note->setNum(Invoice::discountAmount, -note->num(Invoice::discountAmount));
+    m_app.documentChanged(note);
+    return note;
 }
 
 bool DocumentCommands::convertQuoteToInvoice()

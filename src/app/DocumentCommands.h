@@ -23,6 +23,11 @@ public:
     // deleteInvoice: the sent refusal, the delete confirmation, then the
     // "Adjust Counter" question. False when nothing was deleted.
     bool deleteInvoice();
+    // "Cancel Invoice…": for a sent or paid invoice, which cannot be
+    // deleted, a credit note: the lines negated, numbered as invoices are,
+    // titled `locCreditNote` and naming the invoice it cancels. Selected and
+    // saved; nullptr when refused or declined.
+    Record *cancelInvoice();
     // The current document is marked as sent: its status is not 0 (Created).
     bool isCurrentInvoiceSent() const;
 

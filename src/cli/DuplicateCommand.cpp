@@ -16,6 +16,20 @@ DuplicateCommand::DuplicateCommand(Session &session)
 {
 }
 
+namespace {
+
+// Both commands make a new document from the selected one and print its ID.
+int printNew(Session &session, const Record *made)
+{
+    // The command saves on its own; a failed save has been presented.
+    if (!made || session.ui().errorPresented())
+        return kExitFailure;
+    printOut(made->text(Invoice::uniqueID));
+    return kExitOk;
+}
+
+} // namespace
+
 int DuplicateCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
@@ -24,12 +38,25 @@ int DuplicateCommand::execute(const QStringList &args)
         return code;
     if (!m_session.select(parser.positionalArguments().constFirst()))
         return kExitFailure;
-    const Record *copy = m_session.controller().documents().duplicateInvoice();
-    // The command saves on its own; a failed save has been presented.
-    if (!copy || m_session.ui().errorPresented())
+    return printNew(m_session, m_session.controller().documents().duplicateInvoice());
+}
+
+CancelCommand::CancelCommand(Session &session)
+    : Command(session, QStringLiteral("cancel"), QStringLiteral("ID [--yes]"),
+              QStringLiteral("Cancel a sent or paid invoice by a credit note (needs --yes): its lines negated, "
+                             "numbered as invoices are, naming the invoice. Prints the credit note's unique ID."))
+{
+}
+
+int CancelCommand::execute(const QStringList &args)
+{
+    QCommandLineParser parser;
+    int code = kExitOk;
+    if (!parseConfirmed(parser, args, 1, 1, &code))
+        return code;
+    if (!m_session.select(parser.positionalArguments().constFirst()))
         return kExitFailure;
-    printOut(copy->text(Invoice::uniqueID));
-    return kExitOk;
+    return printNew(m_session, m_session.controller().documents().cancelInvoice());
 }
 
 } // namespace tabo::cli

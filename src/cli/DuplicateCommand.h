@@ -12,4 +12,13 @@ public:
     int execute(const QStringList &args) override;
 };
 
+// cancel ID [--yes]: the credit note of a sent or paid invoice; prints its
+// unique ID.
+class CancelCommand : public Command
+{
+public:
+    explicit CancelCommand(Session &session);
+    int execute(const QStringList &args) override;
+};
+
 } // namespace tabo::cli

@@ -107,6 +107,7 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<NewCommand>(session));
     commands.push_back(std::make_unique<SetCommand>(session));
     commands.push_back(std::make_unique<DuplicateCommand>(session));
+    commands.push_back(std::make_unique<CancelCommand>(session));
     commands.push_back(std::make_unique<ConvertCommand>(session));
     commands.push_back(std::make_unique<DeleteCommand>(session));
     commands.push_back(std::make_unique<AddressCommand>(session));

@@ -203,6 +203,11 @@ void Calculator::calculateInvoiceTaxesStandard(Record &invoice, const TaxSetting
     const bool discountEnabled = invoice.boolean(Invoice::isDiscountEnabled);
     const bool percentDiscount = invoice.integer(Invoice::discountKind) != 0;
 
+    // A base below 0 has always given no tax; a credit note's negated lines
+    // are taxed, or it would refund the net amount only.
+    const bool creditNote = !invoice.text(Invoice::precedingNumber).isEmpty();
+    const auto taxed = [creditNote](double base) { return creditNote ? base != 0 : base > 0; };
+
     if (settings.beforeTaxesBool) {
         // The discount reduces the total only; the taxable bases stay whole.
         if (discountEnabled) {
@@ -213,7 +218,7 @@ void Calculator::calculateInvoiceTaxesStandard(Record &invoice, const TaxSetting
         }
         double tax[3];
         for (int k = 0; k < 3; ++k) {
-            tax[k] = lines.base[k] > 0 ? lines.base[k] * rate[k] : 0.0;
+            tax[k] = taxed(lines.base[k]) ? lines.base[k] * rate[k] : 0.0;
             invoice.setNum(kDocTaxAmount[k], tax[k]);
         }
         invoice.setNum(Invoice::amount, r2(total + tax[0] + tax[1] + tax[2]));
@@ -224,7 +229,7 @@ void Calculator::calculateInvoiceTaxesStandard(Record &invoice, const TaxSetting
     // the before-taxes variant, leaves the document's tax amount as it was.
     double tax[3];
     for (int k = 0; k < 3; ++k) {
-        if (lines.base[k] > 0) {
+        if (taxed(lines.base[k])) {
             tax[k] = lines.base[k] * rate[k];
             invoice.setNum(kDocTaxAmount[k], tax[k]);
         } else {

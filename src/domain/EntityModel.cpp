@@ -63,7 +63,8 @@ std::array<EntityDesc, kEntityCount> buildAll()
             all[int(e)].attributes[a].exchanged = false;
     };
     local(EntityId::Invoice, {Invoice::company, Invoice::street, Invoice::postcode, Invoice::city,
-                              Invoice::countryCode, Invoice::buyerReference, Invoice::electronicAddress});
+                              Invoice::countryCode, Invoice::buyerReference, Invoice::electronicAddress,
+                              Invoice::precedingNumber, Invoice::precedingDate});
     local(EntityId::Address, {Address::company, Address::street, Address::postcode, Address::city,
                               Address::countryCode, Address::buyerReference, Address::electronicAddress});
     local(EntityId::Item, {Item::unitCode});

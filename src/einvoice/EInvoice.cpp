@@ -301,7 +301,7 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
     std::map<int, qint64> taxCents;
     for (const auto &[k, tabo] : taxOf)
         if (tabo >= 0 && !taxCents.count(tabo)) {
-            taxCents[tabo] = baseCents[k] > 0 ? cents(doc.num(kDocTaxAmount[tabo])) : 0;
+            taxCents[tabo] = baseCents[k] != 0 ? cents(doc.num(kDocTaxAmount[tabo])) : 0;
             printedTax += taxCents[tabo];
         }
     if (lineCents != cents(doc.num(Invoice::subAmount)))
@@ -396,7 +396,28 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
     const double paid = doc.num(Invoice::paidAmount);
     inv.prepaid = std::isfinite(paid) && paid > 0 ? fromCents(std::min(cents(paid), total)) : 0.0;
     inv.payable = fromCents(total - cents(inv.prepaid));
-    if (cents(inv.payable) > 0 && !inv.dueDate.isValid() && inv.paymentTerms.isEmpty())
+    if (const QString preceding = doc.text(Invoice::precedingNumber).trimmed(); !preceding.isEmpty()) {
+        // A credit note: the standard states it with its own type and the
+        // amounts of what it takes back, not as an invoice of negative ones.
+        inv.typeCode = QStringLiteral("381");
+        inv.precedingNumber = preceding;
+        inv.precedingDate = QDate::fromString(doc.text(Invoice::precedingDate), Qt::ISODate);
+        for (Line &line : inv.lines) {
+            line.quantity = -line.quantity;
+            line.net = -line.net;
+        }
+        for (AllowanceCharge &ac : inv.allowancesCharges)
+            ac.amount = -ac.amount;
+        for (TaxBreakdown &t : inv.taxes) {
+            t.basis = -t.basis;
+            t.amount = -t.amount;
+        }
+        for (double *v : {&inv.lineTotal, &inv.allowanceTotal, &inv.chargeTotal, &inv.taxExclusive, &inv.taxTotal,
+                          &inv.taxInclusive, &inv.rounding, &inv.prepaid, &inv.payable})
+            *v = -*v;
+        inv.dueDate = {};
+    }
+    if (cents(inv.payable) > 0 && !inv.dueDate.isValid() && inv.paymentTerms.isEmpty() && inv.typeCode == QLatin1String("380"))
         missing << QStringLiteral("The invoice needs a due date or payment conditions (Dates and status, Texts)");
     return m;
 }

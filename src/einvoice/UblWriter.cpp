@@ -7,6 +7,7 @@ namespace tabo::einvoice {
 namespace {
 
 const QString kInvoiceNs = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:Invoice-2");
+const QString kCreditNoteNs = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CreditNote-2");
 const QString kCac = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CommonAggregateComponents-2");
 const QString kCbc = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CommonBasicComponents-2");
 
@@ -99,19 +100,22 @@ QByteArray writeUbl(const Model &inv, Profile profile)
     QByteArray out;
     Ubl x(&out, inv.currency);
     QXmlStreamWriter &w = x.w;
+    // UBL states a credit note in a document of its own, whose names differ.
+    const bool credit = inv.typeCode == QLatin1String("381");
+    const QString root = credit ? QStringLiteral("CreditNote") : QStringLiteral("Invoice");
     w.writeStartDocument();
-    w.writeDefaultNamespace(kInvoiceNs);
+    w.writeDefaultNamespace(credit ? kCreditNoteNs : kInvoiceNs);
     w.writeNamespace(kCac, QStringLiteral("cac"));
     w.writeNamespace(kCbc, QStringLiteral("cbc"));
-    w.writeStartElement(kInvoiceNs, QStringLiteral("Invoice"));
+    w.writeStartElement(credit ? kCreditNoteNs : kInvoiceNs, root);
     x.cbc(QStringLiteral("CustomizationID"), profile == Profile::XRechnung ? kXRechnungId : kEN16931Id);
     if (profile == Profile::XRechnung)
         x.cbc(QStringLiteral("ProfileID"), kPeppolProcess);
     x.cbc(QStringLiteral("ID"), inv.number);
     x.cbc(QStringLiteral("IssueDate"), inv.issueDate.toString(Qt::ISODate));
-    if (inv.dueDate.isValid())
+    if (inv.dueDate.isValid() && !credit)
         x.cbc(QStringLiteral("DueDate"), inv.dueDate.toString(Qt::ISODate));
-    x.cbc(QStringLiteral("InvoiceTypeCode"), inv.typeCode);
+    x.cbc(root + QStringLiteral("TypeCode"), inv.typeCode);
     for (const QString &note : inv.notes)
         x.cbc(QStringLiteral("Note"), note);
     x.cbc(QStringLiteral("DocumentCurrencyCode"), inv.currency);
@@ -181,9 +185,10 @@ QByteArray writeUbl(const Model &inv, Profile profile)
     x.money(QStringLiteral("PayableAmount"), inv.payable);
     x.end();
     for (const Line &line : inv.lines) {
-        x.start(QStringLiteral("InvoiceLine"));
+        x.start(root + QStringLiteral("Line"));
         x.cbc(QStringLiteral("ID"), line.id);
-        x.cbcAttr(QStringLiteral("InvoicedQuantity"), decimal(line.quantity), QStringLiteral("unitCode"), line.unitCode);
+        x.cbcAttr(credit ? QStringLiteral("CreditedQuantity") : QStringLiteral("InvoicedQuantity"), decimal(line.quantity),
+                  QStringLiteral("unitCode"), line.unitCode);
         x.money(QStringLiteral("LineExtensionAmount"), line.net);
         x.start(QStringLiteral("Item"));
         x.cbc(QStringLiteral("Description"), line.description);

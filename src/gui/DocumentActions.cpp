@@ -22,6 +22,8 @@ DocumentActions::DocumentActions(AppController &app, DocumentEditor *editor, QWi
           &DocumentActions::duplicateDocument))
     , m_convert(create(QStringLiteral("document-send"), tr("Convert to Invoice"), "actionConvert",
           &DocumentActions::convertDocument))
+    , m_cancel(create(QStringLiteral("edit-undo"), tr("Cancel Invoice…"), "actionCancelInvoice",
+          &DocumentActions::cancelDocument))
     , m_remove(create(QStringLiteral("edit-delete"), tr("Delete"), "actionDelete", &DocumentActions::deleteDocument))
     , m_addItem(create(QStringLiteral("list-add"), tr("Add Item…"), "actionAddItem", &DocumentActions::addLine))
     , m_deleteItem(create(QStringLiteral("list-remove"), tr("Delete Item"), "actionDeleteItem",
@@ -33,6 +35,7 @@ DocumentActions::DocumentActions(AppController &app, DocumentEditor *editor, QWi
     m_addItem->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
     m_duplicate->setToolTip(tr("A copy of the selected document with a new number"));
     m_convert->setToolTip(tr("Turn the selected quote into an invoice"));
+    m_cancel->setToolTip(tr("A credit note that takes back a sent or paid invoice"));
 
     connect(&m_app, &AppController::currentInvoiceChanged, this, &DocumentActions::update);
     connect(&m_app, &AppController::listChanged, this, &DocumentActions::update);
@@ -61,6 +64,8 @@ void DocumentActions::update()
     const Record *doc = m_app.currentInvoice();
     m_duplicate->setEnabled(doc);
     m_convert->setEnabled(doc && doc->integer(Invoice::kind) != 1);
+    m_cancel->setEnabled(doc && doc->integer(Invoice::kind) == 1 && doc->integer(Invoice::status) != 0
+                         && doc->text(Invoice::precedingNumber).isEmpty());
     m_remove->setEnabled(doc);
     m_remove->setText(doc && doc->integer(Invoice::kind) != 1 ? tr("Delete Quote") : tr("Delete Invoice"));
     m_addItem->setEnabled(doc);
@@ -77,6 +82,12 @@ void DocumentActions::convertDocument()
 {
     m_app.documents().convertQuoteToInvoice();
     update();
+}
+
+void DocumentActions::cancelDocument()
+{
+    if (m_app.documents().cancelInvoice())
+        m_editor->beginNewDocument();
 }
 
 void DocumentActions::deleteDocument()

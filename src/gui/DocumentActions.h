@@ -21,6 +21,7 @@ public:
 
     QAction *duplicate() const { return m_duplicate; }
     QAction *convert() const { return m_convert; }
+    QAction *cancelInvoice() const { return m_cancel; }
     QAction *remove() const { return m_remove; }
     QAction *addItem() const { return m_addItem; }
     QAction *deleteItem() const { return m_deleteItem; }
@@ -33,6 +34,7 @@ private:
     QAction *create(const QString &icon, const QString &text, const char *name, void (DocumentActions::*run)());
     void duplicateDocument();
     void convertDocument();
+    void cancelDocument();
     void deleteDocument();
     void addLine();
     void deleteLine();
@@ -42,6 +44,7 @@ private:
     QWidget *m_window;
     QAction *m_duplicate;
     QAction *m_convert;
+    QAction *m_cancel;
     QAction *m_remove;
     QAction *m_addItem;
     QAction *m_deleteItem;

@@ -149,6 +149,7 @@ void MainWindow::createActions()
     documents->addAction(m_newQuote);
     documents->addAction(m_actions->duplicate());
     documents->addAction(m_actions->convert());
+    documents->addAction(m_actions->cancelInvoice());
     documents->addSeparator();
     documents->addAction(m_actions->remove());
     m_documentsMenu = documents;

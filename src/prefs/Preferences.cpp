@@ -428,20 +428,19 @@ QString Preferences::languageDefaultsResource(qint64 languageDefaults)
     return QStringLiteral(":/prefs/%1.plist").arg(QLatin1String(names[languageDefaults]));
 }
 
-bool Preferences::installLanguageDefaults()
+QList<std::pair<QString, QVariant>> Preferences::languageDefaultValues() const
 {
+    QList<std::pair<QString, QVariant>> values;
     const QString path = languageDefaultsResource(integer(languageDefaults));
-    if (path.isEmpty())
-        return false;
     QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        return false;
+    if (path.isEmpty() || !f.open(QIODevice::ReadOnly))
+        return values;
     const QByteArray xml = f.readAll();
     plist_t root = nullptr;
     plist_from_xml(xml.constData(), uint32_t(xml.size()), &root);
     if (!root || plist_get_node_type(root) != PLIST_DICT) {
         plist_free(root);
-        return false;
+        return values;
     }
     plist_dict_iter it = nullptr;
     plist_dict_new_iter(root, &it);
@@ -451,13 +450,38 @@ bool Preferences::installLanguageDefaults()
         plist_dict_next_item(root, it, &k, &node);
         if (!k)
             break;
-        setRaw(QString::fromUtf8(k), fromPlistNode(node));
+        values.append({QString::fromUtf8(k), fromPlistNode(node)});
         free(k);
     }
     free(it);
     plist_free(root);
+    return values;
+}
+
+bool Preferences::installLanguageDefaults()
+{
+    const auto values = languageDefaultValues();
+    if (values.isEmpty())
+        return false;
+    for (const auto &[name, value] : values)
+        setRaw(name, value);
     sync();
     return true;
+}
+
+int Preferences::completeFromLanguageDefaults()
+{
+    if (!contains(languageDefaults))
+        return 0;
+    int added = 0;
+    for (const auto &[name, value] : languageDefaultValues())
+        if (!m_settings->contains(name)) {
+            setRaw(name, value);
+            ++added;
+        }
+    if (added)
+        sync();
+    return added;
 }
 
 void Preferences::setRaw(const QString &name, const QVariant &value)

@@ -84,6 +84,10 @@ public:
     // stored values and flushes. Any other value installs nothing: false.
     bool installLanguageDefaults();
     static QString languageDefaultsResource(qint64 languageDefaults);
+    // Stores the installed language's values of keys a later version added
+    // (a new label, a tax's category) where nothing is stored yet; what the
+    // person set stays. Returns how many were added.
+    int completeFromLanguageDefaults();
 
     // Raw access for values that are not declared keys (language files may
     // carry more than the table).
@@ -97,6 +101,7 @@ public:
     QString filePath() const;
 
 private:
+    QList<std::pair<QString, QVariant>> languageDefaultValues() const;
     std::unique_ptr<QSettings> m_settings;
     QVariantMap m_registered;
 };

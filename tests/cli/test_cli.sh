@@ -544,6 +544,16 @@ sys.exit(0 if root.find(".//cbc:PayableAmount", ns).text == sys.argv[2] and root
 PY
 run 2 einvoice export "$E"
 run 2 einvoice send "$E"
+run 1 cancel "$E" --yes # still created: it can be changed instead
+"$CLI" set "$E" status 1 >/dev/null
+run 1 cancel "$E"
+run 0 cancel "$E" --yes
+CN=$OUT
+run 0 show "$CN" --json
+jcheck 'd["amount"] < 0 and d["precedingNumber"] != "" and d["items"][0]["unitCount"] < 0'
+run 0 einvoice export "$CN" --xrechnung-cii "$T/credit.xml"
+grep -q '<ram:TypeCode>381</ram:TypeCode>' "$T/credit.xml" && grep -q 'InvoiceReferencedDocument' "$T/credit.xml" \
+    && pass=$((pass + 1)) || bad "the credit note's e-invoice is not a credit note"
 
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
