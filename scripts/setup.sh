@@ -11,7 +11,7 @@ packages=(
   qt6-webengine-dev qt6-webengine-dev-tools libqt6webenginecore6-bin qt6-pdf-dev
   fonts-dejavu-core fonts-liberation2
   cups-client xdg-utils poppler-utils dbus
-  libsaxonhe-java default-jre-headless
+  libsaxonhe-java default-jre-headless libqrencode-dev zbar-tools
   xvfb xauth
 )
 # Further packages a caller needs (the benchmark's comparison programs).

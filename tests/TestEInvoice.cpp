@@ -8,6 +8,7 @@
 #include "domain/Record.h"
 #include "domain/UnitCodes.h"
 #include "einvoice/CiiWriter.h"
+#include "render/PaymentQr.h"
 #include "einvoice/UblWriter.h"
 
 #include <QDir>
@@ -101,6 +102,7 @@ private Q_SLOTS:
     void unitsAndAddresses();
     void refusesWhatItCannotStateAndAsksForWhatIsMissing();
     void variedInvoicesFollowTheRules();
+    void paymentCode();
 };
 
 void TestEInvoice::unitsAndAddresses()
@@ -257,6 +259,29 @@ void TestEInvoice::variedInvoicesFollowTheRules()
                                {kKit + QStringLiteral("/validation/EN16931-%1-validation.xslt").arg(syntax),
                                 kKit + QStringLiteral("/validation/XRechnung-%1-validation.xsl").arg(syntax)});
     QVERIFY2(fatal.isEmpty(), qPrintable(fatal.mid(0, 20).join(QLatin1Char('\n'))));
+}
+
+void TestEInvoice::paymentCode()
+{
+    Seller f;
+    f.prefs.setString(P::prefsCurrencyCode, QStringLiteral("EUR"));
+    Record *doc = f.invoice();
+    doc->setText(Invoice::number, QStringLiteral("RE-7"));
+    f.line(QStringLiteral("Beratung"), QStringLiteral("100"), QStringLiteral("1.5"), 1);
+    QCOMPARE(PaymentQr::payload(*doc, f.prefs),
+             QStringLiteral("BCD\n002\n1\nSCT\nBYLADEM1001\nMüller & Söhne <GmbH>\nDE02120300000000202051\nEUR178.50\n\n\nRE-7"));
+    QVERIFY(PaymentQr::svg(*doc, f.prefs).startsWith(QStringLiteral("<svg class=\"paymentqr\"")));
+    // Partly paid: what is left; nothing left, no other currency, no IBAN: no code.
+    doc->setNum(Invoice::paidAmount, 78.5);
+    QVERIFY(PaymentQr::payload(*doc, f.prefs).contains(QStringLiteral("\nEUR100.00\n")));
+    doc->setNum(Invoice::paidAmount, 178.5);
+    QVERIFY(PaymentQr::svg(*doc, f.prefs).isEmpty());
+    doc->setNum(Invoice::paidAmount, 0);
+    f.prefs.setString(P::prefsCurrencyCode, QStringLiteral("CHF"));
+    QVERIFY(PaymentQr::payload(*doc, f.prefs).isEmpty());
+    f.prefs.setString(P::prefsCurrencyCode, QStringLiteral("EUR"));
+    f.prefs.remove(P::prefsIBAN);
+    QVERIFY(PaymentQr::payload(*doc, f.prefs).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestEInvoice)

@@ -5,6 +5,7 @@
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
 #include "render/Formatters.h"
+#include "render/PaymentQr.h"
 #include "render/Placeholders.h"
 
 #include <QBuffer>
@@ -229,6 +230,10 @@ QString PageRenderer::invoiceHTMLString(
     page.replace(u"%LOCAMOUNT%", pref(P::locAmount));
     page.replace(u"%LOCVATID%", pref(P::locVATID));
     page.replace(u"%LOGO%", [this] { return logoValue(); });
+    // Quotes are not paid; reminders and invoices are.
+    page.replace(u"%PAYMENTQR%", [&] {
+        return invoice.integer(Invoice::kind) == 1 && !slip ? PaymentQr::svg(invoice, m_prefs) : QString();
+    });
     return page.text();
 }
 

@@ -544,6 +544,14 @@ sys.exit(0 if root.find(".//cbc:PayableAmount", ns).text == sys.argv[2] and root
 PY
 run 2 einvoice export "$E"
 run 2 einvoice send "$E"
+# The payment code of a euro invoice reads back from the printed page.
+run 0 render "$E" --pdf "$T/qr.pdf" --design "DIN 5008 Form A"
+if command -v zbarimg >/dev/null; then
+    pdftoppm -png -r 150 -f 1 -l 1 -singlefile "$T/qr.pdf" "$T/qr"
+    CODE=$(zbarimg --raw -q "$T/qr.png" 2>/dev/null)
+    [[ $CODE == $'BCD\n002\n1\nSCT\n\nMuster GmbH\nDE02120300000000202051\nEUR'*$'\n\n\n'"$("$CLI" show "$E" --json | python3 -c 'import json,sys; print(json.load(sys.stdin)["number"])')" ]] \
+        && pass=$((pass + 1)) || bad "payment code: $CODE"
+fi
 run 1 cancel "$E" --yes # still created: it can be changed instead
 "$CLI" set "$E" status 1 >/dev/null
 run 1 cancel "$E"
