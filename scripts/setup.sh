@@ -11,13 +11,15 @@ packages=(
   qt6-webengine-dev qt6-webengine-dev-tools libqt6webenginecore6-bin qt6-pdf-dev
   fonts-dejavu-core fonts-liberation2
   cups-client xdg-utils poppler-utils dbus
-  libsaxonhe-java default-jre-headless libqrencode-dev zbar-tools
+  libsaxonhe-java default-jre-headless libqrencode-dev zbar-tools qpdf
   xvfb xauth
 )
 # Further packages a caller needs (the benchmark's comparison programs).
 read -r -a extra <<< "${TABO_EXTRA_PACKAGES:-}"
 packages+=("${extra[@]}")
 
+# OpenJDK (for the e-invoice rule checks) fails to install where man pages are left out.
+mkdir -p /usr/share/man/man1 2>/dev/null || true
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -8,15 +8,23 @@
 #include "domain/Record.h"
 #include "domain/UnitCodes.h"
 #include "einvoice/CiiWriter.h"
+#include "einvoice/FacturX.h"
 #include "render/PaymentQr.h"
 #include "einvoice/UblWriter.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QDirIterator>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QXmlStreamReader>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QTemporaryFile>
 #include <QtTest>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
 
 #include <map>
 
@@ -103,6 +111,7 @@ private Q_SLOTS:
     void refusesWhatItCannotStateAndAsksForWhatIsMissing();
     void variedInvoicesFollowTheRules();
     void paymentCode();
+    void facturXCarriesTheXml();
 };
 
 void TestEInvoice::unitsAndAddresses()
@@ -284,5 +293,55 @@ void TestEInvoice::paymentCode()
     QVERIFY(PaymentQr::payload(*doc, f.prefs).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestEInvoice)
+void TestEInvoice::facturXCarriesTheXml()
+{
+    QByteArray printed;
+    {
+        QBuffer buffer(&printed);
+        buffer.open(QIODevice::WriteOnly);
+        QPdfWriter writer(&buffer);
+        QPainter painter(&writer);
+        painter.drawText(100, 100, QStringLiteral("Rechnung RE-7"));
+    }
+    const QByteArray xml = QByteArrayLiteral("<?xml version=\"1.0\"?><rsm:CrossIndustryInvoice "
+                                             "xmlns:rsm=\"urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100\"/>");
+    QString error;
+    const QByteArray hybrid = einvoice::makeFacturX(
+        printed, xml, {QStringLiteral("Rechnung RE-7"), QStringLiteral("Müller & Söhne"), QDateTime::currentDateTime()},
+        &error);
+    QVERIFY2(!hybrid.isEmpty(), qPrintable(error));
+    QPDF doc;
+    doc.processMemoryFile("hybrid", hybrid.constData(), size_t(hybrid.size()));
+    QVERIFY(doc.getPDFVersion() >= "1.7");
+    QPDFObjectHandle catalog = doc.getRoot();
+    // The attachment comes back byte for byte, as the document's alternative form.
+    auto spec = QPDFEmbeddedFileDocumentHelper(doc).getEmbeddedFile("factur-x.xml");
+    QVERIFY(spec);
+    const std::shared_ptr<Buffer> data = spec->getEmbeddedFileStream().getStreamData();
+    QCOMPARE(QByteArray(reinterpret_cast<const char *>(data->getBuffer()), qsizetype(data->getSize())), xml);
+    QCOMPARE(spec->getObjectHandle().getKey("/AFRelationship").getName(), std::string("/Alternative"));
+    QCOMPARE(catalog.getKey("/AF").getArrayNItems(), 1);
+    QCOMPARE(catalog.getKey("/OutputIntents").getArrayItem(0).getKey("/S").getName(), std::string("/GTS_PDFA1"));
+    const std::shared_ptr<Buffer> meta = catalog.getKey("/Metadata").getStreamData();
+    const QString xmp = QString::fromUtf8(reinterpret_cast<const char *>(meta->getBuffer()), qsizetype(meta->getSize()));
+    for (const char *needed : {"<pdfaid:part>3</pdfaid:part>", "<pdfaid:conformance>B</pdfaid:conformance>",
+                               "<fx:ConformanceLevel>EN 16931</fx:ConformanceLevel>", "Müller &amp; Söhne",
+                               "<fx:DocumentFileName>factur-x.xml</fx:DocumentFileName>"})
+        QVERIFY2(xmp.contains(QString::fromUtf8(needed)), needed);
+    if (!QStandardPaths::findExecutable(QStringLiteral("qpdf")).isEmpty()) {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write(hybrid);
+        file.flush();
+        QProcess check;
+        check.start(QStringLiteral("qpdf"), {QStringLiteral("--check"), file.fileName()});
+        QVERIFY(check.waitForFinished(30000));
+        QCOMPARE(check.exitCode(), 0);
+    }
+    // Not a PDF: said, nothing made.
+    QVERIFY(einvoice::makeFacturX(QByteArrayLiteral("%PDF-1.4 nonsense"), xml, {}, &error).isEmpty());
+    QVERIFY(error.startsWith(QStringLiteral("The printed invoice could not be made a Factur-X PDF")));
+}
+
+QTEST_MAIN(TestEInvoice)
 #include "TestEInvoice.moc"

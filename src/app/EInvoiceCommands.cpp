@@ -2,9 +2,14 @@
 
 #include "app/AppController.h"
 #include "app/Interaction.h"
+#include "app/OutputCommands.h"
+#include "domain/Record.h"
+#include "einvoice/FacturX.h"
 #include "einvoice/UblWriter.h"
 
+#include <QDateTime>
 #include <QSaveFile>
+#include <QTemporaryDir>
 
 namespace tabo {
 
@@ -22,23 +27,58 @@ QString EInvoiceCommands::problemsText(const einvoice::Mapping &mapping)
     return lines.join(QLatin1Char('\n'));
 }
 
-bool EInvoiceCommands::exportXml(Record &document, const QString &path, Form form)
+bool EInvoiceCommands::checked(const einvoice::Mapping &mapping) const
 {
-    const einvoice::Mapping mapping = map(document);
-    if (!mapping.ok()) {
-        m_app.ui().alert(QStringLiteral("The e-invoice cannot be written yet"), problemsText(mapping),
-                         {QStringLiteral("OK")});
-        return false;
-    }
-    const QByteArray xml = form == Form::XRechnungCii ? einvoice::writeCii(mapping.invoice, einvoice::Profile::XRechnung)
-                                                      : einvoice::writeUbl(mapping.invoice, einvoice::Profile::XRechnung);
+    if (mapping.ok())
+        return true;
+    m_app.ui().alert(QStringLiteral("The e-invoice cannot be written yet"), problemsText(mapping), {QStringLiteral("OK")});
+    return false;
+}
+
+bool EInvoiceCommands::write(const QString &path, const QByteArray &data) const
+{
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(xml) != xml.size() || !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.commit()) {
         m_app.ui().presentError(Error::file(QStringLiteral("The e-invoice could not be written to “%1”: %2")
                                                 .arg(path, file.errorString())));
         return false;
     }
     return true;
+}
+
+bool EInvoiceCommands::exportXml(Record &document, const QString &path, Form form)
+{
+    const einvoice::Mapping mapping = map(document);
+    if (!checked(mapping))
+        return false;
+    return write(path, form == Form::XRechnungCii ? einvoice::writeCii(mapping.invoice, einvoice::Profile::XRechnung)
+                                                  : einvoice::writeUbl(mapping.invoice, einvoice::Profile::XRechnung));
+}
+
+bool EInvoiceCommands::exportFacturX(Record &document, const QString &path)
+{
+    const einvoice::Mapping mapping = map(document);
+    if (!checked(mapping))
+        return false;
+    QTemporaryDir scratch;
+    const QString printed = scratch.filePath(QStringLiteral("printed.pdf"));
+    if (!scratch.isValid() || !m_app.outputs().renderDocumentToFile(document, printed))
+        return false; // the renderer has said why
+    QFile page(printed);
+    if (!page.open(QIODevice::ReadOnly))
+        return false;
+    einvoice::PdfInfo info;
+    info.title = QStringLiteral("%1 %2").arg(document.text(Invoice::title), document.text(Invoice::number)).trimmed();
+    info.author = mapping.invoice.seller.name;
+    info.created = QDateTime::currentDateTime();
+    QString error;
+    const QByteArray hybrid = einvoice::makeFacturX(
+        page.readAll(), einvoice::writeCii(mapping.invoice, einvoice::Profile::EN16931), info, &error);
+    if (hybrid.isEmpty()) {
+        m_app.ui().presentError(Error::file(error));
+        return false;
+    }
+    return write(path, hybrid);
 }
 
 } // namespace tabo

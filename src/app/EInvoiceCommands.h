@@ -24,9 +24,15 @@ public:
     // what and where to fill it, all at once.
     bool exportXml(Record &document, const QString &path, Form form);
 
+    // The printed invoice (the design in force) made a Factur-X / ZUGFeRD
+    // PDF with its EN 16931 e-invoice inside, at `path`.
+    bool exportFacturX(Record &document, const QString &path);
+
     static QString problemsText(const einvoice::Mapping &mapping);
 
 private:
+    bool checked(const einvoice::Mapping &mapping) const;
+    bool write(const QString &path, const QByteArray &data) const;
     AppController &m_app;
 };
 

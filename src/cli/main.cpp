@@ -73,6 +73,8 @@ bool rendersPages(int argc, char *argv[])
     // QPdfWriter and rich-text layout need the GUI application's fonts.
     if (name == "account-book")
         return true;
+    if (name == "einvoice")
+        return rest.contains(QStringLiteral("--facturx"));
     if (name != "render" && name != "report")
         return false;
     for (const QString &arg : std::as_const(rest)) {

@@ -544,6 +544,13 @@ sys.exit(0 if root.find(".//cbc:PayableAmount", ns).text == sys.argv[2] and root
 PY
 run 2 einvoice export "$E"
 run 2 einvoice send "$E"
+run 0 einvoice export "$E" --facturx "$T/hybrid.pdf" --design Classic
+if command -v qpdf >/dev/null; then
+    qpdf --check "$T/hybrid.pdf" >/dev/null && qpdf --show-attachment=factur-x.xml "$T/hybrid.pdf" \
+        | grep -q '<ram:ID>urn:cen.eu:en16931:2017</ram:ID>' && pass=$((pass + 1)) || bad "the Factur-X PDF"
+fi
+pdftotext "$T/hybrid.pdf" - | grep -q "$("$CLI" show "$E" --json | python3 -c 'import json,sys; print(json.load(sys.stdin)["number"])')" \
+    && pass=$((pass + 1)) || bad "the Factur-X PDF lost its page"
 # The payment code of a euro invoice reads back from the printed page.
 run 0 render "$E" --pdf "$T/qr.pdf" --design "DIN 5008 Form A"
 if command -v zbarimg >/dev/null; then
