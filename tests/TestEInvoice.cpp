@@ -9,6 +9,7 @@
 #include "domain/UnitCodes.h"
 #include "einvoice/CiiWriter.h"
 #include "einvoice/FacturX.h"
+#include "einvoice/Reader.h"
 #include "render/PaymentQr.h"
 #include "einvoice/UblWriter.h"
 
@@ -112,6 +113,8 @@ private Q_SLOTS:
     void variedInvoicesFollowTheRules();
     void paymentCode();
     void facturXCarriesTheXml();
+    void readsReceivedInvoices();
+    void refusesBadReceivedFiles();
 };
 
 void TestEInvoice::unitsAndAddresses()
@@ -341,6 +344,89 @@ void TestEInvoice::facturXCarriesTheXml()
     // Not a PDF: said, nothing made.
     QVERIFY(einvoice::makeFacturX(QByteArrayLiteral("%PDF-1.4 nonsense"), xml, {}, &error).isEmpty());
     QVERIFY(error.startsWith(QStringLiteral("The printed invoice could not be made a Factur-X PDF")));
+}
+
+void TestEInvoice::readsReceivedInvoices()
+{
+    // The CEN's own examples: each read, its sums adding up, its due amount shown.
+    int examples = 0;
+    for (QDirIterator it(kKit + QStringLiteral("/examples"), {QStringLiteral("*.xml")}, QDir::Files,
+                         QDirIterator::Subdirectories);
+         it.hasNext();) {
+        const QString path = it.next();
+        einvoice::Received r;
+        QString error;
+        QVERIFY2(einvoice::readReceivedFile(path, &r, &error), qPrintable(path + QStringLiteral(": ") + error));
+        QVERIFY2(einvoice::checkTotals(r.invoice).isEmpty(), qPrintable(path));
+        QVERIFY(!r.invoice.lines.isEmpty() && !r.invoice.seller.name.isEmpty());
+        const QString page = einvoice::viewPage(r);
+        QVERIFY2(page.contains(einvoice::amount(r.invoice.payable) + QLatin1Char(' ') + r.invoice.currency), qPrintable(path));
+        QVERIFY(page.contains(r.invoice.number.toHtmlEscaped()));
+        ++examples;
+    }
+    if (examples == 0)
+        QSKIP("The CEN examples (../shared/einvoice/examples) are not here.");
+
+    // What we write reads back the same, in both syntaxes, credit notes too.
+    Seller f;
+    Record *doc = f.invoice(QStringLiteral("Kunde <&> GmbH"));
+    f.line(QStringLiteral("Beratung"), QStringLiteral("95.5"), QStringLiteral("2.25"), 1);
+    f.line(QStringLiteral("Bücher"), QStringLiteral("30"), QStringLiteral("3"), 2);
+    f.app.setDocumentValue(doc, Invoice::status, 1);
+    const einvoice::Model written = f.map().invoice;
+    QVERIFY(f.app.documents().cancelInvoice());
+    const einvoice::Model credit = f.map().invoice;
+    for (const einvoice::Model &model : {written, credit})
+        for (const QByteArray &xml : {einvoice::writeCii(model, einvoice::Profile::XRechnung),
+                                      einvoice::writeUbl(model, einvoice::Profile::XRechnung)}) {
+            einvoice::Received r;
+            QString error;
+            QVERIFY2(einvoice::readReceived(xml, &r, &error), qPrintable(error));
+            QCOMPARE(r.invoice.typeCode, model.typeCode);
+            QCOMPARE(r.invoice.buyer.name, QStringLiteral("Kunde <&> GmbH"));
+            QCOMPARE(r.invoice.lines.size(), 2);
+            QCOMPARE(r.invoice.lines[0].quantity, 2.25);
+            QCOMPARE(einvoice::amount(r.invoice.payable), einvoice::amount(model.payable));
+            QCOMPARE(r.invoice.taxes.size(), 2);
+            QCOMPARE(r.invoice.precedingNumber, model.precedingNumber);
+            QVERIFY(einvoice::checkTotals(r.invoice).isEmpty());
+        }
+}
+
+void TestEInvoice::refusesBadReceivedFiles()
+{
+    const auto refusal = [](const QByteArray &data) {
+        einvoice::Received r;
+        QString error;
+        return einvoice::readReceived(data, &r, &error) ? QString() : error;
+    };
+    QVERIFY(refusal("not xml at all").startsWith(QStringLiteral("The file is not well-formed XML")));
+    // Entities that would grow without end are never expanded: the DTD is refused.
+    QByteArray laughs = "<?xml version=\"1.0\"?><!DOCTYPE lolz [<!ENTITY lol \"lol\">";
+    for (int i = 1; i < 10; ++i)
+        laughs += QStringLiteral("<!ENTITY lol%1 \"%2\">").arg(i).arg(QStringLiteral("&lol%1;").arg(i - 1).repeated(10)).toUtf8();
+    laughs += "]><Invoice>&lol9;</Invoice>";
+    QCOMPARE(refusal(laughs), QStringLiteral("The file declares a DTD; e-invoices never do, so it is not read."));
+    QVERIFY(refusal("<Invoice xmlns=\"urn:example:wrong\"/>").startsWith(QStringLiteral("This is not an e-invoice")));
+    QVERIFY(refusal("<rsm:CrossIndustryInvoice xmlns:rsm=\"urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100\">"
+                    "<rsm:SupplyChainTradeTransaction><ram:ApplicableHeaderTradeSettlement xmlns:ram=\"r\"/>"
+                    "</rsm:SupplyChainTradeTransaction></rsm:CrossIndustryInvoice>")
+                .contains(QStringLiteral("totals are missing")));
+    QByteArray pdf;
+    {
+        QBuffer buffer(&pdf);
+        buffer.open(QIODevice::WriteOnly);
+        QPdfWriter writer(&buffer);
+        QPainter(&writer).drawLine(0, 0, 10, 10);
+    }
+    QCOMPARE(refusal(pdf), QStringLiteral("The PDF carries no e-invoice: it has no XML attachment."));
+    // A huge file is refused by its size, before anything is read.
+    QTemporaryFile huge;
+    QVERIFY(huge.open() && huge.resize(100LL * 1024 * 1024));
+    einvoice::Received r;
+    QString error;
+    QVERIFY(!einvoice::readReceivedFile(huge.fileName(), &r, &error));
+    QVERIFY2(error.contains(QStringLiteral("100 MB large")), qPrintable(error));
 }
 
 QTEST_MAIN(TestEInvoice)

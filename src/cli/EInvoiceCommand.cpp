@@ -6,21 +6,72 @@
 #include "cli/OutputRun.h"
 #include "cli/Console.h"
 #include "cli/Session.h"
+#include "einvoice/Reader.h"
 
 #include <QCommandLineParser>
+#include <QSaveFile>
 
 namespace tabo::cli {
 
 EInvoiceCommand::EInvoiceCommand(Session &session)
-    : Command(session, QStringLiteral("einvoice"), QStringLiteral("export ID --xrechnung-cii FILE | --xrechnung-ubl FILE | --facturx FILE.pdf [--design TITLE] | missing ID"),
-              QStringLiteral("Write an invoice as XRechnung (CII or UBL), or list what it still needs for one (each in "
-                             "words, with where to fill it). Nothing is written while something is missing."))
+    : Command(session, QStringLiteral("einvoice"), QStringLiteral("export ID --xrechnung-cii FILE | --xrechnung-ubl FILE | --facturx FILE.pdf [--design TITLE] | "
+                             "missing ID | view FILE --pdf OUT | --html OUT | check FILE"),
+              QStringLiteral("Write an invoice as XRechnung (CII or UBL) or as a Factur-X / ZUGFeRD PDF, or list what "
+                             "it still needs for one (each in words, with where to fill it); nothing is written while "
+                             "something is missing. view and check read a received e-invoice (XML, or a PDF carrying "
+                             "one): a readable page of it, or whether it is well-formed and its totals add up. A "
+                             "received invoice is never stored."))
 {
+}
+
+int EInvoiceCommand::received(const QString &sub, const QStringList &args)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption pdf(QStringLiteral("pdf"), QStringLiteral("Write the page as PDF."), QStringLiteral("OUT"));
+    const QCommandLineOption html(QStringLiteral("html"), QStringLiteral("Write the page as HTML."), QStringLiteral("OUT"));
+    if (sub == QLatin1String("view"))
+        parser.addOptions({pdf, html});
+    int code = kExitOk;
+    if (!parse(parser, args, 1, 1, &code))
+        return code;
+    if (sub == QLatin1String("view") && parser.isSet(pdf) == parser.isSet(html))
+        return usageError(QStringLiteral("Say where: --pdf OUT or --html OUT."));
+    // What is received is only read: the store is never opened.
+    einvoice::Received received;
+    QString error;
+    if (!einvoice::readReceivedFile(parser.positionalArguments().constFirst(), &received, &error))
+        return failure(error);
+    if (sub == QLatin1String("check")) {
+        const QStringList problems = einvoice::checkTotals(received.invoice);
+        printOut(QStringLiteral("well-formed %1 %2 (%3)%4\n")
+                     .arg(received.syntaxName(), received.invoice.typeCode == QLatin1String("381")
+                                                     ? QStringLiteral("credit note") : QStringLiteral("invoice"),
+                          received.guideline, received.fromPdf ? QStringLiteral(", from a PDF") : QString()));
+        for (const QString &problem : problems)
+            printOut(problem + QLatin1Char('\n'));
+        if (!problems.isEmpty())
+            return failure(QStringLiteral("Its totals do not add up."));
+        printOut(QStringLiteral("its totals add up: %1 %2 due\n").arg(einvoice::amount(received.invoice.payable), received.invoice.currency));
+        return kExitOk;
+    }
+    const QString page = einvoice::viewPage(received);
+    if (parser.isSet(html)) {
+        QSaveFile file(parser.value(html));
+        const QByteArray bytes = page.toUtf8();
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+            return failure(QStringLiteral("The page could not be written to “%1”: %2").arg(parser.value(html), file.errorString()));
+        return kExitOk;
+    }
+    if (!m_session.controller().outputs().renderHtmlToFile(page, parser.value(pdf)))
+        return failure(QStringLiteral("The page could not be written to “%1”.").arg(parser.value(pdf)));
+    return kExitOk;
 }
 
 int EInvoiceCommand::execute(const QStringList &args)
 {
     const QString sub = args.value(0);
+    if (sub == QLatin1String("view") || sub == QLatin1String("check"))
+        return received(sub, args.mid(1));
     QCommandLineParser parser;
     const QCommandLineOption cii(QStringLiteral("xrechnung-cii"), QStringLiteral("XRechnung in CII."),
                                  QStringLiteral("FILE"));
@@ -33,8 +84,8 @@ int EInvoiceCommand::execute(const QStringList &args)
     if (sub == QLatin1String("export"))
         parser.addOptions({cii, ubl, facturx, design});
     else if (sub != QLatin1String("missing"))
-        return usageError(sub.isEmpty() ? QStringLiteral("Missing export or missing.")
-                                        : QStringLiteral("Unknown “%1”: export or missing.").arg(sub));
+        return usageError(sub.isEmpty() ? QStringLiteral("Missing export, missing, view or check.")
+                                        : QStringLiteral("Unknown “%1”: export, missing, view or check.").arg(sub));
     int code = kExitOk;
     if (!parse(parser, args.mid(1), 1, 1, &code))
         return code;

@@ -11,6 +11,9 @@ class EInvoiceCommand : public Command
 public:
     explicit EInvoiceCommand(Session &session);
     int execute(const QStringList &args) override;
+
+private:
+    int received(const QString &sub, const QStringList &args);
 };
 
 } // namespace tabo::cli

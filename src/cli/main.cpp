@@ -74,7 +74,7 @@ bool rendersPages(int argc, char *argv[])
     if (name == "account-book")
         return true;
     if (name == "einvoice")
-        return rest.contains(QStringLiteral("--facturx"));
+        return rest.contains(QStringLiteral("--facturx")) || (rest.value(0) == QLatin1String("view") && rest.contains(QStringLiteral("--pdf")));
     if (name != "render" && name != "report")
         return false;
     for (const QString &arg : std::as_const(rest)) {

@@ -559,6 +559,19 @@ if command -v zbarimg >/dev/null; then
     [[ $CODE == $'BCD\n002\n1\nSCT\n\nMuster GmbH\nDE02120300000000202051\nEUR'*$'\n\n\n'"$("$CLI" show "$E" --json | python3 -c 'import json,sys; print(json.load(sys.stdin)["number"])')" ]] \
         && pass=$((pass + 1)) || bad "payment code: $CODE"
 fi
+# A received e-invoice is read and shown, never stored.
+COUNT=$("$CLI" list --json | python3 -c 'import json,sys; print(len(json.load(sys.stdin)["documents"]))')
+run 0 einvoice check "$T/hybrid.pdf"
+[[ $OUT == *"well-formed CII invoice"*"its totals add up"* ]] && pass=$((pass + 1)) || bad "check: $OUT"
+run 0 einvoice view "$T/einvoice.xml" --html "$T/received.html"
+grep -q "Muster GmbH" "$T/received.html" && pass=$((pass + 1)) || bad "the received page lacks its seller"
+run 0 einvoice view "$T/hybrid.pdf" --pdf "$T/received.pdf"
+pdftotext "$T/received.pdf" - | grep -q "Amount due" && pass=$((pass + 1)) || bad "the received PDF"
+printf '<!DOCTYPE x [<!ENTITY a "b">]><x>&a;</x>' >"$T/dtd.xml"
+run 1 einvoice check "$T/dtd.xml"
+run 1 einvoice view "$T/qr.png" --html "$T/no.html"
+run 2 einvoice view "$T/einvoice.xml"
+expect "nothing stored" "$("$CLI" list --json | python3 -c 'import json,sys; print(len(json.load(sys.stdin)["documents"]))')" "$COUNT"
 run 1 cancel "$E" --yes # still created: it can be changed instead
 "$CLI" set "$E" status 1 >/dev/null
 run 1 cancel "$E"

@@ -1,0 +1,609 @@
+#include "einvoice/Reader.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
+
+#include <cmath>
+#include <memory>
+#include <vector>
+
+namespace tabo::einvoice {
+
+namespace {
+
+const QString kCiiNs = QStringLiteral("urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100");
+const QString kUblInvoiceNs = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:Invoice-2");
+const QString kUblCreditNs = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CreditNote-2");
+
+// The element tree, by local names: the two syntaxes' names do not clash
+// within a document, and the root's namespace has been checked.
+struct Node
+{
+    QString name;
+    QString text;
+    QHash<QString, QString> attributes;
+    std::vector<std::unique_ptr<Node>> children;
+
+    const Node *child(QStringView n) const
+    {
+        for (const auto &c : children)
+            if (c->name == n)
+                return c.get();
+        return nullptr;
+    }
+    QList<const Node *> all(QStringView n) const
+    {
+        QList<const Node *> out;
+        for (const auto &c : children)
+            if (c->name == n)
+                out << c.get();
+        return out;
+    }
+    // "A/B/C": the first match of each step; empty when absent.
+    const Node *at(QStringView path) const
+    {
+        const Node *n = this;
+        for (QStringView step : path.split(u'/')) {
+            n = n->child(step);
+            if (!n)
+                return nullptr;
+        }
+        return n;
+    }
+    QString value(QStringView path) const
+    {
+        const Node *n = at(path);
+        return n ? n->text.trimmed() : QString();
+    }
+    double number(QStringView path, bool *present = nullptr) const
+    {
+        bool ok = false;
+        const double v = value(path).toDouble(&ok);
+        if (present)
+            *present = ok;
+        return ok && std::isfinite(v) ? v : 0.0;
+    }
+};
+
+std::unique_ptr<Node> parse(const QByteArray &xml, QString *rootNamespace, QString *error)
+{
+    QXmlStreamReader reader(xml);
+    std::unique_ptr<Node> root;
+    std::vector<Node *> open;
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::DTD:
+            // Entities are how an XML file makes a reader expand or fetch
+            // more than it holds; no e-invoice needs one.
+            *error = QStringLiteral("The file declares a DTD; e-invoices never do, so it is not read.");
+            return nullptr;
+        case QXmlStreamReader::StartElement: {
+            auto node = std::make_unique<Node>();
+            node->name = reader.name().toString();
+            for (const QXmlStreamAttribute &a : reader.attributes())
+                node->attributes.insert(a.name().toString(), a.value().toString());
+            Node *raw = node.get();
+            if (open.empty()) {
+                *rootNamespace = reader.namespaceUri().toString();
+                root = std::move(node);
+            } else {
+                open.back()->children.push_back(std::move(node));
+            }
+            open.push_back(raw);
+            if (open.size() > 64) {
+                *error = QStringLiteral("The file nests its elements more deeply than any e-invoice does.");
+                return nullptr;
+            }
+            break;
+        }
+        case QXmlStreamReader::EndElement:
+            open.pop_back();
+            break;
+        case QXmlStreamReader::Characters:
+            if (!open.empty())
+                open.back()->text += reader.text();
+            break;
+        default:
+            break;
+        }
+    }
+    if (reader.hasError() || !root) {
+        *error = QStringLiteral("The file is not well-formed XML (line %1: %2).")
+                     .arg(reader.lineNumber())
+                     .arg(reader.errorString());
+        return nullptr;
+    }
+    return root;
+}
+
+QDate day(const QString &text)
+{
+    QDate d = QDate::fromString(text.left(8), QStringLiteral("yyyyMMdd"));
+    if (!d.isValid())
+        d = QDate::fromString(text.left(10), Qt::ISODate);
+    return d;
+}
+
+TaxCategory ciiCategory(const Node *tax)
+{
+    TaxCategory c;
+    if (!tax)
+        return c;
+    c.code = tax->value(u"CategoryCode");
+    c.rate = tax->number(u"RateApplicablePercent");
+    c.exemptionReason = tax->value(u"ExemptionReason");
+    return c;
+}
+
+Party ciiParty(const Node *p)
+{
+    Party party;
+    if (!p)
+        return party;
+    party.name = p->value(u"Name");
+    party.street = p->value(u"PostalTradeAddress/LineOne");
+    party.postcode = p->value(u"PostalTradeAddress/PostcodeCode");
+    party.city = p->value(u"PostalTradeAddress/CityName");
+    party.countryCode = p->value(u"PostalTradeAddress/CountryID");
+    if (const Node *uri = p->at(u"URIUniversalCommunication/URIID")) {
+        party.electronicAddress = uri->text.trimmed();
+        party.electronicScheme = uri->attributes.value(QStringLiteral("schemeID"));
+    }
+    for (const Node *reg : p->all(u"SpecifiedTaxRegistration")) {
+        const Node *id = reg->child(u"ID");
+        if (!id)
+            continue;
+        (id->attributes.value(QStringLiteral("schemeID")) == QLatin1String("VA") ? party.vatId : party.taxNumber) =
+            id->text.trimmed();
+    }
+    party.contactName = p->value(u"DefinedTradeContact/PersonName");
+    party.contactPhone = p->value(u"DefinedTradeContact/TelephoneUniversalCommunication/CompleteNumber");
+    party.contactEmail = p->value(u"DefinedTradeContact/EmailURIUniversalCommunication/URIID");
+    return party;
+}
+
+bool readCii(const Node &root, Received *out, QString *error)
+{
+    Model &m = out->invoice;
+    out->guideline = root.value(u"ExchangedDocumentContext/GuidelineSpecifiedDocumentContextParameter/ID");
+    m.number = root.value(u"ExchangedDocument/ID");
+    m.typeCode = root.value(u"ExchangedDocument/TypeCode");
+    m.issueDate = day(root.value(u"ExchangedDocument/IssueDateTime/DateTimeString"));
+    if (const Node *doc = root.child(u"ExchangedDocument"))
+        for (const Node *note : doc->all(u"IncludedNote"))
+            m.notes << note->value(u"Content");
+    const Node *tx = root.child(u"SupplyChainTradeTransaction");
+    if (!tx) {
+        *error = QStringLiteral("The CII file has no trade transaction: it holds no invoice.");
+        return false;
+    }
+    for (const Node *item : tx->all(u"IncludedSupplyChainTradeLineItem")) {
+        Line line;
+        line.id = item->value(u"AssociatedDocumentLineDocument/LineID");
+        line.name = item->value(u"SpecifiedTradeProduct/Name");
+        line.description = item->value(u"SpecifiedTradeProduct/Description");
+        line.sellerId = item->value(u"SpecifiedTradeProduct/SellerAssignedID");
+        line.price = item->number(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/ChargeAmount");
+        if (const Node *q = item->at(u"SpecifiedLineTradeDelivery/BilledQuantity")) {
+            line.quantity = q->text.trimmed().toDouble();
+            line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
+        }
+        line.net = item->number(u"SpecifiedLineTradeSettlement/SpecifiedTradeSettlementLineMonetarySummation/LineTotalAmount");
+        line.tax = ciiCategory(item->at(u"SpecifiedLineTradeSettlement/ApplicableTradeTax"));
+        m.lines << line;
+    }
+    const Node *agreement = tx->child(u"ApplicableHeaderTradeAgreement");
+    if (agreement) {
+        m.buyerReference = agreement->value(u"BuyerReference");
+        m.seller = ciiParty(agreement->child(u"SellerTradeParty"));
+        m.buyer = ciiParty(agreement->child(u"BuyerTradeParty"));
+    }
+    m.deliveryDate = day(tx->value(u"ApplicableHeaderTradeDelivery/ActualDeliverySupplyChainEvent/OccurrenceDateTime/DateTimeString"));
+    const Node *settlement = tx->child(u"ApplicableHeaderTradeSettlement");
+    if (!settlement) {
+        *error = QStringLiteral("The CII file has no settlement: its totals are missing.");
+        return false;
+    }
+    m.currency = settlement->value(u"InvoiceCurrencyCode");
+    if (const Node *means = settlement->child(u"SpecifiedTradeSettlementPaymentMeans")) {
+        m.iban = means->value(u"PayeePartyCreditorFinancialAccount/IBANID");
+        m.bic = means->value(u"PayeeSpecifiedCreditorFinancialInstitution/BICID");
+    }
+    for (const Node *t : settlement->all(u"ApplicableTradeTax"))
+        m.taxes << TaxBreakdown{ciiCategory(t), t->number(u"BasisAmount"), t->number(u"CalculatedAmount")};
+    for (const Node *ac : settlement->all(u"SpecifiedTradeAllowanceCharge")) {
+        AllowanceCharge a;
+        a.charge = ac->value(u"ChargeIndicator/Indicator") == QLatin1String("true");
+        a.amount = ac->number(u"ActualAmount");
+        a.reason = ac->value(u"Reason");
+        a.tax = ciiCategory(ac->child(u"CategoryTradeTax"));
+        m.allowancesCharges << a;
+    }
+    if (const Node *terms = settlement->child(u"SpecifiedTradePaymentTerms")) {
+        m.paymentTerms = terms->value(u"Description");
+        m.dueDate = day(terms->value(u"DueDateDateTime/DateTimeString"));
+    }
+    const Node *sum = settlement->child(u"SpecifiedTradeSettlementHeaderMonetarySummation");
+    bool grand = false, due = false;
+    if (sum) {
+        m.lineTotal = sum->number(u"LineTotalAmount");
+        m.chargeTotal = sum->number(u"ChargeTotalAmount");
+        m.allowanceTotal = sum->number(u"AllowanceTotalAmount");
+        m.taxExclusive = sum->number(u"TaxBasisTotalAmount");
+        // The tax total may be stated twice, once in a tax currency.
+        for (const Node *t : sum->all(u"TaxTotalAmount"))
+            if (t->attributes.value(QStringLiteral("currencyID"), m.currency) == m.currency)
+                m.taxTotal = t->text.trimmed().toDouble();
+        m.rounding = sum->number(u"RoundingAmount");
+        m.taxInclusive = sum->number(u"GrandTotalAmount", &grand);
+        m.prepaid = sum->number(u"TotalPrepaidAmount");
+        m.payable = sum->number(u"DuePayableAmount", &due);
+    }
+    if (!grand || !due) {
+        *error = QStringLiteral("The invoice states no grand total or amount due: its totals are missing.");
+        return false;
+    }
+    m.precedingNumber = settlement->value(u"InvoiceReferencedDocument/IssuerAssignedID");
+    m.precedingDate = day(settlement->value(u"InvoiceReferencedDocument/FormattedIssueDateTime/DateTimeString"));
+    return true;
+}
+
+TaxCategory ublCategory(const Node *c)
+{
+    TaxCategory t;
+    if (!c)
+        return t;
+    t.code = c->value(u"ID");
+    t.rate = c->number(u"Percent");
+    t.exemptionReason = c->value(u"TaxExemptionReason");
+    return t;
+}
+
+Party ublParty(const Node *outer)
+{
+    Party party;
+    const Node *p = outer ? outer->child(u"Party") : nullptr;
+    if (!p)
+        return party;
+    party.name = p->value(u"PartyLegalEntity/RegistrationName");
+    if (party.name.isEmpty())
+        party.name = p->value(u"PartyName/Name");
+    party.street = p->value(u"PostalAddress/StreetName");
+    party.postcode = p->value(u"PostalAddress/PostalZone");
+    party.city = p->value(u"PostalAddress/CityName");
+    party.countryCode = p->value(u"PostalAddress/Country/IdentificationCode");
+    if (const Node *endpoint = p->child(u"EndpointID")) {
+        party.electronicAddress = endpoint->text.trimmed();
+        party.electronicScheme = endpoint->attributes.value(QStringLiteral("schemeID"));
+    }
+    for (const Node *scheme : p->all(u"PartyTaxScheme"))
+        (scheme->value(u"TaxScheme/ID") == QLatin1String("VAT") ? party.vatId : party.taxNumber) =
+            scheme->value(u"CompanyID");
+    party.contactName = p->value(u"Contact/Name");
+    party.contactPhone = p->value(u"Contact/Telephone");
+    party.contactEmail = p->value(u"Contact/ElectronicMail");
+    return party;
+}
+
+bool readUbl(const Node &root, bool credit, Received *out, QString *error)
+{
+    Model &m = out->invoice;
+    out->guideline = root.value(u"CustomizationID");
+    m.number = root.value(u"ID");
+    m.typeCode = root.value(credit ? u"CreditNoteTypeCode" : u"InvoiceTypeCode");
+    m.issueDate = day(root.value(u"IssueDate"));
+    m.dueDate = day(root.value(u"DueDate"));
+    for (const Node *note : root.all(u"Note"))
+        m.notes << note->text.trimmed();
+    m.currency = root.value(u"DocumentCurrencyCode");
+    m.buyerReference = root.value(u"BuyerReference");
+    m.precedingNumber = root.value(u"BillingReference/InvoiceDocumentReference/ID");
+    m.precedingDate = day(root.value(u"BillingReference/InvoiceDocumentReference/IssueDate"));
+    m.seller = ublParty(root.child(u"AccountingSupplierParty"));
+    m.buyer = ublParty(root.child(u"AccountingCustomerParty"));
+    m.deliveryDate = day(root.value(u"Delivery/ActualDeliveryDate"));
+    if (const Node *means = root.child(u"PaymentMeans")) {
+        m.iban = means->value(u"PayeeFinancialAccount/ID");
+        m.bic = means->value(u"PayeeFinancialAccount/FinancialInstitutionBranch/ID");
+        if (!m.dueDate.isValid())
+            m.dueDate = day(means->value(u"PaymentDueDate"));
+    }
+    m.paymentTerms = root.value(u"PaymentTerms/Note");
+    for (const Node *ac : root.all(u"AllowanceCharge")) {
+        AllowanceCharge a;
+        a.charge = ac->value(u"ChargeIndicator") == QLatin1String("true");
+        a.amount = ac->number(u"Amount");
+        a.reason = ac->value(u"AllowanceChargeReason");
+        a.tax = ublCategory(ac->child(u"TaxCategory"));
+        m.allowancesCharges << a;
+    }
+    for (const Node *total : root.all(u"TaxTotal")) {
+        if (total->all(u"TaxSubtotal").isEmpty())
+            continue; // the total in a tax currency
+        m.taxTotal = total->number(u"TaxAmount");
+        for (const Node *t : total->all(u"TaxSubtotal"))
+            m.taxes << TaxBreakdown{ublCategory(t->child(u"TaxCategory")), t->number(u"TaxableAmount"),
+                                    t->number(u"TaxAmount")};
+    }
+    const Node *sum = root.child(u"LegalMonetaryTotal");
+    bool grand = false, due = false;
+    if (sum) {
+        m.lineTotal = sum->number(u"LineExtensionAmount");
+        m.taxExclusive = sum->number(u"TaxExclusiveAmount");
+        m.taxInclusive = sum->number(u"TaxInclusiveAmount", &grand);
+        m.allowanceTotal = sum->number(u"AllowanceTotalAmount");
+        m.chargeTotal = sum->number(u"ChargeTotalAmount");
+        m.prepaid = sum->number(u"PrepaidAmount");
+        m.rounding = sum->number(u"PayableRoundingAmount");
+        m.payable = sum->number(u"PayableAmount", &due);
+    }
+    if (!grand || !due) {
+        *error = QStringLiteral("The invoice states no total with VAT or amount due: its totals are missing.");
+        return false;
+    }
+    for (const Node *item : root.all(credit ? u"CreditNoteLine" : u"InvoiceLine")) {
+        Line line;
+        line.id = item->value(u"ID");
+        line.name = item->value(u"Item/Name");
+        line.description = item->value(u"Item/Description");
+        line.sellerId = item->value(u"Item/SellersItemIdentification/ID");
+        if (const Node *q = item->child(credit ? u"CreditedQuantity" : u"InvoicedQuantity")) {
+            line.quantity = q->text.trimmed().toDouble();
+            line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
+        }
+        line.net = item->number(u"LineExtensionAmount");
+        line.price = item->number(u"Price/PriceAmount");
+        line.tax = ublCategory(item->at(u"Item/ClassifiedTaxCategory"));
+        m.lines << line;
+    }
+    return true;
+}
+
+// The XML a PDF carries: Factur-X's and ZUGFeRD's names first, then any XML.
+QByteArray attachedXml(const QByteArray &pdf, QString *error)
+{
+    try {
+        QPDF doc;
+        doc.setSuppressWarnings(true);
+        doc.processMemoryFile("received", pdf.constData(), size_t(pdf.size()));
+        QPDFEmbeddedFileDocumentHelper files(doc);
+        std::shared_ptr<QPDFFileSpecObjectHelper> chosen;
+        for (const char *name : {"factur-x.xml", "zugferd-invoice.xml", "ZUGFeRD-invoice.xml", "xrechnung.xml"})
+            if ((chosen = files.getEmbeddedFile(name)))
+                break;
+        if (!chosen)
+            for (const auto &[name, spec] : files.getEmbeddedFiles())
+                if (QString::fromStdString(name).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
+                    chosen = spec;
+                    break;
+                }
+        if (!chosen) {
+            *error = QStringLiteral("The PDF carries no e-invoice: it has no XML attachment.");
+            return {};
+        }
+        const std::shared_ptr<Buffer> data = chosen->getEmbeddedFileStream().getStreamData();
+        return QByteArray(reinterpret_cast<const char *>(data->getBuffer()), qsizetype(data->getSize()));
+    } catch (const std::exception &e) {
+        *error = QStringLiteral("The PDF cannot be read: %1").arg(QString::fromUtf8(e.what()));
+        return {};
+    }
+}
+
+} // namespace
+
+bool readReceived(const QByteArray &data, Received *out, QString *error)
+{
+    *out = Received();
+    QString reason;
+    QByteArray xml = data;
+    if (data.startsWith("%PDF")) {
+        xml = attachedXml(data, &reason);
+        out->fromPdf = true;
+        if (xml.isEmpty()) {
+            *error = reason;
+            return false;
+        }
+    }
+    QString ns;
+    const std::unique_ptr<Node> root = parse(xml, &ns, &reason);
+    if (!root) {
+        *error = reason;
+        return false;
+    }
+    bool ok = false;
+    if (root->name == QLatin1String("CrossIndustryInvoice") && ns == kCiiNs) {
+        out->syntax = Received::Syntax::CII;
+        ok = readCii(*root, out, &reason);
+    } else if ((root->name == QLatin1String("Invoice") && ns == kUblInvoiceNs)
+               || (root->name == QLatin1String("CreditNote") && ns == kUblCreditNs)) {
+        out->syntax = Received::Syntax::UBL;
+        ok = readUbl(*root, root->name == QLatin1String("CreditNote"), out, &reason);
+    } else {
+        reason = QStringLiteral("This is not an e-invoice: its root is “%1” in the namespace “%2”, not a CII or "
+                                "UBL invoice.")
+                     .arg(root->name, ns);
+    }
+    if (!ok)
+        *error = reason;
+    return ok;
+}
+
+bool readReceivedFile(const QString &path, Received *out, QString *error)
+{
+    const QFileInfo info(path);
+    if (!info.isFile()) {
+        *error = QStringLiteral("There is no file “%1”.").arg(path);
+        return false;
+    }
+    if (info.size() > kMaxReceivedBytes) {
+        *error = QStringLiteral("“%1” is %2 MB large; e-invoices are far smaller, so it is not read.")
+                     .arg(info.fileName())
+                     .arg(info.size() / (1024 * 1024));
+        return false;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString());
+        return false;
+    }
+    return readReceived(file.readAll(), out, error);
+}
+
+QStringList checkTotals(const Model &m)
+{
+    QStringList problems;
+    const auto c = [](double v) { return std::llround(v * 100.0); };
+    const auto expect = [&](const QString &what, double stated, qint64 computed) {
+        if (c(stated) != computed)
+            problems << QStringLiteral("%1 is %2, but its parts add up to %3.").arg(what, amount(stated), amount(computed / 100.0));
+    };
+    qint64 lines = 0;
+    for (const Line &l : m.lines)
+        lines += c(l.net);
+    expect(QStringLiteral("The sum of the lines"), m.lineTotal, lines);
+    qint64 allowances = 0, charges = 0;
+    for (const AllowanceCharge &a : m.allowancesCharges)
+        (a.charge ? charges : allowances) += c(a.amount);
+    expect(QStringLiteral("The allowances"), m.allowanceTotal, allowances);
+    expect(QStringLiteral("The charges"), m.chargeTotal, charges);
+    expect(QStringLiteral("The total without VAT"), m.taxExclusive, c(m.lineTotal) - c(m.allowanceTotal) + c(m.chargeTotal));
+    qint64 tax = 0;
+    for (const TaxBreakdown &t : m.taxes)
+        tax += c(t.amount);
+    expect(QStringLiteral("The VAT"), m.taxTotal, tax);
+    expect(QStringLiteral("The total with VAT"), m.taxInclusive, c(m.taxExclusive) + c(m.taxTotal));
+    expect(QStringLiteral("The amount due"), m.payable, c(m.taxInclusive) - c(m.prepaid) + c(m.rounding));
+    return problems;
+}
+
+} // namespace tabo::einvoice
+
+namespace tabo::einvoice {
+
+namespace {
+
+QString esc(const QString &text)
+{
+    return text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>"));
+}
+
+QString partyBlock(const QString &heading, const Party &p)
+{
+    QStringList lines{QStringLiteral("<b>%1</b>").arg(esc(p.name))};
+    for (const QString &line : {p.street, QString(p.postcode + QLatin1Char(' ') + p.city).trimmed(), p.countryCode})
+        if (!line.isEmpty())
+            lines << esc(line);
+    if (!p.vatId.isEmpty())
+        lines << QStringLiteral("VAT ID %1").arg(esc(p.vatId));
+    if (!p.taxNumber.isEmpty())
+        lines << QStringLiteral("Tax number %1").arg(esc(p.taxNumber));
+    if (!p.electronicAddress.isEmpty())
+        lines << QStringLiteral("E-invoices: %1 <span class=\"muted\">(%2)</span>")
+                     .arg(esc(p.electronicAddress), esc(p.electronicScheme));
+    const QStringList contact{p.contactName, p.contactPhone, p.contactEmail};
+    if (!QString(contact.join(QString())).trimmed().isEmpty())
+        lines << QStringLiteral("Contact: %1").arg(esc(QStringList(contact).filter(QRegularExpression(QStringLiteral("\\S"))).join(QStringLiteral(" · "))));
+    return QStringLiteral("<div class=\"party\"><h3>%1</h3>%2</div>").arg(heading, lines.join(QStringLiteral("<br>")));
+}
+
+QString category(const TaxCategory &c)
+{
+    return c.code == QLatin1String("O") ? QStringLiteral("O") : QStringLiteral("%1 %2 %").arg(esc(c.code), decimal(c.rate));
+}
+
+} // namespace
+
+QString viewPage(const Received &r)
+{
+    const Model &m = r.invoice;
+    const QString cur = esc(m.currency);
+    const auto money = [&cur](double v) -> QString { return amount(v) + QLatin1Char(' ') + cur; };
+    const bool credit = m.typeCode == QLatin1String("381");
+    QString html = QStringLiteral(
+        "<!DOCTYPE html><html><head><meta charset=\"utf-8\"><title>%1</title><style>"
+        "body{font-family:'DejaVu Sans','Liberation Sans',sans-serif;font-size:9pt;color:#222;margin:0}"
+        "h1{font-size:16pt;font-weight:normal;margin:0 0 1mm}h3{font-size:8pt;text-transform:uppercase;"
+        "letter-spacing:.05em;color:#666;margin:0 0 1mm}.muted{color:#777}.meta{margin-bottom:6mm}"
+        ".parties{display:flex;gap:10mm;margin-bottom:6mm}.party{flex:1}"
+        "table{border-collapse:collapse;width:100%;margin-bottom:5mm}th{text-align:left;font-weight:normal;"
+        "color:#666;border-bottom:.75pt solid #999;padding:1mm}td{padding:1mm;vertical-align:top;"
+        "border-bottom:.25pt solid #ddd}td.n,th.n{text-align:right;white-space:nowrap}"
+        "table.totals{width:auto;margin-left:auto}table.totals td{border:none}tr.grand td{font-weight:bold;"
+        "border-top:.75pt solid #222}.box{border:.5pt solid #bbb;padding:2mm 3mm;margin-bottom:4mm}"
+        "</style></head><body>")
+                       .arg(esc(m.number));
+    html += QStringLiteral("<div class=\"meta\"><h1>%1 %2</h1><span class=\"muted\">Received e-invoice · %3%4 · %5</span><br>")
+                .arg(credit ? QStringLiteral("Credit note") : QStringLiteral("Invoice"), esc(m.number), r.syntaxName(),
+                     r.fromPdf ? QStringLiteral(" in a PDF") : QString(), esc(r.guideline));
+    QStringList dates{QStringLiteral("Date %1").arg(m.issueDate.toString(Qt::ISODate))};
+    if (m.dueDate.isValid())
+        dates << QStringLiteral("due %1").arg(m.dueDate.toString(Qt::ISODate));
+    if (m.deliveryDate.isValid())
+        dates << QStringLiteral("delivered %1").arg(m.deliveryDate.toString(Qt::ISODate));
+    if (!m.buyerReference.isEmpty())
+        dates << QStringLiteral("buyer reference %1").arg(esc(m.buyerReference));
+    if (!m.precedingNumber.isEmpty())
+        dates << QStringLiteral("for invoice %1 %2").arg(esc(m.precedingNumber), m.precedingDate.toString(Qt::ISODate));
+    html += dates.join(QStringLiteral(" · ")) + QStringLiteral("</div>");
+    html += QStringLiteral("<div class=\"parties\">%1%2</div>")
+                .arg(partyBlock(QStringLiteral("Seller"), m.seller), partyBlock(QStringLiteral("Buyer"), m.buyer));
+
+    html += QStringLiteral("<table><tr><th>#</th><th>Item</th><th class=\"n\">Quantity</th><th class=\"n\">Price</th>"
+                           "<th class=\"n\">VAT</th><th class=\"n\">Net</th></tr>");
+    for (const Line &l : m.lines)
+        html += QStringLiteral("<tr><td>%1</td><td>%2%3%4</td><td class=\"n\">%5 %6</td><td class=\"n\">%7</td>"
+                               "<td class=\"n\">%8</td><td class=\"n\">%9</td></tr>")
+                    .arg(esc(l.id), esc(l.name),
+                         l.description.isEmpty() ? QString() : QStringLiteral("<br><span class=\"muted\">%1</span>").arg(esc(l.description)),
+                         l.sellerId.isEmpty() ? QString() : QStringLiteral(" <span class=\"muted\">(%1)</span>").arg(esc(l.sellerId)),
+                         decimal(l.quantity), esc(l.unitCode), decimal(l.price), category(l.tax), money(l.net));
+    html += QStringLiteral("</table>");
+
+    html += QStringLiteral("<table class=\"totals\">");
+    const auto row = [&html](const QString &label, const QString &value, const char *cls = "") {
+        html += QStringLiteral("<tr class=\"%3\"><td>%1</td><td class=\"n\">%2</td></tr>").arg(label, value, QLatin1String(cls));
+    };
+    row(QStringLiteral("Sum of lines"), money(m.lineTotal));
+    for (const AllowanceCharge &a : m.allowancesCharges)
+        row(QStringLiteral("%1 %2 <span class=\"muted\">(%3)</span>")
+                .arg(a.charge ? QStringLiteral("Charge") : QStringLiteral("Allowance"), esc(a.reason), category(a.tax)),
+            (a.charge ? QString() : QStringLiteral("−")) + money(a.amount));
+    row(QStringLiteral("Total without VAT"), money(m.taxExclusive));
+    for (const TaxBreakdown &t : m.taxes)
+        row(QStringLiteral("VAT %1 on %2%3").arg(category(t.category), money(t.basis),
+                                                  t.category.exemptionReason.isEmpty() ? QString()
+                                                      : QStringLiteral("<br><span class=\"muted\">%1</span>").arg(esc(t.category.exemptionReason))),
+            money(t.amount));
+    row(QStringLiteral("Total with VAT"), money(m.taxInclusive));
+    if (m.prepaid != 0)
+        row(QStringLiteral("Paid in advance"), money(m.prepaid));
+    if (m.rounding != 0)
+        row(QStringLiteral("Rounding"), money(m.rounding));
+    row(QStringLiteral("Amount due"), money(m.payable), "grand");
+    html += QStringLiteral("</table>");
+
+    QStringList payment;
+    if (!m.iban.isEmpty())
+        payment << QStringLiteral("IBAN %1").arg(esc(m.iban));
+    if (!m.bic.isEmpty())
+        payment << QStringLiteral("BIC %1").arg(esc(m.bic));
+    if (!m.paymentTerms.isEmpty())
+        payment << esc(m.paymentTerms);
+    if (!payment.isEmpty())
+        html += QStringLiteral("<div class=\"box\"><h3>Payment</h3>%1</div>").arg(payment.join(QStringLiteral("<br>")));
+    if (!m.notes.isEmpty())
+        html += QStringLiteral("<div class=\"box\"><h3>Notes</h3>%1</div>").arg(esc(m.notes.join(QLatin1Char('\n'))));
+    const QStringList problems = checkTotals(m);
+    if (!problems.isEmpty())
+        html += QStringLiteral("<div class=\"box\"><h3>Its sums do not add up</h3>%1</div>").arg(esc(problems.join(QLatin1Char('\n'))));
+    html += QStringLiteral("</body></html>");
+    return html;
+}
+
+} // namespace tabo::einvoice
