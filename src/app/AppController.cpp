@@ -4,6 +4,7 @@
 #include "app/BackupCommands.h"
 #include "app/DesignLibrary.h"
 #include "app/DocumentCommands.h"
+#include "app/EInvoiceCommands.h"
 #include "app/FileCommands.h"
 #include "app/Interaction.h"
 #include "app/ItemCommands.h"
@@ -55,6 +56,7 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_outputs(std::make_unique<OutputCommands>(*this))
     , m_reports(std::make_unique<ReportCommands>(*this))
     , m_notifications(std::make_unique<NotificationCommands>(*this))
+    , m_einvoices(std::make_unique<EInvoiceCommands>(*this))
 {
     setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });
     SyntaxDefinition::registerColorDefaults(m_prefs);

@@ -19,6 +19,7 @@ class BackupCommands;
 class DesignLibrary;
 class OutputCommands;
 class DocumentCommands;
+class EInvoiceCommands;
 class FileCommands;
 class Interaction;
 class ItemCommands;
@@ -174,6 +175,7 @@ public:
     UndoHistory &undo() { return *m_undo; }
     ReportCommands &reports() { return *m_reports; }
     NotificationCommands &notifications() { return *m_notifications; }
+    EInvoiceCommands &einvoices() { return *m_einvoices; }
     TemplateCommands &templates() { return *m_templates; }
     FileCommands &files() { return *m_files; }
     BackupCommands &backups() { return *m_backups; }
@@ -259,6 +261,7 @@ private:
     std::unique_ptr<OutputCommands> m_outputs;
     std::unique_ptr<ReportCommands> m_reports;
     std::unique_ptr<NotificationCommands> m_notifications;
+    std::unique_ptr<EInvoiceCommands> m_einvoices;
     bool m_tabo2TemplatePending = false;
     QString m_backupPath;
     QString m_pdfPath;

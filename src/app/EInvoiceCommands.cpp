@@ -5,9 +5,12 @@
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
 #include "einvoice/FacturX.h"
+#include "einvoice/Reader.h"
+#include "prefs/Locations.h"
 #include "einvoice/UblWriter.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QSaveFile>
 #include <QTemporaryDir>
 
@@ -55,18 +58,60 @@ bool EInvoiceCommands::exportXml(Record &document, const QString &path, Form for
                                                   : einvoice::writeUbl(mapping.invoice, einvoice::Profile::XRechnung));
 }
 
+QString EInvoiceCommands::openReceived()
+{
+    Interaction::FileRequest request;
+    request.title = QStringLiteral("Open E-Invoice");
+    request.extensions = {QStringLiteral("xml"), QStringLiteral("pdf")};
+    const QString path = m_app.ui().openFile(request);
+    return path.isEmpty() ? QString() : viewReceived(path);
+}
+
+QString EInvoiceCommands::viewReceived(const QString &path)
+{
+    einvoice::Received received;
+    QString error;
+    if (!einvoice::readReceivedFile(path, &received, &error)) {
+        m_app.ui().alert(QStringLiteral("The e-invoice cannot be shown"), error, {QStringLiteral("OK")});
+        return {};
+    }
+    QDir().mkpath(Locations::dataFolder());
+    const QString pdf = QDir(Locations::dataFolder()).filePath(QStringLiteral("Received.pdf"));
+    if (!m_app.outputs().renderHtmlToFile(einvoice::viewPage(received), pdf)) {
+        m_app.ui().alert(QStringLiteral("The e-invoice cannot be shown"),
+                         QStringLiteral("Its page could not be made."), {QStringLiteral("OK")});
+        return {};
+    }
+    return pdf;
+}
+
+QStringList EInvoiceCommands::outputFormLabels()
+{
+    return {QStringLiteral("PDF"), QStringLiteral("PDF with e-invoice (Factur-X / ZUGFeRD)"),
+            QStringLiteral("E-invoice (XRechnung)")};
+}
+
 bool EInvoiceCommands::exportFacturX(Record &document, const QString &path)
 {
-    const einvoice::Mapping mapping = map(document);
-    if (!checked(mapping))
+    if (!checked(map(document)))
         return false;
     QTemporaryDir scratch;
     const QString printed = scratch.filePath(QStringLiteral("printed.pdf"));
     if (!scratch.isValid() || !m_app.outputs().renderDocumentToFile(document, printed))
         return false; // the renderer has said why
-    QFile page(printed);
-    if (!page.open(QIODevice::ReadOnly))
+    return facturXFromPrinted(document, printed, path);
+}
+
+bool EInvoiceCommands::facturXFromPrinted(Record &document, const QString &printedPdf, const QString &path)
+{
+    const einvoice::Mapping mapping = map(document);
+    if (!checked(mapping))
         return false;
+    QFile page(printedPdf);
+    if (!page.open(QIODevice::ReadOnly)) {
+        m_app.ui().presentError(Error::file(QStringLiteral("The printed invoice “%1” cannot be read.").arg(printedPdf)));
+        return false;
+    }
     einvoice::PdfInfo info;
     info.title = QStringLiteral("%1 %2").arg(document.text(Invoice::title), document.text(Invoice::number)).trimmed();
     info.author = mapping.invoice.seller.name;

@@ -27,6 +27,20 @@ public:
     // The printed invoice (the design in force) made a Factur-X / ZUGFeRD
     // PDF with its EN 16931 e-invoice inside, at `path`.
     bool exportFacturX(Record &document, const QString &path);
+    // The same from a PDF of the document printed already (the export
+    // sheet's): nothing is printed twice.
+    bool facturXFromPrinted(Record &document, const QString &printedPdf, const QString &path);
+
+    // File ▸ Open E-invoice…: the open panel, then the received invoice as
+    // a readable page, rendered to "Received.pdf" in the data folder. Its
+    // path, or empty when cancelled or unreadable (said to the person).
+    // Nothing of it enters the store.
+    QString openReceived();
+    QString viewReceived(const QString &path);
+
+    // The forms of `einvoiceForm`, as the export sheet offers them.
+    enum OutputForm { PlainPdf = 0, FacturXPdf = 1, XRechnungXml = 2 };
+    static QStringList outputFormLabels();
 
     static QString problemsText(const einvoice::Mapping &mapping);
 

@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "app/DesignLibrary.h"
 #include "app/FileCommands.h"
+#include "app/EInvoiceCommands.h"
 #include "app/Interaction.h"
 #include "app/UndoHistory.h"
 #include "app/ItemCommands.h"
@@ -239,11 +240,33 @@ bool OutputCommands::printPdf(const QString &path, const QString &title)
     return false;
 }
 
-bool OutputCommands::savePdf(const Record &invoice)
+bool OutputCommands::savePdf(Record &invoice)
 {
     // A slash cannot stand in a file name; numbers such as "2026/17" are common.
-    return savePdfAs(m_app.pdfPath(), QStringLiteral("Export As PDF File"),
-                     jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-')));
+    const QString name = jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-'));
+    const qint64 form = invoice.integer(Invoice::kind) == 1 ? m_app.prefs().integer(P::einvoiceForm) : 0;
+    if (form == EInvoiceCommands::PlainPdf)
+        return savePdfAs(m_app.pdfPath(), QStringLiteral("Export As PDF File"), name);
+    Record &document = invoice;
+    // Asked before the panel: a missing detail is found before a file name is chosen.
+    const einvoice::Mapping mapping = m_app.einvoices().map(document);
+    if (!mapping.ok()) {
+        m_app.ui().alert(QStringLiteral("The e-invoice cannot be written yet"), EInvoiceCommands::problemsText(mapping), {kOK});
+        return false;
+    }
+    const bool xml = form == EInvoiceCommands::XRechnungXml;
+    Interaction::FileRequest request;
+    request.title = xml ? QStringLiteral("Export As E-Invoice (XRechnung)") : QStringLiteral("Export As PDF With E-Invoice");
+    request.extensions = {xml ? QStringLiteral("xml") : QStringLiteral("pdf")};
+    request.suggestedName = name;
+    request.canCreateFolders = true;
+    QString target = m_app.ui().saveFile(request);
+    if (target.isEmpty())
+        return false;
+    if (QFileInfo(target).suffix().isEmpty())
+        target += xml ? QStringLiteral(".xml") : QStringLiteral(".pdf");
+    return xml ? m_app.einvoices().exportXml(document, target, EInvoiceCommands::Form::XRechnungCii)
+               : m_app.einvoices().facturXFromPrinted(document, m_app.pdfPath(), target);
 }
 
 bool OutputCommands::savePdfAs(const QString &path, const QString &panelTitle, const QString &suggestedName)
@@ -265,8 +288,18 @@ bool OutputCommands::savePdfAs(const QString &path, const QString &panelTitle, c
     return false;
 }
 
-bool OutputCommands::emailPdf(const Record &invoice)
+bool OutputCommands::emailPdf(Record &invoice)
 {
+    const qint64 form = invoice.integer(Invoice::kind) == 1 ? m_app.prefs().integer(P::einvoiceForm) : 0;
+    Record &document = invoice;
+    if (form == EInvoiceCommands::FacturXPdf)
+        return m_app.einvoices().facturXFromPrinted(document, m_app.pdfPath(), m_app.pdfEmailPath()) && sendEmail();
+    if (form == EInvoiceCommands::XRechnungXml) {
+        // The XML goes alone: a public authority's inbox takes nothing else.
+        const QString xml = QFileInfo(m_app.pdfEmailPath()).absolutePath() + QLatin1Char('/')
+                            + jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-')) + QStringLiteral(".xml");
+        return m_app.einvoices().exportXml(document, xml, EInvoiceCommands::Form::XRechnungCii) && sendEmail(xml);
+    }
     QString error;
     if (!copyPdf(m_app.pdfPath(), m_app.pdfEmailPath(), &error)) {
         m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
@@ -277,7 +310,12 @@ bool OutputCommands::emailPdf(const Record &invoice)
 
 bool OutputCommands::sendEmail()
 {
-    const Record *invoice = m_app.currentInvoice();
+    return sendEmail(m_app.pdfEmailPath());
+}
+
+bool OutputCommands::sendEmail(const QString &attachment)
+{
+    Record *invoice = m_app.currentInvoice();
     if (!invoice)
         return false;
     MailMessage message;
@@ -285,7 +323,7 @@ bool OutputCommands::sendEmail()
     if (!body.isEmpty())
         message.body = QStringLiteral("%1\n\n\n").arg(body) + QString(96, QLatin1Char('-')) + QStringLiteral("\n\n");
     message.subject = jobTitle(*invoice);
-    message.attachment = m_app.pdfEmailPath();
+    message.attachment = attachment;
     message.recipient = invoice->text(Invoice::emailAddress);
     QString error;
     if (MailHandoff::compose(message, &error))

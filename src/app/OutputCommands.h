@@ -81,6 +81,7 @@ public:
 
     // `sendEmail`: a new message with the attachment at `pdfEmailPath`.
     bool sendEmail();
+    bool sendEmail(const QString &attachment);
 
     // Sets the status of an invoice to sent when `markInvoiceAsSent` is on,
     // then re-arranges the list and recalculates.
@@ -138,8 +139,8 @@ private:
     bool canRender();
     void failureAlert(Target target);
     bool printWorkingPdf(const Record &invoice);
-    bool savePdf(const Record &invoice);
-    bool emailPdf(const Record &invoice);
+    bool savePdf(Record &invoice);
+    bool emailPdf(Record &invoice);
 
     AppController &m_app;
     std::unique_ptr<Formatters> m_formatters;

@@ -1,9 +1,13 @@
 #include "gui/ExportSheet.h"
 
 #include "app/AppController.h"
+#include "app/EInvoiceCommands.h"
 #include "app/OutputCommands.h"
+#include "domain/Record.h"
 #include "gui/PdfPane.h"
+#include "prefs/Preferences.h"
 
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -12,6 +16,8 @@
 #include <QVBoxLayout>
 
 namespace tabo {
+
+using P = Preferences;
 
 namespace {
 
@@ -54,7 +60,15 @@ ExportSheet::ExportSheet(AppController &app, QWidget *parent)
     m_ok = buttons->button(QDialogButtonBox::Ok);
     m_ok->setObjectName(QStringLiteral("exportOK"));
     m_cancel = buttons->button(QDialogButtonBox::Cancel);
+    m_form = new QComboBox(this);
+    m_form->setObjectName(QStringLiteral("einvoiceForm"));
+    m_form->addItems(EInvoiceCommands::outputFormLabels());
+    connect(m_form, &QComboBox::activated, this, [this](int index) {
+        m_app.prefs().setInteger(P::einvoiceForm, index);
+        m_app.prefs().sync();
+    });
     auto *bottom = new QHBoxLayout;
+    bottom->addWidget(m_form);
     bottom->addWidget(m_busy);
     bottom->addStretch();
     bottom->addWidget(buttons);
@@ -85,6 +99,11 @@ bool ExportSheet::begin(int kind, QWidget *window)
     m_ok->setText(okText(kind));
     m_busy->show();
     const QString title = OutputCommands::exportSheetTitle(kind);
+    // Only invoices have e-invoices, and only saving and mailing hand them over.
+    const Record *doc = m_app.currentInvoice();
+    m_form->setVisible((kind == OutputCommands::SavePdf || kind == OutputCommands::Email) && doc
+                       && doc->integer(Invoice::kind) == 1);
+    m_form->setCurrentIndex(int(std::clamp<qint64>(m_app.prefs().integer(P::einvoiceForm), 0, m_form->count() - 1)));
     m_title->setText(title);
     setWindowTitle(title);
     m_active = true;

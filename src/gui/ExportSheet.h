@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+class QComboBox;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -28,6 +29,9 @@ public:
     PdfPane *pane() const { return m_pane; }
     QPushButton *okButton() const { return m_ok; }
     QLabel *titleLabel() const { return m_title; }
+    // What Save and E-mail hand over: the PDF, the PDF with its e-invoice,
+    // or the e-invoice alone (`einvoiceForm`).
+    QComboBox *formChoice() const { return m_form; }
 
     // `exportCommand` after the sheet has ended.
     void accept() override;
@@ -47,6 +51,7 @@ private:
     QProgressBar *m_busy;
     QPushButton *m_ok;
     QPushButton *m_cancel;
+    QComboBox *m_form;
     // Between begin and the end of the sheet: only then is a PDF for it.
     bool m_active = false;
 };

@@ -2,14 +2,17 @@
 
 #include "app/AppController.h"
 #include "app/BackupCommands.h"
+#include "app/EInvoiceCommands.h"
 #include "app/FileCommands.h"
 #include "domain/Record.h"
 #include "gui/AccountingExportSheet.h"
 #include "gui/DocumentEditor.h"
+#include "gui/PdfPane.h"
 #include "prefs/Preferences.h"
 
 #include <QAction>
 #include <QMenu>
+#include <QVBoxLayout>
 #include <QWidget>
 
 namespace tabo {
@@ -74,6 +77,25 @@ QAction *FileMenu::create(const QString &text, const char *name)
 void FileMenu::populate(QMenu *menu, QAction *quit)
 {
     menu->addActions({ m_exportDocument, m_exportShown, m_exportAll, m_exportDump, m_importDocument });
+    menu->addSeparator();
+    auto *received = menu->addAction(tr("Open E-Invoice…"));
+    received->setObjectName(QStringLiteral("actionOpenEInvoice"));
+    connect(received, &QAction::triggered, this, [this] {
+        const QString pdf = m_app.einvoices().openReceived();
+        if (pdf.isEmpty())
+            return;
+        auto *window = new QWidget(m_window, Qt::Window);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setWindowTitle(tr("Received E-Invoice"));
+        auto *pane = new PdfPane(window);
+        auto *layout = new QVBoxLayout(window);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(pane);
+        pane->load(pdf);
+        pane->fitToWidth();
+        window->resize(760, 900);
+        window->show();
+    });
     menu->addSeparator();
     menu->addActions({ m_backupDatabase, m_restoreDatabase, m_backupDocuments, m_restoreDocuments,
         m_backupCatalogue, m_restoreCatalogue, m_restoreAutomatic });

@@ -559,6 +559,16 @@ if command -v zbarimg >/dev/null; then
     [[ $CODE == $'BCD\n002\n1\nSCT\n\nMuster GmbH\nDE02120300000000202051\nEUR'*$'\n\n\n'"$("$CLI" show "$E" --json | python3 -c 'import json,sys; print(json.load(sys.stdin)["number"])')" ]] \
         && pass=$((pass + 1)) || bad "payment code: $CODE"
 fi
+if [ -x "$T/bin/xdg-email" ]; then
+    PATH="$T/bin:$PATH" run 0 email "$E" --form xrechnung
+    grep -q '\.xml$' "$T/xdg-email.args" && pass=$((pass + 1)) || bad "the XRechnung was not attached"
+    PATH="$T/bin:$PATH" run 0 email "$E" --form facturx
+    ATTACHED=$(grep '\.pdf$' "$T/xdg-email.args")
+    qpdf --list-attachments "$ATTACHED" 2>/dev/null | grep -q factur-x.xml && pass=$((pass + 1)) || bad "no Factur-X attached"
+    run 2 email "$E" --form fax
+    run 0 prefs get einvoiceForm
+    expect "the form is for one message" "$OUT" ""
+fi
 # A received e-invoice is read and shown, never stored.
 COUNT=$("$CLI" list --json | python3 -c 'import json,sys; print(len(json.load(sys.stdin)["documents"]))')
 run 0 einvoice check "$T/hybrid.pdf"

@@ -1,5 +1,6 @@
 #include "gui/DesignChoiceSheet.h"
 #include "gui/ExportSheet.h"
+#include "app/EInvoiceCommands.h"
 #include "gui/GuiInteraction.h"
 #include "gui/LetterSheet.h"
 #include "gui/MainWindow.h"
@@ -26,6 +27,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QTimer>
+#include <QComboBox>
 #include <QtTest>
 
 #include <memory>
@@ -137,6 +139,7 @@ void TestOutputWindows::exportSheetWaitsForPdf()
     QVERIFY(sheet->isVisible());
     QCOMPARE(sheet->titleLabel()->text(), QStringLiteral("Print Invoice"));
     QVERIFY(!sheet->okButton()->isEnabled());
+    QVERIFY(!sheet->formChoice()->isVisibleTo(sheet)); // printing hands over paper only
     sheet->reject();
     QTRY_COMPARE_WITH_TIMEOUT(exportReady.size(), 1, RenderTimeout);
     QVERIFY(!sheet->isVisible());
@@ -162,6 +165,22 @@ void TestOutputWindows::exportSheetWaitsForPdf()
     QCOMPARE(saved.read(5), QByteArray("%PDF-"));
     QCOMPARE(doc->integer(Invoice::status), 1);
     QVERIFY(f.unexpectedBoxes.isEmpty());
+
+    // With its e-invoice: the seller's details are missing, so the person
+    // hears what, and no file is asked for or written.
+    f.action("actionSavePdf")->trigger();
+    QVERIFY(sheet->formChoice()->isVisibleTo(sheet));
+    sheet->formChoice()->setCurrentIndex(EInvoiceCommands::FacturXPdf);
+    Q_EMIT sheet->formChoice()->activated(EInvoiceCommands::FacturXPdf);
+    QCOMPARE(f.prefs.integer(Preferences::einvoiceForm), 1);
+    QTRY_VERIFY_WITH_TIMEOUT(sheet->okButton()->isEnabled(), RenderTimeout);
+    const QString hybrid = f.home.path() + QStringLiteral("/Invoice 1 e.pdf");
+    GuiInteraction::setNextAnswer(0);
+    GuiInteraction::setNextFileName(hybrid);
+    sheet->okButton()->click();
+    QCOMPARE(GuiInteraction::lastAlertTitle(), QStringLiteral("The e-invoice cannot be written yet"));
+    QVERIFY(GuiInteraction::lastAlertText().contains(QStringLiteral("The company's IBAN is missing")));
+    QVERIFY(!QFile::exists(hybrid));
 }
 
 void TestOutputWindows::letterSheetAndDesignChoice()
