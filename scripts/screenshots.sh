@@ -59,7 +59,7 @@ trap 'rm -rf "$home" "$home2"' EXIT
 export HOME="$home2" XDG_DATA_HOME="$home2/data" XDG_CONFIG_HOME="$home2/config"
 "$cli" prefs install-language 1 >/dev/null
 "$cli" prefs set prefsName "Muster GmbH"
-for kv in "prefsStreet=Hauptstraße 1" prefsPostcode=10115 prefsCity=Berlin "prefsContactPhone=030 123456" \
+for kv in "prefsStreet=Hauptstraße 1" prefsPostcode=10115 prefsCity=Berlin prefsCountryCode=DE "prefsContactPhone=030 123456" \
           prefsContactEmail=info@muster.example prefsVATID=DE123456789 "prefsBankName=Berliner Bank" \
           "prefsIBAN=DE02 1203 0000 0000 2020 51" prefsBIC=BYLADEM1001; do
   "$cli" prefs set "${kv%%=*}" "${kv#*=}"
@@ -68,7 +68,8 @@ done
 "$cli" prefs install-language 1 >/dev/null # composes the footers from the details above
 for client in "Kunde GmbH" "Atelier Lumen" "Kunde AG" "Nordlicht KG"; do
   id=$("$cli" new invoice)
-  "$cli" address "$id" address="$client"$'\nWeg 5\n20095 Hamburg' >/dev/null
+  "$cli" address "$id" address="$client"$'\nWeg 5\n20095 Hamburg' company="$client" street="Weg 5" \
+    postcode=20095 city=Hamburg countryCode=DE electronicAddress=rechnung@kunde.example >/dev/null
   "$cli" set "$id" subject "Wartung ${client%% *}" >/dev/null
   "$cli" add-item "$id" title=Beratung price=95 quantity=6 unit=Std. tax1=1 >/dev/null
   "$cli" add-item "$id" title="Hosting, ein Jahr" price=240 quantity=1 unit=pauschal tax1=1 >/dev/null
@@ -90,4 +91,9 @@ cmake --build "$build" --target FakeNotificationServer >/dev/null
 dbus-run-session -- bash -c '"$1" "$2/shown.jsonl" & sleep 1
   xvfb-run -a -s "-screen 0 1400x900x24" "$3" --screenshot-reminder docs/screenshots/reminder-sheet.png' _ \
   "$(cd "$build" && pwd)/tests/FakeNotificationServer" "$home2" "$(cd "$build" && pwd)/tabo"
-echo "list, catalogue, report, account book, reminder sheet, German invoice: docs/screenshots/"
+# The export sheet offering the e-invoice, and a received e-invoice's page.
+xvfb-run -a -s '-screen 0 1400x1000x24' "$(cd "$build" && pwd)/tabo" --screenshot-export docs/screenshots/export-einvoice.png
+"$cli" einvoice export "$id" --xrechnung-ubl "$home2/received.xml"
+"$cli" einvoice view "$home2/received.xml" --pdf "$home2/received.pdf"
+pdftoppm -png -r 70 -f 1 -l 1 -singlefile "$home2/received.pdf" docs/screenshots/einvoice-received
+echo "list, catalogue, report, account book, reminder sheet, export sheet, received e-invoice, German invoice: docs/screenshots/"

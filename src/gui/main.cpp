@@ -7,6 +7,7 @@
 #include "gui/DesignPane.h"
 #include "gui/FirstStartAssistant.h"
 #include "gui/GuiInteraction.h"
+#include "gui/ExportSheet.h"
 #include "gui/MainWindow.h"
 #include "gui/NotificationSheet.h"
 #include "gui/ReportWindow.h"
@@ -107,6 +108,9 @@ int main(int argc, char **argv)
     QCommandLineOption screenshotReport(QStringLiteral("screenshot-report"), QString(), QStringLiteral("file"));
     screenshotReport.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(screenshotReport);
+    QCommandLineOption screenshotExport(QStringLiteral("screenshot-export"), QString(), QStringLiteral("file"));
+    screenshotExport.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(screenshotExport);
     QCommandLineOption screenshotReminder(QStringLiteral("screenshot-reminder"), QString(), QStringLiteral("file"));
     screenshotReminder.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(screenshotReminder);
@@ -138,7 +142,8 @@ int main(int argc, char **argv)
     controller.applicationDidFinishLaunching();
     const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
                           || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue)
-                          || parser.isSet(screenshotReport) || parser.isSet(screenshotReminder);
+                          || parser.isSet(screenshotReport) || parser.isSet(screenshotReminder)
+                          || parser.isSet(screenshotExport);
     if (controller.needsFirstStartAssistant() && !grabbing) {
         QTimer::singleShot(350, &window, [&window, &controller] {
             FirstStartAssistant assistant(controller, &window);
@@ -201,6 +206,25 @@ int main(int argc, char **argv)
             // The report waits for its PDF.
             QTimer::singleShot(2500, report, [&window, report, target] {
                 saveShot(report->grab(), target, window);
+            });
+        });
+    }
+    if (parser.isSet(screenshotExport)) {
+        const QString target = parser.value(screenshotExport);
+        QTimer::singleShot(400, &window, [&window, &controller, target] {
+            controller.prefs().setInteger(Preferences::einvoiceForm, 1);
+            ExportSheet *sheet = window.exportSheet();
+            if (!sheet->begin(OutputCommands::SavePdf, &window)) {
+                window.close();
+                return;
+            }
+            // The sheet waits for its PDF.
+            QTimer::singleShot(2500, sheet, [&window, sheet, target] {
+                QPixmap shot = window.grab();
+                QPainter painter(&shot);
+                painter.drawPixmap((shot.width() - sheet->width()) / 2, 40, sheet->grab());
+                painter.end();
+                saveShot(shot, target, window);
             });
         });
     }
