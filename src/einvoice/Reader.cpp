@@ -1,5 +1,7 @@
 #include "einvoice/Reader.h"
 
+#include "domain/UnitCodes.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -130,15 +132,21 @@ QDate day(const QString &text)
     return d;
 }
 
-TaxCategory ciiCategory(const Node *tax)
+// A VAT category under the names of either syntax.
+TaxCategory category(const Node *tax, QStringView code, QStringView rate, QStringView reason)
 {
     TaxCategory c;
     if (!tax)
         return c;
-    c.code = tax->value(u"CategoryCode");
-    c.rate = tax->number(u"RateApplicablePercent");
-    c.exemptionReason = tax->value(u"ExemptionReason");
+    c.code = tax->value(code);
+    c.rate = tax->number(rate);
+    c.exemptionReason = tax->value(reason);
     return c;
+}
+
+TaxCategory ciiCategory(const Node *tax)
+{
+    return category(tax, u"CategoryCode", u"RateApplicablePercent", u"ExemptionReason");
 }
 
 Party ciiParty(const Node *p)
@@ -256,13 +264,7 @@ bool readCii(const Node &root, Received *out, QString *error)
 
 TaxCategory ublCategory(const Node *c)
 {
-    TaxCategory t;
-    if (!c)
-        return t;
-    t.code = c->value(u"ID");
-    t.rate = c->number(u"Percent");
-    t.exemptionReason = c->value(u"TaxExemptionReason");
-    return t;
+    return category(c, u"ID", u"Percent", u"TaxExemptionReason");
 }
 
 Party ublParty(const Node *outer)
@@ -562,7 +564,8 @@ QString viewPage(const Received &r)
                     .arg(esc(l.id), esc(l.name),
                          l.description.isEmpty() ? QString() : QStringLiteral("<br><span class=\"muted\">%1</span>").arg(esc(l.description)),
                          l.sellerId.isEmpty() ? QString() : QStringLiteral(" <span class=\"muted\">(%1)</span>").arg(esc(l.sellerId)),
-                         decimal(l.quantity), esc(l.unitCode), decimal(l.price), category(l.tax), money(l.net));
+                         decimal(l.quantity), esc(UnitCodes::displayName(l.unitCode)), decimal(l.price), category(l.tax),
+                         money(l.net));
     html += QStringLiteral("</table>");
 
     html += QStringLiteral("<table class=\"totals\">");

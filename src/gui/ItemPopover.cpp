@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
+#include "domain/UnitCodes.h"
 #include "gui/Formats.h"
 #include "gui/HintLabel.h"
 #include "prefs/Preferences.h"
@@ -12,8 +13,10 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -57,6 +60,13 @@ QWidget *ItemPopover::createEntryPage()
     m_title = lineEdit(page, "itemTitle");
     m_subtitle = lineEdit(page, "itemSubtitle");
     m_unit = lineEdit(page, "itemUnit");
+    m_unitCode = lineEdit(page, "itemUnitCode");
+    // The code e-invoices state; left empty it follows the unit typed.
+    m_unitCode->setMaxLength(3);
+    m_unitCode->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[A-Za-z0-9]{0,3}")), m_unitCode));
+    m_unitCode->setPlaceholderText(UnitCodes::fromUnitText(QString()));
+    connect(m_unit, &QLineEdit::textChanged, m_unitCode,
+            [this](const QString &unit) { m_unitCode->setPlaceholderText(UnitCodes::fromUnitText(unit)); });
     m_sku = lineEdit(page, "itemSku");
     m_note = lineEdit(page, "itemNote");
     m_price = lineEdit(page, "itemPrice");
@@ -66,7 +76,12 @@ QWidget *ItemPopover::createEntryPage()
         number->setAlignment(Qt::AlignRight);
     form->addRow(tr("Title:"), m_title);
     form->addRow(tr("Description:"), m_subtitle);
-    form->addRow(tr("Unit:"), m_unit);
+    auto *unitRow = new QHBoxLayout;
+    unitRow->addWidget(m_unit, 1);
+    unitRow->addWidget(new QLabel(tr("Code:"), page));
+    unitRow->addWidget(m_unitCode);
+    m_unitCode->setMaximumWidth(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 5);
+    form->addRow(tr("Unit:"), unitRow);
     form->addRow(tr("Article number:"), m_sku);
     form->addRow(tr("Note:"), m_note);
     form->addRow(tr("Unit price:"), m_price);
@@ -87,7 +102,7 @@ QWidget *ItemPopover::createEntryPage()
     add->setDefault(true);
     form->addRow(QString(), add);
     connect(add, &QPushButton::clicked, this, &ItemPopover::addItem);
-    for (QLineEdit *edit : { m_title, m_subtitle, m_unit, m_sku, m_note, m_price, m_quantity })
+    for (QLineEdit *edit : { m_title, m_subtitle, m_unit, m_unitCode, m_sku, m_note, m_price, m_quantity })
         connect(edit, &QLineEdit::returnPressed, this, &ItemPopover::addItem);
     return page;
 }
@@ -172,6 +187,7 @@ void ItemPopover::setFields(const ItemFields &f)
     m_title->setText(f.title);
     m_subtitle->setText(f.subtitle);
     m_unit->setText(f.unit);
+    m_unitCode->setText(f.unitCode);
     m_sku->setText(f.sku);
     m_note->setText(f.note);
     m_price->setText(f.price);
@@ -189,6 +205,7 @@ ItemFields ItemPopover::fields() const
     f.title = m_title->text();
     f.subtitle = m_subtitle->text();
     f.unit = m_unit->text();
+    f.unitCode = m_unitCode->text().trimmed().toUpper();
     f.sku = m_sku->text();
     f.note = m_note->text();
     f.price = m_price->text().trimmed();

@@ -48,6 +48,7 @@ private:
     QLineEdit *m_title = nullptr;
     QLineEdit *m_subtitle = nullptr;
     QLineEdit *m_unit = nullptr;
+    QLineEdit *m_unitCode = nullptr;
     QLineEdit *m_sku = nullptr;
     QLineEdit *m_note = nullptr;
     QLineEdit *m_price = nullptr;

@@ -20,6 +20,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QLineEdit>
+#include <QLayout>
 #include <QLoggingCategory>
 #include <QPainter>
 #include <QPixmap>
@@ -31,6 +32,21 @@
 using namespace tabo;
 
 namespace {
+
+// A sheet is a window of its own: drawn over the main window as it appears,
+// made to fit it first.
+QPixmap withSheet(QWidget &window, QWidget *sheet, int top)
+{
+    if (sheet->height() > window.height() - top) {
+        sheet->resize(sheet->width(), window.height() - top);
+        if (sheet->layout())
+            sheet->layout()->activate();
+    }
+    QPixmap shot = window.grab();
+    QPainter painter(&shot);
+    painter.drawPixmap((shot.width() - sheet->width()) / 2, top, sheet->grab());
+    return shot;
+}
 
 // Saves a screenshot for the documentation and ends the run.
 void saveShot(const QPixmap &shot, const QString &target, QWidget &window)
@@ -218,14 +234,9 @@ int main(int argc, char **argv)
                 window.close();
                 return;
             }
+            sheet->resize(sheet->width(), window.height() - 30);
             // The sheet waits for its PDF.
-            QTimer::singleShot(2500, sheet, [&window, sheet, target] {
-                QPixmap shot = window.grab();
-                QPainter painter(&shot);
-                painter.drawPixmap((shot.width() - sheet->width()) / 2, 40, sheet->grab());
-                painter.end();
-                saveShot(shot, target, window);
-            });
+            QTimer::singleShot(2500, sheet, [&window, sheet, target] { saveShot(withSheet(window, sheet, 30), target, window); });
         });
     }
     if (parser.isSet(screenshotReminder)) {
@@ -236,14 +247,7 @@ int main(int argc, char **argv)
                 window.close();
                 return;
             }
-            QTimer::singleShot(400, sheet, [&window, sheet, target] {
-                // The sheet is a window of its own: drawn over the main window as it appears.
-                QPixmap shot = window.grab();
-                QPainter painter(&shot);
-                painter.drawPixmap((shot.width() - sheet->width()) / 2, 60, sheet->grab());
-                painter.end();
-                saveShot(shot, target, window);
-            });
+            QTimer::singleShot(400, sheet, [&window, sheet, target] { saveShot(withSheet(window, sheet, 60), target, window); });
         });
     }
     if (parser.isSet(screenshotPreferences)) {

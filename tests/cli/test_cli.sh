@@ -517,6 +517,8 @@ run 0 address "$E" address=$'Amt für Wege\nPostfach 1\n10115 Berlin' company="A
 run 0 show "$E" --json
 jcheck 'd["company"] == "Amt für Wege" and d["countryCode"] == "DE" and d["buyerReference"] == "991-12345-67"'
 run 0 add-item "$E" title=Work price=10 quantity=1 unitCode=hur
+run 0 show "$E" --json
+jcheck 'd["items"][-1]["unitCode"] == "HUR"'
 run 1 add-item "$E" title=Work price=10 quantity=1 unitCode=HOUR
 run 0 export "$E" --tabo "$T/e.tabo"
 python3 -c "import plistlib,sys; d=open(sys.argv[1],'rb').read(); sys.exit(1 if b'buyerReference' in d or b'unitCode' in d else 0)" "$T/e.tabo" \
