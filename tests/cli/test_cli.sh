@@ -591,6 +591,14 @@ run 0 cancel "$E" --yes
 CN=$OUT
 run 0 show "$CN" --json
 jcheck 'd["amount"] < 0 and d["precedingNumber"] != "" and d["items"][0]["unitCount"] < 0'
+# Every built-in design prints the credit note with its negative total.
+CNTOTAL=$("$CLI" show "$CN" --json | python3 -c 'import json,sys; print("%.2f" % -json.load(sys.stdin)["amount"])')
+"$CLI" design list --json | python3 -c 'import json,sys; [print(d["uniqueID"]) for d in json.load(sys.stdin) if d["uniqueID"].startswith("TABO-BUILTIN")]' >"$T/designs"
+while read -r D; do
+    "$CLI" render "$CN" --pdf "$T/cn.pdf" --design "$D" >/dev/null 2>&1 \
+        && pdftotext "$T/cn.pdf" - | tr -d ' $€' | grep -q -- "-${CNTOTAL/./,}\|-${CNTOTAL}" \
+        && pass=$((pass + 1)) || bad "design $D does not print the credit note's total -$CNTOTAL"
+done <"$T/designs"
 run 0 einvoice export "$CN" --xrechnung-cii "$T/credit.xml"
 grep -q '<ram:TypeCode>381</ram:TypeCode>' "$T/credit.xml" && grep -q 'InvoiceReferencedDocument' "$T/credit.xml" \
     && pass=$((pass + 1)) || bad "the credit note's e-invoice is not a credit note"
