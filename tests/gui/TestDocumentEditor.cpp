@@ -5,6 +5,7 @@
 #include "gui/DocumentListPane.h"
 #include "gui/DocumentTableModel.h"
 #include "gui/GuiInteraction.h"
+#include "app/ItemCommands.h"
 #include "gui/ItemPopover.h"
 #include "gui/ItemsPage.h"
 #include "gui/ItemTableModel.h"
@@ -101,8 +102,18 @@ void TestDocumentEditor::linesTotalsAndFields()
     QCOMPARE(f.window->editor()->pages()->currentIndex(), int(DocumentEditor::Client));
 
     f.addLine(QStringLiteral("Consulting"), QStringLiteral("100"), QStringLiteral("2"));
-    f.addLine(QStringLiteral("Travel"), QStringLiteral("50"), QStringLiteral("1"));
+    // The unit code follows the unit typed until one is given; it keeps 3 letters or digits.
+    f.window->documentActions()->addItem()->trigger();
+    auto *unitCode = f.find<QLineEdit>(QStringLiteral("itemUnitCode"));
+    QTest::keyClicks(f.find<QLineEdit>(QStringLiteral("itemUnit")), QStringLiteral("km"));
+    QCOMPARE(unitCode->placeholderText(), QStringLiteral("KMT"));
+    QTest::keyClicks(unitCode, QStringLiteral("lt-rx"));
+    QCOMPARE(unitCode->text(), QStringLiteral("ltr"));
+    QTest::keyClicks(f.find<QLineEdit>(QStringLiteral("itemTitle")), QStringLiteral("Travel"));
+    QTest::keyClicks(f.find<QLineEdit>(QStringLiteral("itemPrice")), QStringLiteral("50"));
+    QTest::mouseClick(f.find<QPushButton>(QStringLiteral("addItemButton")), Qt::LeftButton);
     QVERIFY(!f.items()->itemPopover()->isVisible());
+    QCOMPARE(f.app.items().sortedItems(*doc).constLast()->text(Item::unitCode), QStringLiteral("LTR"));
     QCOMPARE(f.items()->model()->rowCount(), 2);
     QCOMPARE(f.items()->model()->index(0, ItemTableModel::Amount).data().toString(), QStringLiteral("238.00 EUR"));
     QCOMPARE(f.items()->model()->index(0, ItemTableModel::Taxes).data().toString(), QStringLiteral("19 %"));
