@@ -26,6 +26,8 @@
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFWriter.hh>
 
 #include <map>
 
@@ -306,6 +308,19 @@ void TestEInvoice::facturXCarriesTheXml()
         QPainter painter(&writer);
         painter.drawText(100, 100, QStringLiteral("Rechnung RE-7"));
     }
+    // A hidden link, as a design's mail address may leave: PDF/A wants it printable.
+    {
+        QPDF page;
+        page.processMemoryFile("printed", printed.constData(), size_t(printed.size()));
+        QPDFObjectHandle link = QPDFObjectHandle::parse("<< /Type /Annot /Subtype /Link /Rect [0 0 10 10] /F 2 >>");
+        QPDFPageDocumentHelper(page).getAllPages().at(0).getObjectHandle().replaceKey(
+            "/Annots", QPDFObjectHandle::newArray({page.makeIndirectObject(link)}));
+        QPDFWriter writer(page);
+        writer.setOutputMemory();
+        writer.write();
+        std::shared_ptr<Buffer> b(writer.getBufferSharedPointer());
+        printed = QByteArray(reinterpret_cast<const char *>(b->getBuffer()), qsizetype(b->getSize()));
+    }
     const QByteArray xml = QByteArrayLiteral("<?xml version=\"1.0\"?><rsm:CrossIndustryInvoice "
                                              "xmlns:rsm=\"urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100\"/>");
     QString error;
@@ -325,6 +340,8 @@ void TestEInvoice::facturXCarriesTheXml()
     QCOMPARE(spec->getObjectHandle().getKey("/AFRelationship").getName(), std::string("/Alternative"));
     QCOMPARE(catalog.getKey("/AF").getArrayNItems(), 1);
     QCOMPARE(catalog.getKey("/OutputIntents").getArrayItem(0).getKey("/S").getName(), std::string("/GTS_PDFA1"));
+    QCOMPARE(QPDFPageDocumentHelper(doc).getAllPages().at(0).getObjectHandle().getKey("/Annots").getArrayItem(0)
+                 .getKey("/F").getIntValueAsInt(), 4);
     const std::shared_ptr<Buffer> meta = catalog.getKey("/Metadata").getStreamData();
     const QString xmp = QString::fromUtf8(reinterpret_cast<const char *>(meta->getBuffer()), qsizetype(meta->getSize()));
     for (const char *needed : {"<pdfaid:part>3</pdfaid:part>", "<pdfaid:conformance>B</pdfaid:conformance>",

@@ -7,6 +7,8 @@
 #include <qpdf/QPDFEFStreamObjectHelper.hh>
 #include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
 #include <qpdf/QPDFFileSpecObjectHelper.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
 namespace tabo::einvoice {
@@ -123,6 +125,21 @@ QByteArray makeFacturX(const QByteArray &pdf, const QByteArray &xml, const PdfIn
         infoDict.replaceKey("/CreationDate", QPDFObjectHandle::newString(utf8(date)));
         infoDict.replaceKey("/ModDate", QPDFObjectHandle::newString(utf8(date)));
         doc.getTrailer().replaceKey("/Info", doc.makeIndirectObject(infoDict));
+
+        // PDF/A wants every annotation (a link, say) printable and visible.
+        for (QPDFPageObjectHelper &page : QPDFPageDocumentHelper(doc).getAllPages()) {
+            QPDFObjectHandle annotations = page.getObjectHandle().getKey("/Annots");
+            if (!annotations.isArray())
+                continue;
+            for (int i = 0; i < annotations.getArrayNItems(); ++i) {
+                QPDFObjectHandle annotation = annotations.getArrayItem(i);
+                if (!annotation.isDictionary())
+                    continue;
+                const int flags = annotation.getKey("/F").isInteger() ? annotation.getKey("/F").getIntValueAsInt() : 0;
+                // Print on; Invisible, Hidden and NoView off.
+                annotation.replaceKey("/F", QPDFObjectHandle::newInteger((flags | 4) & ~(1 | 2 | 32)));
+            }
+        }
 
         QPDFWriter writer(doc);
         writer.setOutputMemory();

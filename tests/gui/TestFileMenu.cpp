@@ -2,6 +2,7 @@
 #include "gui/FileMenu.h"
 #include "gui/GuiInteraction.h"
 #include "gui/MainWindow.h"
+#include "gui/PdfPane.h"
 #include "TestSupport.h"
 #include "WindowFixture.h"
 
@@ -57,6 +58,7 @@ private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void accountingSheetCountFollowsControls();
     void exportedDocumentImportsAgain();
+    void receivedEInvoiceIsShownNotStored();
 };
 
 void TestFileMenu::accountingSheetCountFollowsControls()
@@ -131,6 +133,33 @@ void TestFileMenu::exportedDocumentImportsAgain()
     QCOMPARE(copy->text(Invoice::number), doc->text(Invoice::number));
     QCOMPARE(copy->date(Invoice::date), doc->date(Invoice::date));
     QCOMPARE(f.app.documentList().all().size(), 2);
+}
+
+void TestFileMenu::receivedEInvoiceIsShownNotStored()
+{
+    Fixture f;
+    const QString example = QStringLiteral(TABO_SOURCE_DIR "/../shared/einvoice/examples/cii/CII_example1.xml");
+    if (!QFile::exists(example))
+        QSKIP("The CEN examples (../shared/einvoice) are not here.");
+    QAction *open = f.window->findChild<QAction *>(QStringLiteral("actionOpenEInvoice"));
+    QVERIFY(open);
+    const qsizetype before = f.app.documentList().all().size();
+    GuiInteraction::setNextFileName(example);
+    open->trigger();
+    QWidget *shown = nullptr;
+    for (QWidget *w : QApplication::topLevelWidgets())
+        if (w->isVisible() && w->windowTitle() == QStringLiteral("Received E-Invoice"))
+            shown = w;
+    QVERIFY(shown);
+    QTRY_VERIFY(shown->findChild<PdfPane *>()->pageCount() >= 1);
+    QCOMPARE(f.app.documentList().all().size(), before);
+    shown->close();
+
+    // Not an e-invoice: said, nothing shown.
+    GuiInteraction::setNextFileName(QStringLiteral(TABO_SOURCE_DIR "/README.md"));
+    GuiInteraction::setNextAnswer(0);
+    open->trigger();
+    QCOMPARE(GuiInteraction::lastAlertTitle(), QStringLiteral("The e-invoice cannot be shown"));
 }
 
 QTEST_MAIN(TestFileMenu)
