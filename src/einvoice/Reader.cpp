@@ -149,20 +149,38 @@ TaxCategory ciiCategory(const Node *tax)
     return category(tax, u"CategoryCode", u"RateApplicablePercent", u"ExemptionReason");
 }
 
+// An address and an electronic address under the names of either syntax.
+struct AddressNames
+{
+    QStringView street, postcode, city, country;
+};
+
+void readAddress(const Node *address, const AddressNames &names, Party &party)
+{
+    if (!address)
+        return;
+    party.street = address->value(names.street);
+    party.postcode = address->value(names.postcode);
+    party.city = address->value(names.city);
+    party.countryCode = address->value(names.country);
+}
+
+void readEndpoint(const Node *endpoint, Party &party)
+{
+    if (!endpoint)
+        return;
+    party.electronicAddress = endpoint->text.trimmed();
+    party.electronicScheme = endpoint->attributes.value(QStringLiteral("schemeID"));
+}
+
 Party ciiParty(const Node *p)
 {
     Party party;
     if (!p)
         return party;
     party.name = p->value(u"Name");
-    party.street = p->value(u"PostalTradeAddress/LineOne");
-    party.postcode = p->value(u"PostalTradeAddress/PostcodeCode");
-    party.city = p->value(u"PostalTradeAddress/CityName");
-    party.countryCode = p->value(u"PostalTradeAddress/CountryID");
-    if (const Node *uri = p->at(u"URIUniversalCommunication/URIID")) {
-        party.electronicAddress = uri->text.trimmed();
-        party.electronicScheme = uri->attributes.value(QStringLiteral("schemeID"));
-    }
+    readAddress(p->child(u"PostalTradeAddress"), {u"LineOne", u"PostcodeCode", u"CityName", u"CountryID"}, party);
+    readEndpoint(p->at(u"URIUniversalCommunication/URIID"), party);
     for (const Node *reg : p->all(u"SpecifiedTaxRegistration")) {
         const Node *id = reg->child(u"ID");
         if (!id)
@@ -276,14 +294,9 @@ Party ublParty(const Node *outer)
     party.name = p->value(u"PartyLegalEntity/RegistrationName");
     if (party.name.isEmpty())
         party.name = p->value(u"PartyName/Name");
-    party.street = p->value(u"PostalAddress/StreetName");
-    party.postcode = p->value(u"PostalAddress/PostalZone");
-    party.city = p->value(u"PostalAddress/CityName");
-    party.countryCode = p->value(u"PostalAddress/Country/IdentificationCode");
-    if (const Node *endpoint = p->child(u"EndpointID")) {
-        party.electronicAddress = endpoint->text.trimmed();
-        party.electronicScheme = endpoint->attributes.value(QStringLiteral("schemeID"));
-    }
+    readAddress(p->child(u"PostalAddress"), {u"StreetName", u"PostalZone", u"CityName", u"Country/IdentificationCode"},
+                party);
+    readEndpoint(p->child(u"EndpointID"), party);
     for (const Node *scheme : p->all(u"PartyTaxScheme"))
         (scheme->value(u"TaxScheme/ID") == QLatin1String("VAT") ? party.vatId : party.taxNumber) =
             scheme->value(u"CompanyID");

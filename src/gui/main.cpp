@@ -56,6 +56,12 @@ void saveShot(const QPixmap &shot, const QString &target, QWidget &window)
     window.close();
 }
 
+// `shown` once it has had `ms` to lay out and paint.
+void grabLater(QWidget *shown, int ms, const QString &target, QWidget &window)
+{
+    QTimer::singleShot(ms, shown, [shown, target, &window] { saveShot(shown->grab(), target, window); });
+}
+
 // Every pane of the preferences into `folder` ("1-Company.png" …), the Design
 // pane with its stylesheet and live preview; then quits.
 void grabPreferencePanes(tabo::MainWindow &window, const QString &folder)
@@ -188,26 +194,17 @@ int main(int argc, char **argv)
         QTimer::singleShot(400, &window, [&window, target] {
             CatalogueWindow *catalogue = window.catalogueWindow();
             catalogue->show();
-            QTimer::singleShot(300, catalogue, [&window, catalogue, target] {
-                saveShot(catalogue->grab(), target, window);
-            });
+            grabLater(catalogue, 300, target, window);
         });
     }
     if (parser.isSet(screenshot)) {
         const QString target = parser.value(screenshot);
-        QTimer::singleShot(400, &window, [&window, target] {
-            saveShot(window.grab(), target, window);
-        });
+        grabLater(&window, 400, target, window);
     }
     if (parser.isSet(screenshotPreview)) {
         const QString target = parser.value(screenshotPreview);
         PreviewWindow *preview = window.previewWindow();
-        auto grab = [preview, &window, target] {
-            // Time for the view to lay out and paint the page.
-            QTimer::singleShot(600, preview, [preview, &window, target] {
-                saveShot(preview->grab(), target, window);
-            });
-        };
+        auto grab = [preview, &window, target] { grabLater(preview, 600, target, window); };
         QObject::connect(&controller.outputs(), &OutputCommands::previewReady, preview, grab, Qt::QueuedConnection);
         QTimer::singleShot(400, &window, [preview, grab] {
             if (!preview->showPreview())
@@ -219,10 +216,7 @@ int main(int argc, char **argv)
         QTimer::singleShot(400, &window, [&window, target] {
             ReportWindow *report = window.reportWindow();
             report->toggle();
-            // The report waits for its PDF.
-            QTimer::singleShot(2500, report, [&window, report, target] {
-                saveShot(report->grab(), target, window);
-            });
+            grabLater(report, 2500, target, window); // the report waits for its PDF
         });
     }
     if (parser.isSet(screenshotExport)) {
