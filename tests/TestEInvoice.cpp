@@ -333,11 +333,11 @@ void TestEInvoice::facturXCarriesTheXml()
     QVERIFY(doc.getPDFVersion() >= "1.7");
     QPDFObjectHandle catalog = doc.getRoot();
     // The attachment comes back byte for byte, as the document's alternative form.
-    auto spec = QPDFEmbeddedFileDocumentHelper(doc).getEmbeddedFile("factur-x.xml");
-    QVERIFY(spec);
-    const std::shared_ptr<Buffer> data = spec->getEmbeddedFileStream().getStreamData();
+    auto attachment = QPDFEmbeddedFileDocumentHelper(doc).getEmbeddedFile("factur-x.xml");
+    QVERIFY(attachment);
+    const std::shared_ptr<Buffer> data = attachment->getEmbeddedFileStream().getStreamData();
     QCOMPARE(QByteArray(reinterpret_cast<const char *>(data->getBuffer()), qsizetype(data->getSize())), xml);
-    QCOMPARE(spec->getObjectHandle().getKey("/AFRelationship").getName(), std::string("/Alternative"));
+    QCOMPARE(attachment->getObjectHandle().getKey("/AFRelationship").getName(), std::string("/Alternative"));
     QCOMPARE(catalog.getKey("/AF").getArrayNItems(), 1);
     QCOMPARE(catalog.getKey("/OutputIntents").getArrayItem(0).getKey("/S").getName(), std::string("/GTS_PDFA1"));
     QCOMPARE(QPDFPageDocumentHelper(doc).getAllPages().at(0).getObjectHandle().getKey("/Annots").getArrayItem(0)

@@ -52,8 +52,11 @@ bool EInvoiceCommands::write(const QString &path, const QByteArray &data) const
 bool EInvoiceCommands::exportXml(Record &document, const QString &path, Form form)
 {
     const einvoice::Mapping mapping = map(document);
-    if (!checked(mapping))
-        return false;
+    return checked(mapping) && writeXml(mapping, path, form);
+}
+
+bool EInvoiceCommands::writeXml(const einvoice::Mapping &mapping, const QString &path, Form form) const
+{
     return write(path, form == Form::XRechnungCii ? einvoice::writeCii(mapping.invoice, einvoice::Profile::XRechnung)
                                                   : einvoice::writeUbl(mapping.invoice, einvoice::Profile::XRechnung));
 }
@@ -93,20 +96,25 @@ QStringList EInvoiceCommands::outputFormLabels()
 
 bool EInvoiceCommands::exportFacturX(Record &document, const QString &path)
 {
-    if (!checked(map(document)))
+    const einvoice::Mapping mapping = map(document);
+    if (!checked(mapping))
         return false;
     QTemporaryDir scratch;
     const QString printed = scratch.filePath(QStringLiteral("printed.pdf"));
     if (!scratch.isValid() || !m_app.outputs().renderDocumentToFile(document, printed))
         return false; // the renderer has said why
-    return facturXFromPrinted(document, printed, path);
+    return writeFacturX(document, mapping, printed, path);
 }
 
 bool EInvoiceCommands::facturXFromPrinted(Record &document, const QString &printedPdf, const QString &path)
 {
     const einvoice::Mapping mapping = map(document);
-    if (!checked(mapping))
-        return false;
+    return checked(mapping) && writeFacturX(document, mapping, printedPdf, path);
+}
+
+bool EInvoiceCommands::writeFacturX(const Record &document, const einvoice::Mapping &mapping,
+                                    const QString &printedPdf, const QString &path) const
+{
     QFile page(printedPdf);
     if (!page.open(QIODevice::ReadOnly)) {
         m_app.ui().presentError(Error::file(QStringLiteral("The printed invoice “%1” cannot be read.").arg(printedPdf)));

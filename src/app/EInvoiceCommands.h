@@ -31,6 +31,13 @@ public:
     // sheet's): nothing is printed twice.
     bool facturXFromPrinted(Record &document, const QString &printedPdf, const QString &path);
 
+    // For callers that have mapped the document already: false, after
+    // telling the person everything missing, when it cannot be written.
+    bool checked(const einvoice::Mapping &mapping) const;
+    bool writeXml(const einvoice::Mapping &mapping, const QString &path, Form form) const;
+    bool writeFacturX(const Record &document, const einvoice::Mapping &mapping, const QString &printedPdf,
+                      const QString &path) const;
+
     // File ▸ Open E-invoice…: the open panel, then the received invoice as
     // a readable page, rendered to "Received.pdf" in the data folder. Its
     // path, or empty when cancelled or unreadable (said to the person).
@@ -45,7 +52,6 @@ public:
     static QString problemsText(const einvoice::Mapping &mapping);
 
 private:
-    bool checked(const einvoice::Mapping &mapping) const;
     bool write(const QString &path, const QByteArray &data) const;
     AppController &m_app;
 };

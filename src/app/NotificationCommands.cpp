@@ -91,7 +91,7 @@ NotificationCommands::Draft NotificationCommands::prepareNotification() const
     return draft;
 }
 
-Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice)
+Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice, qint64 *id)
 {
     if (!invoice)
         invoice = m_app.currentInvoice();
@@ -109,6 +109,8 @@ Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice
         m_app.ui().presentError(e);
         return e;
     }
+    if (id)
+        *id = n.id;
     m_app.setDocumentValue(invoice, Invoice::misc4, true);
     armTimer();
     Q_EMIT scheduleChanged();

@@ -50,8 +50,9 @@ public:
     // Three days after `due`, at midnight of that day where the person is.
     static Date reminderDate(Date due);
     // Schedules the draft for `invoice` (the current one by default) and
-    // marks it; the failure is presented and returned.
-    Error sendNotification(const Draft &draft, Record *invoice = nullptr);
+    // marks it; the failure is presented and returned. `id` gets the
+    // reminder's number.
+    Error sendNotification(const Draft &draft, Record *invoice = nullptr, qint64 *id = nullptr);
 
     QList<ScheduledNotification> scheduled(bool pendingOnly = false);
     // False (after saying so) when there is no such notification.

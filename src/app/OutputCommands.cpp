@@ -247,13 +247,11 @@ bool OutputCommands::savePdf(Record &invoice)
     const qint64 form = invoice.integer(Invoice::kind) == 1 ? m_app.prefs().integer(P::einvoiceForm) : 0;
     if (form == EInvoiceCommands::PlainPdf)
         return savePdfAs(m_app.pdfPath(), QStringLiteral("Export As PDF File"), name);
-    Record &document = invoice;
+    EInvoiceCommands &einvoices = m_app.einvoices();
     // Asked before the panel: a missing detail is found before a file name is chosen.
-    const einvoice::Mapping mapping = m_app.einvoices().map(document);
-    if (!mapping.ok()) {
-        m_app.ui().alert(QStringLiteral("The e-invoice cannot be written yet"), EInvoiceCommands::problemsText(mapping), {kOK});
+    const einvoice::Mapping mapping = einvoices.map(invoice);
+    if (!einvoices.checked(mapping))
         return false;
-    }
     const bool xml = form == EInvoiceCommands::XRechnungXml;
     Interaction::FileRequest request;
     request.title = xml ? QStringLiteral("Export As E-Invoice (XRechnung)") : QStringLiteral("Export As PDF With E-Invoice");
@@ -265,8 +263,8 @@ bool OutputCommands::savePdf(Record &invoice)
         return false;
     if (QFileInfo(target).suffix().isEmpty())
         target += xml ? QStringLiteral(".xml") : QStringLiteral(".pdf");
-    return xml ? m_app.einvoices().exportXml(document, target, EInvoiceCommands::Form::XRechnungCii)
-               : m_app.einvoices().facturXFromPrinted(document, m_app.pdfPath(), target);
+    return xml ? einvoices.writeXml(mapping, target, EInvoiceCommands::Form::XRechnungCii)
+               : einvoices.writeFacturX(invoice, mapping, m_app.pdfPath(), target);
 }
 
 bool OutputCommands::savePdfAs(const QString &path, const QString &panelTitle, const QString &suggestedName)
@@ -291,14 +289,13 @@ bool OutputCommands::savePdfAs(const QString &path, const QString &panelTitle, c
 bool OutputCommands::emailPdf(Record &invoice)
 {
     const qint64 form = invoice.integer(Invoice::kind) == 1 ? m_app.prefs().integer(P::einvoiceForm) : 0;
-    Record &document = invoice;
     if (form == EInvoiceCommands::FacturXPdf)
-        return m_app.einvoices().facturXFromPrinted(document, m_app.pdfPath(), m_app.pdfEmailPath()) && sendEmail();
+        return m_app.einvoices().facturXFromPrinted(invoice, m_app.pdfPath(), m_app.pdfEmailPath()) && sendEmail();
     if (form == EInvoiceCommands::XRechnungXml) {
         // The XML goes alone: a public authority's inbox takes nothing else.
         const QString xml = QFileInfo(m_app.pdfEmailPath()).absolutePath() + QLatin1Char('/')
                             + jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-')) + QStringLiteral(".xml");
-        return m_app.einvoices().exportXml(document, xml, EInvoiceCommands::Form::XRechnungCii) && sendEmail(xml);
+        return m_app.einvoices().exportXml(invoice, xml, EInvoiceCommands::Form::XRechnungCii) && sendEmail(xml);
     }
     QString error;
     if (!copyPdf(m_app.pdfPath(), m_app.pdfEmailPath(), &error)) {

@@ -95,7 +95,7 @@ int EInvoiceCommand::execute(const QStringList &args)
     Record *doc = m_session.select(parser.positionalArguments().constFirst());
     if (!doc)
         return kExitFailure;
-    EInvoiceCommands commands(m_session.controller());
+    EInvoiceCommands &commands = m_session.controller().einvoices();
     const einvoice::Mapping mapping = commands.map(*doc);
     if (sub == QLatin1String("missing")) {
         for (const QString &problem : mapping.problems())
@@ -117,8 +117,8 @@ int EInvoiceCommand::execute(const QStringList &args)
         return commands.exportFacturX(*doc, parser.value(facturx)) ? kExitOk : kExitFailure;
     }
     const bool asCii = parser.isSet(cii);
-    return commands.exportXml(*doc, parser.value(asCii ? cii : ubl),
-                              asCii ? EInvoiceCommands::Form::XRechnungCii : EInvoiceCommands::Form::XRechnungUbl)
+    return commands.writeXml(mapping, parser.value(asCii ? cii : ubl),
+                             asCii ? EInvoiceCommands::Form::XRechnungCii : EInvoiceCommands::Form::XRechnungUbl)
                ? kExitOk
                : kExitFailure;
 }

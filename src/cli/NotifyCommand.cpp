@@ -72,12 +72,10 @@ int NotifyCommand::execute(const QStringList &args)
         draft.subtitle = parser.value(subtitle);
     if (parser.isSet(text))
         draft.text = parser.value(text);
-    if (notifications.sendNotification(draft))
+    qint64 id = 0;
+    if (notifications.sendNotification(draft, nullptr, &id))
         return kExitFailure;
-    const QList<ScheduledNotification> all = notifications.scheduled();
-    printOut(QString::number(all.isEmpty() ? 0 : std::max_element(all.begin(), all.end(), [](auto &a, auto &b) {
-                                                    return a.id < b.id;
-                                                })->id) + QLatin1Char('\n'));
+    printOut(QString::number(id) + QLatin1Char('\n'));
     const QString reason = notifications.unavailableReason();
     if (!reason.isEmpty())
         printError(reason + QStringLiteral(" The reminder is kept and shown by the first Tabo that can."));

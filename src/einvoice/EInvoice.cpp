@@ -65,7 +65,6 @@ struct Taxes
 {
     const Record &doc;
     const Preferences &prefs;
-    QStringList *refusals;
 
     TaxCategory category(int k) const
     {
@@ -213,7 +212,7 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
         inv.notes << subject;
 
     // Lines: one VAT category each.
-    const Taxes taxes{doc, prefs, &refusals};
+    const Taxes taxes{doc, prefs};
     QList<Record *> items = doc.toMany(Invoice::items);
     std::sort(items.begin(), items.end(), [](const Record *a, const Record *x) { return a->id() < x->id(); });
     std::map<std::pair<QString, qint64>, qint64> baseCents; // (category, rate in 1/100 %) → basis

@@ -122,6 +122,15 @@ Mapping fromDocument(const Record &document, const Preferences &prefs);
 // "9930:DE123…") split into scheme and identifier.
 std::pair<QString, QString> electronicAddress(const QString &typed);
 
+// The namespaces of the two syntaxes: CII's root, and UBL's documents and
+// components (fixed names of the OASIS standard, all under one prefix).
+inline const QString kCiiNamespace = QStringLiteral("urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100");
+inline const QString kUblNames = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:");
+inline const QString kUblInvoiceNamespace = kUblNames + QStringLiteral("Invoice-2");
+inline const QString kUblCreditNoteNamespace = kUblNames + QStringLiteral("CreditNote-2");
+inline const QString kUblAggregates = kUblNames + QStringLiteral("CommonAggregateComponents-2");
+inline const QString kUblBasics = kUblNames + QStringLiteral("CommonBasicComponents-2");
+
 // Amounts in the XML: two decimals, a point, no grouping.
 QString amount(double value);
 // Quantities and prices: as many decimals as they have, up to four.

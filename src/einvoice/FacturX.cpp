@@ -95,12 +95,12 @@ QByteArray makeFacturX(const QByteArray &pdf, const QByteArray &xml, const PdfIn
         // The attachment, as the document's alternative form.
         QPDFEFStreamObjectHelper stream = QPDFEFStreamObjectHelper::createEFStream(doc, xml.toStdString());
         stream.setSubtype("text/xml").setModDate(utf8(date));
-        QPDFFileSpecObjectHelper spec =
+        QPDFFileSpecObjectHelper attachment =
             QPDFFileSpecObjectHelper::createFileSpec(doc, utf8(kFacturXFileName), stream);
-        spec.setDescription("Factur-X / ZUGFeRD invoice (EN 16931)");
-        spec.getObjectHandle().replaceKey("/AFRelationship", QPDFObjectHandle::newName("/Alternative"));
-        QPDFEmbeddedFileDocumentHelper(doc).replaceEmbeddedFile(utf8(kFacturXFileName), spec);
-        catalog.replaceKey("/AF", QPDFObjectHandle::newArray({spec.getObjectHandle()}));
+        attachment.setDescription("Factur-X / ZUGFeRD invoice (EN 16931)");
+        attachment.getObjectHandle().replaceKey("/AFRelationship", QPDFObjectHandle::newName("/Alternative"));
+        QPDFEmbeddedFileDocumentHelper(doc).replaceEmbeddedFile(utf8(kFacturXFileName), attachment);
+        catalog.replaceKey("/AF", QPDFObjectHandle::newArray({attachment.getObjectHandle()}));
 
         // PDF/A: metadata, output intent, information that says the same.
         QPDFObjectHandle metadata = QPDFObjectHandle::newStream(&doc, xmp(info, producer).toStdString());

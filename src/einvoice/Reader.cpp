@@ -1,6 +1,7 @@
 #include "einvoice/Reader.h"
 
 #include "domain/UnitCodes.h"
+#include "einvoice/CiiWriter.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -19,9 +20,6 @@ namespace tabo::einvoice {
 
 namespace {
 
-const QString kCiiNs = QStringLiteral("urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100");
-const QString kUblInvoiceNs = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:Invoice-2");
-const QString kUblCreditNs = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CreditNote-2");
 
 // The element tree, by local names: the two syntaxes' names do not clash
 // within a document, and the root's namespace has been checked.
@@ -393,9 +391,9 @@ QByteArray attachedXml(const QByteArray &pdf, QString *error)
             if ((chosen = files.getEmbeddedFile(name)))
                 break;
         if (!chosen)
-            for (const auto &[name, spec] : files.getEmbeddedFiles())
+            for (const auto &[name, attachment] : files.getEmbeddedFiles())
                 if (QString::fromStdString(name).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
-                    chosen = spec;
+                    chosen = attachment;
                     break;
                 }
         if (!chosen) {
@@ -432,11 +430,11 @@ bool readReceived(const QByteArray &data, Received *out, QString *error)
         return false;
     }
     bool ok = false;
-    if (root->name == QLatin1String("CrossIndustryInvoice") && ns == kCiiNs) {
+    if (root->name == QLatin1String("CrossIndustryInvoice") && ns == kCiiNamespace) {
         out->syntax = Received::Syntax::CII;
         ok = readCii(*root, out, &reason);
-    } else if ((root->name == QLatin1String("Invoice") && ns == kUblInvoiceNs)
-               || (root->name == QLatin1String("CreditNote") && ns == kUblCreditNs)) {
+    } else if ((root->name == QLatin1String("Invoice") && ns == kUblInvoiceNamespace)
+               || (root->name == QLatin1String("CreditNote") && ns == kUblCreditNoteNamespace)) {
         out->syntax = Received::Syntax::UBL;
         ok = readUbl(*root, root->name == QLatin1String("CreditNote"), out, &reason);
     } else {

@@ -14,7 +14,7 @@ struct Received
 {
     enum class Syntax { CII, UBL };
     Syntax syntax = Syntax::CII;
-    QString guideline; // the specification it claims to follow
+    QString guideline; // the rules it claims to follow (its customization ID)
     Model invoice;
     bool fromPdf = false;
     QString syntaxName() const { return syntax == Syntax::CII ? QStringLiteral("CII") : QStringLiteral("UBL"); }

@@ -6,10 +6,8 @@ namespace tabo::einvoice {
 
 namespace {
 
-const QString kInvoiceNs = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:Invoice-2");
-const QString kCreditNoteNs = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CreditNote-2");
-const QString kCac = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CommonAggregateComponents-2");
-const QString kCbc = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CommonBasicComponents-2");
+const QString &kCac = kUblAggregates;
+const QString &kCbc = kUblBasics;
 
 // The element order below is the schema's.
 class Ubl
@@ -104,10 +102,10 @@ QByteArray writeUbl(const Model &inv, Profile profile)
     const bool credit = inv.typeCode == QLatin1String("381");
     const QString root = credit ? QStringLiteral("CreditNote") : QStringLiteral("Invoice");
     w.writeStartDocument();
-    w.writeDefaultNamespace(credit ? kCreditNoteNs : kInvoiceNs);
+    w.writeDefaultNamespace(credit ? kUblCreditNoteNamespace : kUblInvoiceNamespace);
     w.writeNamespace(kCac, QStringLiteral("cac"));
     w.writeNamespace(kCbc, QStringLiteral("cbc"));
-    w.writeStartElement(credit ? kCreditNoteNs : kInvoiceNs, root);
+    w.writeStartElement(credit ? kUblCreditNoteNamespace : kUblInvoiceNamespace, root);
     x.cbc(QStringLiteral("CustomizationID"), profile == Profile::XRechnung ? kXRechnungId : kEN16931Id);
     if (profile == Profile::XRechnung)
         x.cbc(QStringLiteral("ProfileID"), kPeppolProcess);

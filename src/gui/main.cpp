@@ -109,33 +109,22 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Invoices and quotes for freelancers and small businesses."));
     parser.addHelpOption();
-    // Grabs the window once it has started and quits: for documentation.
-    QCommandLineOption screenshot(QStringLiteral("screenshot"), QString(), QStringLiteral("file"));
-    screenshot.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOption(screenshot);
-    // The same for the preview of the newest document, once its PDF is shown.
-    QCommandLineOption screenshotPreview(QStringLiteral("screenshot-preview"), QString(), QStringLiteral("file"));
-    screenshotPreview.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOption(screenshotPreview);
-    QCommandLineOption screenshotPreferences(QStringLiteral("screenshot-preferences"), QString(),
-                                             QStringLiteral("folder"));
-    screenshotPreferences.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOption(screenshotPreferences);
-    QCommandLineOption screenshotSearch(QStringLiteral("screenshot-search"), QString(), QStringLiteral("text"));
-    screenshotSearch.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOption(screenshotSearch);
-    QCommandLineOption screenshotCatalogue(QStringLiteral("screenshot-catalogue"), QString(), QStringLiteral("file"));
-    screenshotCatalogue.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOption(screenshotCatalogue);
-    QCommandLineOption screenshotReport(QStringLiteral("screenshot-report"), QString(), QStringLiteral("file"));
-    screenshotReport.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOption(screenshotReport);
-    QCommandLineOption screenshotExport(QStringLiteral("screenshot-export"), QString(), QStringLiteral("file"));
-    screenshotExport.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOption(screenshotExport);
-    QCommandLineOption screenshotReminder(QStringLiteral("screenshot-reminder"), QString(), QStringLiteral("file"));
-    screenshotReminder.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOption(screenshotReminder);
+    // Options for documentation screenshots: each grabs a window once it has
+    // started (the preview once its PDF is shown) and quits.
+    const auto hidden = [&parser](const char *name, const char *value) {
+        QCommandLineOption option(QString::fromLatin1(name), QString(), QString::fromLatin1(value));
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(option);
+        return option;
+    };
+    const QCommandLineOption screenshot = hidden("screenshot", "file");
+    const QCommandLineOption screenshotPreview = hidden("screenshot-preview", "file");
+    const QCommandLineOption screenshotPreferences = hidden("screenshot-preferences", "folder");
+    const QCommandLineOption screenshotSearch = hidden("screenshot-search", "text");
+    const QCommandLineOption screenshotCatalogue = hidden("screenshot-catalogue", "file");
+    const QCommandLineOption screenshotReport = hidden("screenshot-report", "file");
+    const QCommandLineOption screenshotExport = hidden("screenshot-export", "file");
+    const QCommandLineOption screenshotReminder = hidden("screenshot-reminder", "file");
     // A click on a reminder delivered while Tabo was closed starts it so.
     QCommandLineOption showInvoice(QStringLiteral("show-invoice"),
                                    QStringLiteral("Start with the list filtered to the invoice with this unique ID."),

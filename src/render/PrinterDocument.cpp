@@ -135,7 +135,7 @@ PrinterPage::PrinterPage(const QSizeF &size, double topMargin, double bottomMarg
 {
 }
 
-QList<PrinterItem> PrinterPage::fillWithItems(QList<PrinterItem> items, const PrinterDocument &document)
+qsizetype PrinterPage::fillWithItems(QList<PrinterItem> &items, qsizetype from, const PrinterDocument &document)
 {
     double footerHeight = 0;
     if (document.headerView)
@@ -150,12 +150,12 @@ QList<PrinterItem> PrinterPage::fillWithItems(QList<PrinterItem> items, const Pr
     const double limit = m_size.height() - m_bottomMargin - footerHeight;
     double cursor = m_topMargin;
     bool placed = false;
-    for (qsizetype i = 0; i < items.size(); ++i) {
+    for (qsizetype i = from; i < items.size(); ++i) {
         PrinterItem &item = items[i];
         if (item.pageBreakBefore) {
             // Breaks once, even on a page still empty.
             item.pageBreakBefore = false;
-            return items.mid(i);
+            return i;
         }
         const double width = m_size.width() - item.leftMargin - item.rightMargin;
         PrinterTextView view(QRectF(item.leftMargin, 0, width, 0), item.html, item.horizontalInset, item.verticalInset,
@@ -165,21 +165,21 @@ QList<PrinterItem> PrinterPage::fillWithItems(QList<PrinterItem> items, const Pr
         const double top = cursor + item.topMargin;
         if (top + height > limit) {
             if (placed)
-                return items.mid(i);
+                return i;
             // A block taller than a free page would never fit: it stands alone
             // on its page, cut at the foot, so that building ends.
             qWarning("A printed block of %.0f points is taller than the page; it is cut.", height);
             ++m_clipped;
             view.setFrame(QRectF(item.leftMargin, top, width, std::max(0.0, limit - top)));
             m_views.push_back(view);
-            return items.mid(i + 1);
+            return i + 1;
         }
         view.setFrame(QRectF(item.leftMargin, top, width, height));
         m_views.push_back(view);
         placed = true;
         cursor = top + height + item.bottomMargin;
     }
-    return {};
+    return items.size();
 }
 
 void PrinterPage::substituteVariables(const QHash<QString, QString> &values)
@@ -223,14 +223,15 @@ void PrinterDocument::build()
         item.measuredHeight = PrinterTextView(QRectF(0, 0, width, 0), item.html, item.horizontalInset,
                                               item.verticalInset).usedHeight();
     });
-    QList<PrinterItem> remaining = m_items;
     // The very first page is made even for no items: the heading of an empty
-    // list is still printed.
+    // list is still printed. Pages go by index: copying what is left for each
+    // page would copy a long list hundreds of times.
+    qsizetype next = 0;
     do {
         PrinterPage page(pageSize, topMargin, bottomMargin);
-        remaining = page.fillWithItems(remaining, *this);
+        next = page.fillWithItems(m_items, next, *this);
         m_pages.push_back(std::move(page));
-    } while (!remaining.isEmpty());
+    } while (next < m_items.size());
 }
 
 void PrinterDocument::paginate()

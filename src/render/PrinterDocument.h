@@ -81,8 +81,10 @@ class PrinterPage
 public:
     PrinterPage(const QSizeF &size, double topMargin, double bottomMargin);
 
-    // Places what fits of `items`, in order; returns the rest.
-    QList<PrinterItem> fillWithItems(QList<PrinterItem> items, const PrinterDocument &document);
+    // Places what fits of `items` from `from` on, in order; returns the index
+    // of the first item left for the next page (items.size() when none). A
+    // page break is taken once: the item's flag is cleared.
+    qsizetype fillWithItems(QList<PrinterItem> &items, qsizetype from, const PrinterDocument &document);
     void substituteVariables(const QHash<QString, QString> &values);
     void draw(QPainter &painter) const;
     const std::vector<PrinterTextView> &views() const { return m_views; }
