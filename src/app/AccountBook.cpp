@@ -6,6 +6,7 @@
 #include "domain/Record.h"
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
+#include "prefs/ProtectedFiles.h"
 #include "render/PrinterDocument.h"
 
 #include <QDir>
@@ -126,6 +127,10 @@ QList<PrinterItem> AccountBook::items(const QList<Record *> &documents) const
 
 bool AccountBook::writePdf(const QString &path, bool forPrint)
 {
+    if (const Error refused = ProtectedFiles::check(path)) {
+        m_app.ui().presentError(refused);
+        return false;
+    }
     m_app.calculateDatabase();
     PrinterDocument book(items(m_app.documentList().arranged()));
     book.topMargin = 60;

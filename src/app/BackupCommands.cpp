@@ -5,6 +5,7 @@
 #include "domain/Record.h"
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
+#include "prefs/ProtectedFiles.h"
 #include "store/ObjectDictionary.h"
 #include "store/PropertyList.h"
 #include "store/Store.h"
@@ -12,6 +13,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace tabo {
@@ -26,26 +28,48 @@ const QString kOK = QStringLiteral("OK");
 const QString kRestore = QStringLiteral("Restore…");
 const QString kCancel = QStringLiteral("Cancel");
 
-bool writeRecords(AppController &app, EntityId entity, const QString &path, bool saveFirst, QString *error)
+// The store a backup is taken of, when it passes its check: a copy of a
+// damaged store would replace the one good copy the person is told to restore.
+Store *checkedStore(AppController &app, QString *error)
 {
     Store *store = app.managedObjectContext();
     if (!store) {
         *error = QStringLiteral("There is no database to back up.");
-        return false;
+        return nullptr;
     }
-    if (saveFirst) {
-        if (const Error e = app.saveContext()) {
-            *error = e.message();
-            return false;
-        }
+    if (const Error e = store->checkIntegrity()) {
+        *error = QStringLiteral("No backup was taken: the database fails its check, and a backup of it would be "
+                                "no better. %1").arg(e.message());
+        return nullptr;
     }
-    const QList<Record *> records = store->all(entity);
-    store->loadFully(records);
+    return store;
+}
+
+QVariantList recordList(Store &store, EntityId entity)
+{
+    const QList<Record *> records = store.all(entity);
+    store.loadFully(records);
     QVariantList list;
     list.reserve(records.size());
     for (const Record *r : records)
         list.append(ObjectDictionary::toDictionary(*r));
-    if (!plist::writeFile(path, list, plist::Format::Xml, error)) {
+    return list;
+}
+
+bool writeRecords(AppController &app, EntityId entity, const QString &path, QString *error)
+{
+    if (const Error refused = ProtectedFiles::check(path)) {
+        *error = refused.description;
+        return false;
+    }
+    Store *store = checkedStore(app, error);
+    if (!store)
+        return false;
+    if (const Error e = app.saveContext()) {
+        *error = e.message();
+        return false;
+    }
+    if (!plist::writeFile(path, recordList(*store, entity), plist::Format::Xml, error)) {
         qWarning().noquote() << QStringLiteral("Unable to write %1: %2").arg(path, *error);
         return false;
     }
@@ -62,9 +86,71 @@ void rollBack(AppController &app, Store &store)
     Q_EMIT app.listChanged();
 }
 
+// The entity a dictionary describes: its "class" when it names one, else
+// the one whose attributes cover most of its keys (files of other programs
+// may leave the class out).
+EntityId entityOf(const QVariantMap &dictionary)
+{
+    if (const EntityDesc *named = entityDescByName(dictionary.value(ObjectDictionary::kClassKey).toString()))
+        return named->id;
+    EntityId best = EntityId::Invoice;
+    qsizetype bestCount = -1;
+    for (const EntityId candidate : {EntityId::Invoice, EntityId::RecentItem, EntityId::Address, EntityId::RecentShipping,
+                                     EntityId::Design, EntityId::Item}) {
+        const EntityDesc &desc = entityDesc(candidate);
+        qsizetype count = 0;
+        for (auto it = dictionary.cbegin(); it != dictionary.cend(); ++it) {
+            QString key = it.key();
+            key.remove(QStringLiteral("dAtEaTtr:"));
+            if (desc.attributeIndex(key) >= 0 || desc.relationIndex(key) >= 0)
+                ++count;
+        }
+        if (count > bestCount) {
+            best = candidate;
+            bestCount = count;
+        }
+    }
+    return best;
+}
+
+QString kindInWords(EntityId entity)
+{
+    switch (entity) {
+    case EntityId::Invoice: return QStringLiteral("documents (an invoice backup or an XML export); restore it with "
+                                                  "File ▸ Restore Invoices… or tabo-cli restore invoices");
+    case EntityId::RecentItem: return QStringLiteral("catalogue items (an item backup); restore it with "
+                                                     "File ▸ Restore Items… or tabo-cli restore items");
+    case EntityId::Address: return QStringLiteral("remembered addresses, which no restore replaces");
+    case EntityId::RecentShipping: return QStringLiteral("remembered shipping lines, which no restore replaces");
+    case EntityId::Design: return QStringLiteral("designs; import them from the Design pane");
+    default: return QStringLiteral("records no restore replaces");
+    }
+}
+
+// What a file that is no list of records is, in words, so the person learns
+// which command fits it.
+QString fileKind(const QString &path, const QVariant &root)
+{
+    QFile file(path);
+    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(16) : QByteArray();
+    if (head.startsWith("SQLite format 3"))
+        return QStringLiteral("It is a complete database backup; restore it with File ▸ Restore Database… or "
+                              "tabo-cli restore database.");
+    if (head.startsWith("bplist00"))
+        return QStringLiteral("It is a single exported document or a design; import it with File ▸ Import… or "
+                              "from the Design pane.");
+    if (head.startsWith("%PDF"))
+        return QStringLiteral("It is a PDF file.");
+    if (root.typeId() == QMetaType::QVariantMap && root.toMap().contains(QStringLiteral("invoices")))
+        return QStringLiteral("It is an invoice dump, which no restore reads.");
+    if (root.typeId() == QMetaType::QVariantMap)
+        return QStringLiteral("It holds a single record, not a list of them.");
+    return QStringLiteral("It does not hold a list of records.");
+}
+
 // Replaces the shown records of `entity` by the dictionaries in the file. The
-// file is read and checked before anything is removed, and everything goes in
-// one save.
+// file is read and its kind checked before anything is removed, and
+// everything goes in one save.
 bool restoreRecords(AppController &app, EntityId entity, const QString &path, const QString &what, QString *error)
 {
     QString reason;
@@ -72,11 +158,15 @@ bool restoreRecords(AppController &app, EntityId entity, const QString &path, co
     QVariantList list;
     if (root.typeId() == QMetaType::QVariantList) {
         list = root.toList();
-        for (qsizetype i = 0; i < list.size() && reason.isEmpty(); ++i)
-            if (list[i].typeId() != QMetaType::QVariantMap)
+        for (qsizetype i = 0; i < list.size() && reason.isEmpty(); ++i) {
+            if (list[i].typeId() != QMetaType::QVariantMap) {
                 reason = QStringLiteral("Entry %1 is not a record.").arg(i + 1);
-    } else if (root.isValid()) {
-        reason = QStringLiteral("It does not hold a list of records.");
+            } else if (const EntityId found = entityOf(list[i].toMap()); found != entity) {
+                reason = QStringLiteral("It holds %1.").arg(kindInWords(found));
+            }
+        }
+    } else if (root.isValid() || QFileInfo(path).isFile()) {
+        reason = fileKind(path, root);
     } else if (reason.isEmpty()) {
         reason = QStringLiteral("It could not be read.");
     }
@@ -170,6 +260,12 @@ bool BackupCommands::writeCompleteBackup(const QString &chosenPath, QString *err
     }
     const QFileInfo chosen(chosenPath);
     const QString target = chosen.absolutePath() + QLatin1Char('/') + chosen.completeBaseName() + QStringLiteral(".tabo2db");
+    if (const Error refused = ProtectedFiles::check(target)) {
+        *error = refused.description;
+        return false;
+    }
+    if (!checkedStore(m_app, error))
+        return false;
     if (const Error e = StoreFile::writeCopy(*store, target)) {
         *error = e.message();
         return false;
@@ -215,9 +311,16 @@ bool BackupCommands::restoreCompleteBackup(const QString &backupPath, QString *e
                                    "database.").arg(name));
     if (const Error e = copy.copyFrom(backupPath))
         return fail(QStringLiteral("The file “%1” could not be restored. %2").arg(name, e.message()));
-    if (const Error e = copy.check())
-        return fail(QStringLiteral("The file “%1” is not a Tabo database backup. %2")
-                        .arg(name, e.message().replace(copy.path(), backupPath)));
+    if (const Error e = copy.check()) {
+        // A list of records read as what it is tells which restore fits.
+        const QVariant root = plist::readFile(backupPath, nullptr);
+        const QVariantList list = root.toList();
+        const QString kind = !list.isEmpty() && list.first().typeId() == QMetaType::QVariantMap
+                                 ? QStringLiteral("It holds %1.").arg(kindInWords(entityOf(list.first().toMap())))
+                                 : root.isValid() ? fileKind(backupPath, root)
+                                                  : e.message().replace(copy.path(), backupPath);
+        return fail(QStringLiteral("The file “%1” is not a Tabo database backup. %2").arg(name, kind));
+    }
     StoreFile::pauseForTest();
     if (m_app.hasStore()) {
         if (const Error e = m_app.saveContext()) {
@@ -301,7 +404,7 @@ bool BackupCommands::restoreItems()
 
 bool BackupCommands::writeInvoiceBackup(const QString &path, QString *error)
 {
-    return writeRecords(m_app, EntityId::Invoice, path, true, error);
+    return writeRecords(m_app, EntityId::Invoice, path, error);
 }
 
 bool BackupCommands::restoreInvoiceBackup(const QString &path, QString *error)
@@ -311,7 +414,7 @@ bool BackupCommands::restoreInvoiceBackup(const QString &path, QString *error)
 
 bool BackupCommands::writeItemBackup(const QString &path, QString *error)
 {
-    return writeRecords(m_app, EntityId::RecentItem, path, true, error);
+    return writeRecords(m_app, EntityId::RecentItem, path, error);
 }
 
 bool BackupCommands::restoreItemBackup(const QString &path, QString *error)
@@ -340,21 +443,50 @@ bool BackupCommands::createBackup()
     return doTheNewBackup();
 }
 
-bool BackupCommands::doTheNewBackup()
+bool BackupCommands::doTheNewBackup(QString *error)
 {
+    QString reason;
+    if (!error)
+        error = &reason;
     if (m_app.backupPath().isEmpty())
         m_app.createBackupPath();
     const QString path = m_app.backupPath();
+    Store *store = checkedStore(m_app, error);
+    if (!store)
+        return false;
+    const QByteArray data = plist::write(recordList(*store, EntityId::Invoice), plist::Format::Xml, error);
+    if (data.isEmpty())
+        return false;
     QDir().mkpath(QFileInfo(path).absolutePath());
-    QString error;
-    return writeRecords(m_app, EntityId::Invoice, path, false, &error);
+    // The older generations move down one place before the newest is
+    // written, so a store that went bad unnoticed never replaces them all.
+    const QStringList generations = Locations::automaticBackupFiles();
+    for (qsizetype i = generations.size() - 1; i > 0; --i) {
+        if (!QFileInfo::exists(generations[i - 1]))
+            continue;
+        QFile::remove(generations[i]);
+        QFile::rename(generations[i - 1], generations[i]);
+    }
+    if (const Error e = ProtectedFiles::writeAtomically(path, data, ProtectedFiles::Writer::AutomaticBackup)) {
+        *error = e.description;
+        qWarning().noquote() << QStringLiteral("Unable to write %1: %2").arg(path, e.description);
+        return false;
+    }
+    return true;
 }
 
 bool BackupCommands::restoreFromBackup()
 {
     if (m_app.backupPath().isEmpty())
         m_app.createBackupPath();
-    const QString path = m_app.backupPath();
+    // The newest generation there is: a kill between the rotation and the
+    // write leaves the last backup one place down.
+    QString path = m_app.backupPath();
+    for (const QString &generation : Locations::automaticBackupFiles())
+        if (QFileInfo(generation).isFile()) {
+            path = generation;
+            break;
+        }
     if (!QFileInfo(path).isFile()) {
         m_app.ui().alert(kError,
                          QStringLiteral("No valid backup file available. Please restore your Tabo database from your "

@@ -37,7 +37,7 @@ public:
 
     // The automatic backup at AppController::backupPath().
     bool createBackup();     // guarded (first run after the upgrade, changed count)
-    bool doTheNewBackup();   // unconditional
+    bool doTheNewBackup(QString *error = nullptr); // refused only on a damaged store
     bool restoreFromBackup();
     // Replaces the open store by the store in the default folder.
     bool restoreAutomaticallyFromSandbox();

@@ -5,6 +5,7 @@
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
+#include "prefs/ProtectedFiles.h"
 #include "store/DesignFile.h"
 #include "store/ObjectDictionary.h"
 #include "store/Store.h"
@@ -264,10 +265,9 @@ bool DesignLibrary::exportDesignFile(const Record *design, const QString &path, 
             *error = QStringLiteral("The design could not be archived.");
         return false;
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.commit()) {
+    if (const Error e = ProtectedFiles::writeAtomically(path, data)) {
         if (error)
-            *error = file.errorString();
+            *error = e.description;
         return false;
     }
     return true;

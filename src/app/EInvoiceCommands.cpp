@@ -7,6 +7,7 @@
 #include "einvoice/FacturX.h"
 #include "einvoice/Reader.h"
 #include "prefs/Locations.h"
+#include "prefs/ProtectedFiles.h"
 #include "einvoice/UblWriter.h"
 
 #include <QDateTime>
@@ -40,10 +41,8 @@ bool EInvoiceCommands::checked(const einvoice::Mapping &mapping) const
 
 bool EInvoiceCommands::write(const QString &path, const QByteArray &data) const
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.commit()) {
-        m_app.ui().presentError(Error::file(QStringLiteral("The e-invoice could not be written to “%1”: %2")
-                                                .arg(path, file.errorString())));
+    if (const Error e = ProtectedFiles::writeAtomically(path, data)) {
+        m_app.ui().presentError(e);
         return false;
     }
     return true;

@@ -6,6 +6,7 @@
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
+#include "prefs/ProtectedFiles.h"
 #include "store/DesignFile.h"
 #include "store/KeyedArchive.h"
 #include "store/ObjectDictionary.h"
@@ -28,10 +29,9 @@ const QString kDatabaseTitle = QStringLiteral("Export Tabo Database As XML");
 
 bool writeAtomically(const QString &path, const QByteArray &data, QString *error)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.commit()) {
+    if (const Error e = ProtectedFiles::writeAtomically(path, data)) {
         if (error)
-            *error = QStringLiteral("The file “%1” could not be written: %2").arg(path, file.errorString());
+            *error = e.description;
         return false;
     }
     return true;

@@ -9,6 +9,7 @@
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
+#include "prefs/ProtectedFiles.h"
 #include "render/Formatters.h"
 #include "render/MailHandoff.h"
 #include "render/PageSetup.h"
@@ -48,9 +49,8 @@ bool copyPdf(const QString &from, const QString &to, QString *error)
         *error = QStringLiteral("The PDF file “%1” could not be read.").arg(from);
         return false;
     }
-    QSaveFile target(to);
-    if (!target.open(QIODevice::WriteOnly) || target.write(source.readAll()) != source.size() || !target.commit()) {
-        *error = QStringLiteral("The PDF file “%1” could not be written: %2").arg(to, target.errorString());
+    if (const Error e = ProtectedFiles::writeAtomically(to, source.readAll())) {
+        *error = e.description;
         return false;
     }
     return true;
@@ -385,6 +385,10 @@ bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path)
 
 bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path, const PageSetup &setup)
 {
+    if (const Error refused = ProtectedFiles::check(path)) {
+        m_app.ui().presentError(refused);
+        return false;
+    }
     if (!canRender())
         return false;
     setBusy(+1);

@@ -32,8 +32,9 @@ int BackupCommand::execute(const QStringList &args)
         if (!m_session.store())
             return kExitFailure;
         AppController &app = m_session.controller();
-        if (!app.backups().doTheNewBackup())
-            return failure(QStringLiteral("The automatic backup “%1” could not be written.").arg(app.backupPath()));
+        QString error;
+        if (!app.backups().doTheNewBackup(&error))
+            return failure(QStringLiteral("The automatic backup “%1” could not be written. %2").arg(app.backupPath(), error));
         printOut(app.backupPath());
         return kExitOk;
     }

@@ -1,5 +1,6 @@
 #include "cli/DesignCommand.h"
 
+#include "prefs/ProtectedFiles.h"
 #include "app/AppController.h"
 #include "app/DesignLibrary.h"
 #include "app/OutputCommands.h"
@@ -217,9 +218,8 @@ int DesignCommand::getTexts(const QString &title, const TextFiles &files)
     for (const auto &[path, attr] : parts) {
         if (path.isEmpty())
             continue;
-        QSaveFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(design->text(attr).toUtf8()) < 0 || !file.commit())
-            return failure(QStringLiteral("“%1” could not be written.").arg(path));
+        if (const Error e = ProtectedFiles::writeAtomically(path, design->text(attr).toUtf8()))
+            return failure(e.description);
     }
     return kExitOk;
 }

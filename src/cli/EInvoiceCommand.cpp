@@ -1,5 +1,6 @@
 #include "cli/EInvoiceCommand.h"
 
+#include "prefs/ProtectedFiles.h"
 #include "app/AppController.h"
 #include "app/EInvoiceCommands.h"
 #include "app/OutputCommands.h"
@@ -56,10 +57,8 @@ int EInvoiceCommand::received(const QString &sub, const QStringList &args)
     }
     const QString page = einvoice::viewPage(received);
     if (parser.isSet(html)) {
-        QSaveFile file(parser.value(html));
-        const QByteArray bytes = page.toUtf8();
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-            return failure(QStringLiteral("The page could not be written to “%1”: %2").arg(parser.value(html), file.errorString()));
+        if (const Error e = ProtectedFiles::writeAtomically(parser.value(html), page.toUtf8()))
+            return failure(e.description);
         return kExitOk;
     }
     if (!m_session.controller().outputs().renderHtmlToFile(page, parser.value(pdf)))

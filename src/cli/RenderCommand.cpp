@@ -1,5 +1,6 @@
 #include "cli/RenderCommand.h"
 
+#include "prefs/ProtectedFiles.h"
 #include "app/DesignLibrary.h"
 #include "render/PageRenderer.h"
 
@@ -119,11 +120,9 @@ int RenderCommand::execute(const QStringList &args)
 
 int RenderCommand::writeHtml(Record *document, const QString &path)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)
-        || file.write(m_session.controller().outputs().invoiceHTMLString(*document).toUtf8()) < 0
-        || !file.commit())
-        return failure(QStringLiteral("“%1” could not be written: %2").arg(path, file.errorString()));
+    if (const Error e = ProtectedFiles::writeAtomically(
+            path, m_session.controller().outputs().invoiceHTMLString(*document).toUtf8()))
+        return failure(e.description);
     return kExitOk;
 }
 

@@ -1,5 +1,6 @@
 #include "cli/ReportCommand.h"
 
+#include "prefs/ProtectedFiles.h"
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
 #include "cli/Console.h"
@@ -68,11 +69,8 @@ int ReportCommand::execute(const QStringList &args)
         return kExitOk;
     }
     if (parser.isSet(html)) {
-        QSaveFile file(parser.value(html));
-        const QByteArray page = app.reportPage(figures).toUtf8();
-        if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.commit())
-            return failure(QStringLiteral("The report could not be written to “%1”: %2")
-                               .arg(parser.value(html), file.errorString()));
+        if (const Error e = ProtectedFiles::writeAtomically(parser.value(html), app.reportPage(figures).toUtf8()))
+            return failure(e.description);
         return kExitOk;
     }
     if (parser.isSet(json)) {

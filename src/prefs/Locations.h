@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace tabo {
 
@@ -12,12 +13,18 @@ namespace Locations {
 // notes of unfinished copies and moves. Created when missing; a failure shows
 // when something is written there.
 QString dataFolder();
+// Where the default store is, without creating anything.
+QString defaultStoreFile();
 // A file of that name in dataFolder().
 QString dataFile(const QString &name);
 // $XDG_CONFIG_HOME/Tabo/Tabo.conf
 QString settingsFile();
 // ~/Documents/Tabo_Backup.mbdb: the automatic backup of the store.
 QString automaticBackupFile();
+// The automatic backup and its older generations, newest first
+// ("Tabo_Backup.mbdb", "Tabo_Backup.1.mbdb" …): a backup taken of a store
+// that went bad unnoticed never replaces the last good one alone.
+QStringList automaticBackupFiles();
 
 // Whether two paths name the same file: through links when both exist, so
 // that a store is never copied or restored onto itself.

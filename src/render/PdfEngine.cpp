@@ -1,5 +1,7 @@
 #include "render/PdfEngine.h"
 
+#include "prefs/ProtectedFiles.h"
+
 #include "render/GuardedPage.h"
 #include "render/PageGuard.h"
 #include "render/PageSchemeHandler.h"
@@ -229,6 +231,12 @@ QStringList PdfEngine::blockedRequests() const
 void PdfEngine::render(const QString &html, const PageSetup &setup, const QString &path,
                        std::function<void(bool ok)> done)
 {
+    if (const Error refused = ProtectedFiles::check(path)) {
+        qWarning().noquote() << refused.description;
+        if (done)
+            done(false);
+        return;
+    }
     d->queue.push_back(
         Job{PageGuard::withoutRefresh(html.toUtf8()), setup.pageLayout(), setup.pageStamp, path, std::move(done)});
     d->startNext();

@@ -1,5 +1,7 @@
 #include "render/PrinterDocument.h"
 
+#include "prefs/ProtectedFiles.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QDebug>
 #include <QPainter>
@@ -257,6 +259,10 @@ const std::vector<PrinterPage> &PrinterDocument::pages()
 
 bool PrinterDocument::writePdf(const QString &path, const QString &title, const QMarginsF &margins)
 {
+    if (const Error refused = ProtectedFiles::check(path)) {
+        qWarning().noquote() << refused.description;
+        return false;
+    }
     layout();
     QPdfWriter writer(path);
     writer.setTitle(title);

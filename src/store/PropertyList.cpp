@@ -1,13 +1,13 @@
 #include "store/PropertyList.h"
 
 #include "base/Date.h"
+#include "prefs/ProtectedFiles.h"
 #include "store/BinaryPlist.h"
 #include "store/PlistDetail.h"
 #include "store/XmlPlist.h"
 
 #include <QDateTime>
 #include <QFile>
-#include <QSaveFile>
 
 #include <limits>
 
@@ -148,12 +148,15 @@ QVariant read(const QByteArray &data, QString *error)
 
 bool writeFile(const QString &path, const QVariant &root, Format format, QString *error)
 {
+    if (const tabo::Error refused = ProtectedFiles::check(path)) {
+        setError(error, refused.description);
+        return false;
+    }
     const QByteArray data = write(root, format, error);
     if (data.isEmpty())
         return false;
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.commit()) {
-        setError(error, QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
+    if (const tabo::Error e = ProtectedFiles::writeAtomically(path, data)) {
+        setError(error, e.description);
         return false;
     }
     return true;

@@ -1,0 +1,106 @@
+#include "prefs/ProtectedFiles.h"
+
+#include "prefs/Locations.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMutex>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include <sys/stat.h>
+
+namespace tabo::ProtectedFiles {
+
+namespace {
+
+QMutex g_mutex;
+QStringList g_stores;
+
+const QStringList kStoreSides = {QString(), QStringLiteral("-wal"), QStringLiteral("-shm"), QStringLiteral("-journal")};
+
+// The path with links and ".." resolved as far as it exists: a file not yet
+// written is named by its folder's real path.
+QString resolved(const QString &path)
+{
+    const QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    if (info.exists())
+        return info.canonicalFilePath();
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return folder.isEmpty() ? info.absoluteFilePath() : folder + QLatin1Char('/') + info.fileName();
+}
+
+// A hard link to the store is the store too.
+bool sameInode(const QString &a, const QString &b)
+{
+    struct stat sa{}, sb{};
+    return ::stat(QFile::encodeName(a).constData(), &sa) == 0 && ::stat(QFile::encodeName(b).constData(), &sb) == 0
+           && sa.st_dev == sb.st_dev && sa.st_ino == sb.st_ino;
+}
+
+struct Guarded
+{
+    QString path;
+    QString what;
+};
+
+QList<Guarded> guardedFiles(Writer writer)
+{
+    QList<Guarded> files;
+    QStringList stores;
+    {
+        QMutexLocker lock(&g_mutex);
+        stores = g_stores;
+    }
+    stores.prepend(Locations::defaultStoreFile());
+    for (const QString &store : std::as_const(stores))
+        for (const QString &side : kStoreSides)
+            files.append({store + side, side.isEmpty() ? QStringLiteral("the database") : QStringLiteral("a file of the database")});
+    const QString settings = Locations::settingsFile();
+    files.append({settings, QStringLiteral("the settings file")});
+    files.append({settings + QStringLiteral(".lock"), QStringLiteral("the settings file's lock")});
+    files.append({settings + QStringLiteral(".bak"), QStringLiteral("the kept copy of the settings")});
+    if (writer != Writer::AutomaticBackup)
+        for (const QString &backup : Locations::automaticBackupFiles())
+            files.append({backup, QStringLiteral("an automatic backup")});
+    return files;
+}
+
+} // namespace
+
+void addStore(const QString &storePath)
+{
+    if (storePath.isEmpty())
+        return;
+    const QString path = QFileInfo(storePath).absoluteFilePath();
+    QMutexLocker lock(&g_mutex);
+    if (!g_stores.contains(path))
+        g_stores.append(path);
+}
+
+Error check(const QString &target, Writer writer)
+{
+    if (target.isEmpty())
+        return {};
+    const QString real = resolved(target);
+    const bool exists = QFileInfo::exists(real);
+    for (const Guarded &g : guardedFiles(writer)) {
+        if (resolved(g.path) == real || (exists && sameInode(real, g.path)))
+            return Error::file(QStringLiteral("“%1” is %2 (%3). Tabo never writes anything else onto it; "
+                                              "please choose another file.")
+                                   .arg(target, g.what, resolved(g.path)));
+    }
+    return {};
+}
+
+Error writeAtomically(const QString &target, const QByteArray &data, Writer writer)
+{
+    if (Error e = check(target, writer))
+        return e;
+    QSaveFile file(target);
+    if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.commit())
+        return Error::file(QStringLiteral("The file “%1” could not be written: %2").arg(target, file.errorString()));
+    return {};
+}
+
+} // namespace tabo::ProtectedFiles
