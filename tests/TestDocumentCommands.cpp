@@ -49,6 +49,7 @@ class TestDocumentCommands : public QObject
 
 private Q_SLOTS:
     void deleteRefusalsConfirmationsAndCounter();
+    void numbersAreNeverGivenTwice();
     void convertQuote();
     void duplicate();
     void dueDateBeforeDateAsksOnce();
@@ -98,6 +99,62 @@ void TestDocumentCommands::deleteRefusalsConfirmationsAndCounter()
     QCOMPARE(f.ui.alerts[4].title, QStringLiteral("Delete Quote"));
     QVERIFY(f.ui.lastAlertText().contains(QStringLiteral("your quote counter")));
     QVERIFY(!f.prefs.contains(P::quotCount));
+}
+
+QStringList repeatedNumbers(AppController &app)
+{
+    QStringList seen, repeated;
+    for (const Record *doc : app.documentList().all()) {
+        const QString n = doc->text(Invoice::number);
+        if (!n.isEmpty() && seen.contains(n))
+            repeated << n;
+        seen << n;
+    }
+    return repeated;
+}
+
+void TestDocumentCommands::numbersAreNeverGivenTwice()
+{
+    Fixture f;
+    // A duplicated quote takes an invoice number; the next invoice skips it
+    // and the counter, kept in the store, moves past it.
+    Record *quote = f.app.addQuote();
+    f.app.setCurrentInvoice(quote);
+    QCOMPARE(f.docs.duplicateInvoice()->text(Invoice::number), QStringLiteral("RE-11"));
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE-12"));
+    QCOMPARE(f.prefs.integer(P::invCount), 11);
+    Record *middle = f.app.addInvoice();
+    QCOMPARE(middle->text(Invoice::number), QStringLiteral("RE-13"));
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE-14"));
+    // A deletion without adjusting would hand out the last number again.
+    f.app.setCurrentInvoice(middle);
+    f.ui.answers = {0, 1};
+    QVERIFY(f.docs.deleteInvoice());
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE-15"));
+    QVERIFY2(repeatedNumbers(f.app).isEmpty(), qPrintable(repeatedNumbers(f.app).join(u' ')));
+
+    // Another process raised the counter in the store: this one's settings
+    // are behind, and the number follows the store.
+    {
+        Preferences otherPrefs(f.home.configFile());
+        test::FakeInteraction otherUi;
+        AppController other(otherPrefs, otherUi);
+        QVERIFY(!other.raiseNumberCounter(P::invCount));
+        QVERIFY(!other.raiseNumberCounter(P::invCount));
+    }
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE-18"));
+    QCOMPARE(f.prefs.integer(P::invCount), 14);
+    // The person's own choice goes to the store; set back below the numbers
+    // in use, it still gives only free ones.
+    QVERIFY(!f.app.setNumberCounter(P::invCount, 0));
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE-5"));
+    QVERIFY(!f.app.setNumberCounter(P::invCount, 9));
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE-16"));
+    QVERIFY(repeatedNumbers(f.app).isEmpty());
+    // A pattern that cannot count gives its one number without hanging.
+    f.prefs.setString(P::invPattern, QStringLiteral("RE"));
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE"));
+    QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE"));
 }
 
 void TestDocumentCommands::convertQuote()

@@ -72,6 +72,7 @@ private Q_SLOTS:
     void documentsCreatedAtOnceAreUnique();
     void otherProcessChangesAreSeenAndConflictsAsked();
     void restoreByAnotherProcessLandsHere();
+    void commandsMergeWhatClashes();
     void linesAndOlderStoresFollow();
     void damagedAndEmptyFilesAreNeverWritten();
 };
@@ -165,6 +166,36 @@ void TestSharedStore::otherProcessChangesAreSeenAndConflictsAsked()
              QStringLiteral("still wanted|Theirs again"));
 }
 
+void TestSharedStore::commandsMergeWhatClashes()
+{
+    // Two commands adding lines to one document at once both recalculate its
+    // totals: the later save takes in the other's line and counts both.
+    Fixture f;
+    f.app.setMergeConflicts(true);
+    Record *doc = f.app.addInvoice();
+    const QString id = doc->text(Invoice::uniqueID);
+    QString error;
+    QVERIFY(f.app.items().addItem({QStringLiteral("Here"), {}, {}, {}, {}, QStringLiteral("10"), QStringLiteral("1"),
+                                   false, false, false},
+                                  &error));
+    QCOMPARE(cli({QStringLiteral("add-item"), id, QStringLiteral("title=There"), QStringLiteral("price=5"),
+                  QStringLiteral("quantity=1")}),
+             0);
+    // Here, unsaved and not yet aware of the other line.
+    Record *line = f.app.managedObjectContext()->insert(EntityId::Item);
+    line->setText(Item::title, QStringLiteral("Here too"));
+    line->setNum(Item::baseAmount, 20);
+    line->setNum(Item::unitCount, 1);
+    line->setToOne(Item::invoice, doc);
+    f.app.calculateInvoice(doc);
+    QCOMPARE(doc->num(Invoice::amount), 30.0);
+    QVERIFY(!f.app.saveContext());
+    QVERIFY(f.ui.alerts.isEmpty());
+    QCOMPARE(doc->toMany(Invoice::items).size(), 3);
+    QCOMPARE(doc->num(Invoice::amount), 35.0);
+    QCOMPARE(firstRow(f.storePath(), "SELECT amount FROM Invoice"), QStringLiteral("35.0"));
+}
+
 void TestSharedStore::restoreByAnotherProcessLandsHere()
 {
     Fixture f;
@@ -218,7 +249,7 @@ void TestSharedStore::linesAndOlderStoresFollow()
     f.app.closeStore();
     sqlite3 *db = nullptr;
     sqlite3_open(QFile::encodeName(f.storePath()).constData(), &db);
-    for (const char *sql : {"DROP TABLE _Changes", "DROP TABLE _Store", "DROP TABLE _Notification",
+    for (const char *sql : {"DROP TABLE _Changes", "DROP TABLE _Store", "DROP TABLE _Notification", "DROP TABLE _Counter",
                             "ALTER TABLE Invoice DROP COLUMN company", "ALTER TABLE Item DROP COLUMN unitCode",
                             "PRAGMA user_version = 1"})
         sqlite3_exec(db, sql, nullptr, nullptr, nullptr);
@@ -227,8 +258,12 @@ void TestSharedStore::linesAndOlderStoresFollow()
              QString::number(3 * kEntityCount));
     QVERIFY(f.app.reopenStore());
     QCOMPARE(firstRow(f.storePath(), "PRAGMA user_version"), QString::number(Store::kSchemaVersion));
+    // The counters move into the store from the settings at the first number.
+    f.prefs.setInteger(Preferences::invCount, 41);
+    f.prefs.sync();
     QString created;
     QCOMPARE(cli({QStringLiteral("new"), QStringLiteral("invoice")}, &created), 0);
+    QCOMPARE(firstRow(f.storePath(), "SELECT value FROM _Counter WHERE name = 'invCount'"), QStringLiteral("41"));
     QCOMPARE(cli({QStringLiteral("notify"), created}), 0);
     QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM _Notification"), QStringLiteral("1"));
     QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM pragma_table_info('Invoice') WHERE name IN "

@@ -21,7 +21,9 @@
 #include "editing/SyntaxDefinition.h"
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
+#include "prefs/ProtectedFiles.h"
 #include "store/Store.h"
+#include "store/NumberCounters.h"
 #include "store/StoreFile.h"
 
 #include <QDebug>
@@ -60,6 +62,10 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
 {
     setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });
     SyntaxDefinition::registerColorDefaults(m_prefs);
+    // Known before it is opened (the default one always is), and without
+    // creating its folder.
+    if (m_prefs.boolean(P::useCustomPath))
+        ProtectedFiles::addStore(storeFilePath());
 }
 
 AppController::~AppController()
@@ -153,6 +159,7 @@ void AppController::openStore()
     }
     m_store = std::move(store);
     m_store->setExternalChangeHandler([this] { storeChangedElsewhere(); });
+    mirrorCounters(false);
     if (!m_prefs.boolean(P::isTabo2TemplateLoadingDone)) {
         m_prefs.setBool(P::isTabo2TemplateLoadingDone, true);
         m_tabo2TemplatePending = true;
@@ -200,6 +207,21 @@ Error AppController::saveContext()
         return {};
     m_changedDuringSave = false;
     Error e = m_store->save([this] { renumberPending(); });
+    // A command of its own (the command line) made its change on purpose: a
+    // clash with another program's save is settled by taking in what that
+    // one wrote, recalculating the documents both touched, and saving again.
+    for (int attempt = 0; m_mergeConflicts && attempt < 5 && e.domain == kStoreDomain && e.code == Store::kConflict;
+         ++attempt) {
+        QSet<Record *> documents;
+        for (Record *r : m_store->conflicts())
+            if (Record *doc = r->entityId() == EntityId::Item ? r->toOne(Item::invoice) : r;
+                doc && doc->entityId() == EntityId::Invoice && !doc->isDeleted())
+                documents.insert(doc);
+        m_store->keepMineOnConflicts();
+        for (Record *doc : std::as_const(documents))
+            calculateInvoice(doc);
+        e = m_store->save([this] { renumberPending(); });
+    }
     if (e.domain == kStoreDomain && e.code == Store::kConflict) {
         if (!resolveConflicts())
             return e;
@@ -261,23 +283,89 @@ void AppController::numberInSave(Record *document, QString (AppController::*numb
     m_pendingNumbers.append({document, numberer, countsItself});
 }
 
+namespace {
+const P::Key kCounters[] = {P::invCount, P::quotCount};
+// A number is skipped when another document holds it; so many documents
+// in a row holding the following ones would be a pattern that repeats.
+constexpr int kMaxSkips = 100000;
+} // namespace
+
+void AppController::mirrorCounters(bool seed)
+{
+    for (const P::Key key : kCounters) {
+        const QString name = Preferences::info(key).name;
+        const std::optional<qint64> stored = NumberCounters::read(m_store->handle(), name);
+        if (!stored) {
+            if (seed)
+                NumberCounters::write(m_store->handle(), name, m_prefs.integer(key));
+        } else if (*stored != m_prefs.integer(key)) {
+            m_prefs.setString(key, QString::number(*stored));
+        }
+    }
+}
+
 void AppController::renumberPending()
 {
-    // Runs with the write lock held: whatever the numbers are counted from now
-    // cannot change before they are written.
-    if (!m_changedDuringSave)
+    // Runs with the write lock held: the counters and the numbers other
+    // documents hold cannot change before these numbers are written.
+    mirrorCounters(!m_pendingNumbers.isEmpty());
+    if (m_pendingNumbers.isEmpty())
         return;
+    QSet<const Record *> pending;
+    for (const PendingNumber &p : std::as_const(m_pendingNumbers))
+        pending.insert(p.document);
+    QSet<QString> held;
+    for (const Record *doc : m_list.all())
+        if (!doc->isDeleted() && !pending.contains(doc) && !doc->text(Invoice::number).isEmpty())
+            held.insert(doc->text(Invoice::number));
     for (const PendingNumber &p : std::as_const(m_pendingNumbers)) {
         if (p.document->isDeleted())
             continue;
+        const P::Key counter = p.numberer == &AppController::quoteNumberString ? P::quotCount : P::invCount;
+        const qint64 counted = m_prefs.integer(counter);
         if (!p.countsItself)
             m_list.remove(p.document);
         m_list.calculateDatabase(now());
-        p.document->setText(Invoice::number, (this->*p.numberer)());
+        QString number = (this->*p.numberer)();
+        for (int skipped = 0; held.contains(number) && skipped < kMaxSkips; ++skipped) {
+            m_prefs.setString(counter, QString::number(m_prefs.integer(counter) + 1));
+            const QString next = (this->*p.numberer)();
+            if (next == number) // the pattern has no count: nothing to skip to
+                break;
+            number = next;
+        }
+        if (m_prefs.integer(counter) != counted)
+            NumberCounters::write(m_store->handle(), Preferences::info(counter).name, m_prefs.integer(counter));
+        p.document->setText(Invoice::number, number);
+        held.insert(number);
         if (!p.countsItself)
             m_list.add(p.document);
     }
     m_list.calculateDatabase(now());
+}
+
+Error AppController::setNumberCounter(P::Key counter, qint64 value)
+{
+    if (Store *store = managedObjectContext())
+        if (Error e = store->write([&](sqlite3 *db) { return NumberCounters::write(db, Preferences::info(counter).name, value); }))
+            return e;
+    m_prefs.setString(counter, QString::number(value));
+    return {};
+}
+
+Error AppController::raiseNumberCounter(P::Key counter)
+{
+    qint64 value = m_prefs.integer(counter) + 1;
+    if (Store *store = managedObjectContext()) {
+        const Error e = store->write([&](sqlite3 *db) {
+            value = NumberCounters::read(db, Preferences::info(counter).name).value_or(m_prefs.integer(counter)) + 1;
+            return NumberCounters::write(db, Preferences::info(counter).name, value);
+        });
+        if (e)
+            return e;
+    }
+    m_prefs.setString(counter, QString::number(value));
+    return {};
 }
 
 void AppController::saveAction()
@@ -319,6 +407,12 @@ void AppController::createBackupPath()
 void AppController::applicationDidFinishLaunching()
 {
     m_prefs.setBool(P::isTerminatedFine, false);
+    runOneTimeUpgrades();
+    m_prefs.sync();
+}
+
+void AppController::runOneTimeUpgrades()
+{
     if (!m_prefs.boolean(P::update_1_3)) {
         m_prefs.setInteger(P::itemSortOrder, 1);
         m_prefs.setBool(P::update_1_3, true);
@@ -329,7 +423,6 @@ void AppController::applicationDidFinishLaunching()
     }
     // Labels and settings this version added, in the language installed.
     m_prefs.completeFromLanguageDefaults();
-    m_prefs.sync();
 }
 
 bool AppController::needsFirstStartAssistant() const
@@ -345,8 +438,15 @@ bool AppController::firstAssiTabAction(qint64 languageDefaults)
     }
     m_prefs.setInteger(P::languageDefaults, languageDefaults);
     const bool installed = m_prefs.installLanguageDefaults();
-    if (installed)
+    if (installed) {
         composeFooters();
+        // The defaults' counters are the person's choice too: the store,
+        // which numbers from them, takes them over.
+        if (m_store)
+            for (const P::Key key : kCounters)
+                if (const Error e = setNumberCounter(key, m_prefs.integer(key)))
+                    m_ui.presentError(e);
+    }
     m_prefs.setBool(P::firstStartEverDone, true);
     m_prefs.sync();
     return installed;
@@ -451,8 +551,6 @@ bool AppController::customPathChanged()
 
 bool AppController::chooseCustomDatabasePath(bool use)
 {
-    const bool wasCustom = m_prefs.boolean(P::useCustomPath);
-    const QString oldPath = m_prefs.string(P::customDatabasePath);
     QString folder;
     if (use) {
         m_ui.alert(QStringLiteral("Hint!"),
@@ -466,11 +564,19 @@ bool AppController::chooseCustomDatabasePath(bool use)
         request.canCreateFolders = true;
         folder = m_ui.openFile(request);
     }
+    return moveStore(!folder.isEmpty(), folder);
+}
+
+bool AppController::moveStore(bool useCustom, const QString &folder)
+{
+    const bool wasCustom = m_prefs.boolean(P::useCustomPath);
+    const QString oldPath = m_prefs.string(P::customDatabasePath);
     // Not synced here: the move writes the preferences once the copy is in
     // place, so a kill in between never names a folder without the store.
-    m_prefs.setBool(P::useCustomPath, !folder.isEmpty());
+    m_prefs.setBool(P::useCustomPath, useCustom);
     if (!folder.isEmpty())
         m_prefs.setString(P::customDatabasePath, folder);
+    ProtectedFiles::addStore(storeFilePath());
     const bool moved = customPathChanged();
     if (m_store && !Locations::sameFile(storeFilePath(), m_storeURL)) {
         m_prefs.setBool(P::useCustomPath, wasCustom);
@@ -735,10 +841,33 @@ void AppController::documentChanged(Record *document)
     saveContext();
 }
 
-bool AppController::setDocumentValue(Record *document, int attr, const QVariant &value)
+bool AppController::setDocumentValue(Record *document, int attr, const QVariant &value, const QVariant &startedFrom)
 {
-    if (!document || document->value(attr) == value)
+    if (!document)
         return true;
+    // Take in what others saved, so the question below sees it.
+    syncWithStore();
+    const QVariant stored = document->value(attr);
+    if (stored == value)
+        return true;
+    if (startedFrom.isValid() && stored != startedFrom) {
+        const auto shown = [](const QVariant &v) {
+            const QString text = v.canConvert<Date>() && v.value<Date>().isValid() ? v.value<Date>().toIso8601() : v.toString();
+            return text.isEmpty() ? QStringLiteral("(empty)") : text.left(300);
+        };
+        const int answer = m_ui.ask(
+            QStringLiteral("Changed Elsewhere"),
+            QStringLiteral("“%1” of “%2” was changed by another program (another Tabo window or tabo-cli) while you "
+                           "were editing it.\n\nStored now: %3\nYours: %4\n\nKeep your changes and overwrite the other "
+                           "ones, or reload the stored version and lose your changes?")
+                .arg(document->desc().attributes[attr].name,
+                     document->text(Invoice::number).isEmpty() ? document->text(Invoice::title)
+                                                                : document->text(Invoice::number),
+                     shown(stored), shown(value)),
+            {QStringLiteral("Keep My Changes"), QStringLiteral("Reload")}, 1);
+        if (answer != 0)
+            return false;
+    }
     if (attr == Invoice::due && !confirmDueDate(*document, value))
         return false;
     const UndoHistory::Step step(*m_undo, document,

@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "domain/Calculator.h"
 #include "domain/DocumentList.h"
+#include "prefs/Preferences.h"
 #include "reports/Report.h"
 
 #include <QObject>
@@ -26,7 +27,6 @@ class ItemCommands;
 class NotificationCommands;
 class ReportCommands;
 class UndoHistory;
-class Preferences;
 class TemplateCommands;
 class Record;
 class Store;
@@ -77,6 +77,9 @@ public:
     // as running (a crash leaves it so) and applies the one-time settings
     // updates of earlier versions.
     void awakeFromNib();
+    // The one-time upgrade steps of the settings; run before any command
+    // reads or writes a setting, so a value set afterwards is never undone.
+    void runOneTimeUpgrades();
     void applicationDidFinishLaunching();
 
     enum class TerminateReply { Now, Cancel };
@@ -98,6 +101,9 @@ public:
     // so the next start finds the store where it still is. True when the
     // store was moved.
     bool chooseCustomDatabasePath(bool use);
+    // The move itself: the store goes to `folder` (custom) or to the data
+    // folder, and the keys name it only once it is there.
+    bool moveStore(bool useCustom, const QString &folder);
 
     // "Install language defaults…": after a confirmation that they replace
     // the current texts. False when declined or nothing was installed.
@@ -197,12 +203,24 @@ public:
     // observer; nothing happens when the value is already there.
     // False when the person kept the old value (a due date before the
     // invoice's own date is asked about).
-    bool setDocumentValue(Record *document, int attr, const QVariant &value);
+    // `startedFrom`: the value the person saw when they began the edit; when
+    // the stored value has changed since (another program, a restore), they
+    // are asked which to keep.
+    bool setDocumentValue(Record *document, int attr, const QVariant &value, const QVariant &startedFrom = {});
     // The document's number depends on the other documents: it is computed
     // again inside the save that writes it when another program added
     // documents meanwhile. `countsItself` for a converted quote, which is in
     // the count already.
     void numberInSave(Record *document, QString (AppController::*numberer)() const, bool countsItself);
+    // For programs whose every change is a command given on purpose (the
+    // command line): a save that clashes with another program's is retried
+    // with both changes instead of asking "Changed Elsewhere".
+    void setMergeConflicts(bool merge) { m_mergeConflicts = merge; }
+    // The numbering counters (`invCount`, `quotCount`) live in the store and
+    // the settings mirror them. Sets one as the person chose it, or raises it
+    // by one (after a deletion), in a write of the store.
+    Error setNumberCounter(Preferences::Key counter, qint64 value);
+    Error raiseNumberCounter(Preferences::Key counter);
 
     // A document was removed from the store: drop it from the list and the
     // current selection.
@@ -229,6 +247,9 @@ private:
     void storeChangedElsewhere();
     bool offerAutomaticBackup(const Error &empty);
     void renumberPending();
+    // Store → settings; a counter the store does not hold yet is taken from
+    // the settings (`seed`, with the write lock held).
+    void mirrorCounters(bool seed);
     bool resolveConflicts();
 
     struct PendingNumber
@@ -239,6 +260,7 @@ private:
     };
     QList<PendingNumber> m_pendingNumbers;
     bool m_changedDuringSave = false;
+    bool m_mergeConflicts = false;
 
     Preferences &m_prefs;
     Interaction &m_ui;

@@ -81,8 +81,14 @@ Record *DocumentCommands::cancelInvoice()
     if (!original)
         return nullptr;
     Interaction &ui = m_app.ui();
-    if (original->integer(Invoice::kind) != 1 || !isCurrentInvoiceSent()
-        || !original->text(Invoice::precedingNumber).isEmpty()) {
+    if (original->integer(Invoice::kind) != 1) {
+        ui.alert(QStringLiteral("Sorry!"),
+                 QStringLiteral("A quote is not cancelled by a credit note: nothing was charged. Change or delete "
+                                "the quote instead."),
+                 {kOk});
+        return nullptr;
+    }
+    if (!isCurrentInvoiceSent() || !original->text(Invoice::precedingNumber).isEmpty()) {
         ui.alert(QStringLiteral("Sorry!"),
                  QStringLiteral("Only an invoice marked as sent or paid is cancelled by a credit note. An invoice "
                                 "still marked as created can be changed or deleted instead."),
@@ -229,7 +235,8 @@ bool DocumentCommands::deleteInvoice()
             + consequences,
         {QStringLiteral("Adjust Counter"), kCancel});
     if (adjust == 0)
-        prefs.setString(counter, QString::number(prefs.integer(counter) + 1));
+        if (const Error e = m_app.raiseNumberCounter(counter))
+            ui.presentError(e);
     return true;
 }
 

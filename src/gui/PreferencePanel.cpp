@@ -144,6 +144,10 @@ QVPreferencePanel::QVPreferencePanel(AppController &app, FileMenu *fileMenu, QWi
     connect(m_binder, &PrefsBinder::changed, this, [this](P::Key key) {
         if (key == P::prefsDatePattern || key == P::prefsRegion)
             updateDateExample();
+        // The store numbers from its own counters; the field is their mirror.
+        if (key == P::invCount || key == P::quotCount)
+            if (const Error e = m_app.setNumberCounter(key, m_app.prefs().integer(key)))
+                m_app.ui().presentError(e);
         // Paper, margins and labels change the sample page.
         m_designPane->preferencesChanged();
     });

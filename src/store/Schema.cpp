@@ -65,6 +65,10 @@ const std::vector<std::function<Error(sqlite3 *)>> &steps()
             }
             return Error{};
         },
+        /* 5: the numbering counters, raised in the transaction that writes
+              the number (their values move in from the settings at the
+              first open, since only the application knows those) */
+        [](sqlite3 *db) { return exec(db, counterTableSql()); },
     };
     return list;
 }
@@ -163,6 +167,12 @@ QString notificationTableSql()
         .arg(kNotificationTable);
 }
 
+QString counterTableSql()
+{
+    return QStringLiteral("CREATE TABLE IF NOT EXISTS \"%1\" (\"name\" TEXT PRIMARY KEY, \"value\" INTEGER NOT NULL)")
+        .arg(kCounterTable);
+}
+
 Error create(sqlite3 *db, int version)
 {
     for (int i = 0; i < kEntityCount; ++i)
@@ -175,6 +185,8 @@ Error create(sqlite3 *db, int version)
         if (Error e = exec(db, sql))
             return e;
     if (Error e = exec(db, notificationTableSql()))
+        return e;
+    if (Error e = exec(db, counterTableSql()))
         return e;
     return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(version));
 }

@@ -36,6 +36,8 @@ QStringList changeJournalSql();
 // Scheduled notifications (date in reference seconds; delivered when shown).
 inline const QString kNotificationTable = QStringLiteral("_Notification");
 QString notificationTableSql();
+inline const QString kCounterTable = QStringLiteral("_Counter");
+QString counterTableSql();
 // A new, empty store.
 Error create(sqlite3 *db, int version);
 

@@ -1,6 +1,7 @@
 #include "store/Store.h"
 
 #include "domain/Record.h"
+#include "prefs/ProtectedFiles.h"
 #include "store/Schema.h"
 
 #include <QFile>
@@ -135,6 +136,10 @@ Error Store::sqlError(const QString &what)
         e.description = what + QLatin1Char(' ') + e.description;
         return e;
     }
+    if ((code & 0xff) == SQLITE_BUSY || (code & 0xff) == SQLITE_LOCKED)
+        return Error{kStoreDomain, code, what,
+                     QStringLiteral("Another program (another Tabo window or tabo-cli) has kept the database busy for "
+                                    "10 seconds. Your changes are still here; try again in a moment.")};
     return Error{kStoreDomain, code, what, m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
 }
 
@@ -158,6 +163,7 @@ Error Store::checkIntegrity()
 Error Store::open()
 {
     close();
+    ProtectedFiles::addStore(m_path);
     const QFileInfo info(m_path);
     const bool exists = info.exists();
     if (exists && !info.isFile())
