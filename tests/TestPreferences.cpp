@@ -40,6 +40,7 @@ private Q_SLOTS:
     void setFromTextParsesByType();
     void valuesPersist();
     void staleLockIsClearedLiveLockKept();
+    void damagedFileIsLeftAndRestored();
 };
 
 void TestPreferences::languageDefaultsHoldEveryKey()
@@ -284,24 +285,77 @@ void TestPreferences::staleLockIsClearedLiveLockKept()
         QVERIFY(timer.elapsed() < 5000);
     }
     QVERIFY(!QFile::exists(lock));
-    // An empty lock file (a kill between creating and writing it) once it is old.
+    // An empty lock file (a kill between creating and writing it) that
+    // nobody holds goes at once.
     QFile empty(lock);
     QVERIFY(empty.open(QIODevice::WriteOnly));
     empty.close();
-    QVERIFY(!P::clearStaleLock(lock));
-    QVERIFY(empty.open(QIODevice::ReadWrite));
-    QVERIFY(empty.setFileTime(QDateTime::currentDateTime().addSecs(-10), QFileDevice::FileModificationTime));
-    empty.close();
     QVERIFY(P::clearStaleLock(lock));
 
-    // A live owner keeps its lock.
+    // A live owner keeps its lock; the settings wait a moment for it, then
+    // say who holds it and leave the file alone.
     pid = child(true);
     QTRY_VERIFY(QFile::exists(lock) && QFileInfo(lock).size() > 0);
     QVERIFY(!P::clearStaleLock(lock));
     QVERIFY(QFile::exists(lock));
+    {
+        QElapsedTimer timer;
+        timer.start();
+        P held(home.configFile());
+        QVERIFY(held.loadError());
+        QVERIFY2(held.loadError().description.contains(QString::number(pid)), qPrintable(held.loadError().description));
+        QVERIFY(timer.elapsed() < 10000);
+        held.setString(P::prefsName, QStringLiteral("Not stored"));
+        QVERIFY(held.syncChecked());
+    }
     ::kill(pid, SIGKILL);
     ::waitpid(pid, nullptr, 0);
     QVERIFY(P::clearStaleLock(lock));
+}
+
+void TestPreferences::damagedFileIsLeftAndRestored()
+{
+    test::TempHome home;
+    {
+        P prefs(home.configFile());
+        prefs.setString(P::prefsName, QStringLiteral("Good GmbH"));
+        QVERIFY(!prefs.syncChecked());
+    }
+    { P again(home.configFile()); } // read and found good: kept as .bak
+    QVERIFY(QFileInfo(home.configFile() + QStringLiteral(".bak")).isFile());
+    QByteArray noise(3000, '\0');
+    for (int i = 0; i < noise.size(); ++i)
+        noise[i] = char((i * 7919 + 13) % 251);
+    QFile file(home.configFile());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(noise);
+    file.close();
+    {
+        P damaged(home.configFile());
+        QVERIFY(damaged.loadError());
+        QVERIFY(damaged.loadError().description.contains(QStringLiteral("damaged")));
+        damaged.setInteger(P::invCount, 5); // in memory only
+        QVERIFY(damaged.syncChecked());
+    }
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), noise);
+    file.close();
+    {
+        P damaged(home.configFile());
+        QVERIFY(!damaged.restoreBackup());
+    }
+    P restored(home.configFile());
+    QVERIFY(!restored.loadError());
+    QCOMPARE(restored.string(P::prefsName), QStringLiteral("Good GmbH"));
+
+    // A folder where the file should be is reported, not written into.
+    const QString other = home.path() + QStringLiteral("/folder.conf");
+    QDir().mkpath(other);
+    P folder(other);
+    QVERIFY(folder.loadError());
+    folder.setString(P::prefsName, QStringLiteral("X"));
+    QVERIFY(folder.syncChecked());
+    QVERIFY(QFileInfo(other).isDir());
 }
 
 QTEST_GUILESS_MAIN(TestPreferences)

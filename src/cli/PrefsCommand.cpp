@@ -4,6 +4,7 @@
 #include "cli/Console.h"
 #include "cli/JsonWriter.h"
 #include "cli/Session.h"
+#include "domain/PrefRules.h"
 #include "prefs/Preferences.h"
 
 #include <QCommandLineParser>
@@ -11,9 +12,10 @@
 namespace tabo::cli {
 
 PrefsCommand::PrefsCommand(Session &session)
-    : Command(session, QStringLiteral("prefs"), QStringLiteral("list [--json] | get KEY | set KEY VALUE | install-language N"),
+    : Command(session, QStringLiteral("prefs"), QStringLiteral("list [--json] | get KEY | set KEY VALUE | install-language N | restore"),
               QStringLiteral("List every preference with its type and value (stored, or the default); read or "
-                             "write one; install the language defaults (0 English, 1 German, 2 French, 3 Spanish)."))
+                             "write one; install the language defaults (0 English, 1 German, 2 French, 3 Spanish); "
+                             "put the last good settings (Tabo.conf.bak) back in place of a damaged file."))
 {
 }
 
@@ -40,6 +42,12 @@ int PrefsCommand::execute(const QStringList &args)
         return set(pos.at(1), pos.at(2));
     if (action == QLatin1String("install-language") && pos.size() == 2)
         return installLanguage(pos.at(1));
+    if (action == QLatin1String("restore") && pos.size() == 1) {
+        if (const Error e = m_session.prefs().restoreBackup())
+            return failure(e.message());
+        printOut(QStringLiteral("Restored the last good settings from “%1”.").arg(m_session.prefs().backupFilePath()));
+        return kExitOk;
+    }
     return usageError();
 }
 
@@ -84,10 +92,63 @@ int PrefsCommand::get(const QString &key)
 
 int PrefsCommand::set(const QString &key, const QString &value)
 {
+    using P = Preferences;
+    Preferences &prefs = m_session.prefs();
+    const int idx = Preferences::keyIndex(key);
+    if (idx == P::useCustomPath || idx == P::customDatabasePath)
+        return moveStore(P::Key(idx), value);
+    const bool counter = idx == P::invCount || idx == P::quotCount;
     QString reason;
-    if (!m_session.prefs().setFromText(key, value, &reason))
+    if (!prefs.setFromText(key, value, &reason, PrefRules::refusal))
         return failure(reason);
-    m_session.prefs().sync();
+    // The counters number documents inside the store's transactions; the
+    // settings only mirror them.
+    if (counter) {
+        if (!m_session.store())
+            return kExitFailure;
+        if (const Error e = m_session.controller().setNumberCounter(P::Key(idx), prefs.integer(P::Key(idx))))
+            return failure(e.message());
+    }
+    if (const Error e = prefs.syncChecked())
+        return failure(e.message());
+    return kExitOk;
+}
+
+int PrefsCommand::moveStore(Preferences::Key key, const QString &value)
+{
+    using P = Preferences;
+    Preferences &prefs = m_session.prefs();
+    bool useCustom = prefs.boolean(P::useCustomPath);
+    QString folder = prefs.string(P::customDatabasePath);
+    if (key == P::useCustomPath) {
+        const QString t = value.trimmed().toLower();
+        if (t != QLatin1String("1") && t != QLatin1String("0") && t != QLatin1String("true") && t != QLatin1String("false")
+            && t != QLatin1String("yes") && t != QLatin1String("no"))
+            return failure(QStringLiteral("“%1” is not a valid Bool for useCustomPath").arg(value));
+        useCustom = t == QLatin1String("1") || t == QLatin1String("true") || t == QLatin1String("yes");
+    } else {
+        folder = value.trimmed();
+    }
+    if (useCustom && folder.isEmpty())
+        return failure(QStringLiteral("Name the folder first: tabo-cli prefs set customDatabasePath FOLDER."));
+    if (const QString refused = PrefRules::refusal(P::customDatabasePath, folder); !refused.isEmpty())
+        return failure(refused);
+    // Only a change of where the store is used moves it.
+    if (useCustom == prefs.boolean(P::useCustomPath) && (!useCustom || folder == prefs.string(P::customDatabasePath))) {
+        prefs.setString(P::customDatabasePath, folder);
+        if (const Error e = prefs.syncChecked())
+            return failure(e.message());
+        return kExitOk;
+    }
+    if (!m_session.store())
+        return kExitFailure;
+    if (!m_session.controller().moveStore(useCustom, useCustom ? folder : QString()))
+        return failure(QStringLiteral("The database was not moved; the settings still name where it is."));
+    if (!useCustom)
+        prefs.setString(P::customDatabasePath, folder);
+    if (const Error e = prefs.syncChecked())
+        return failure(e.message());
+    printOut(m_session.controller().storeFilePath());
     return kExitOk;
 }
 

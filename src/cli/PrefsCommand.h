@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Command.h"
+#include "prefs/Preferences.h"
 
 namespace tabo::cli {
 
@@ -16,6 +17,7 @@ private:
     int get(const QString &key);
     int set(const QString &key, const QString &value);
     int installLanguage(const QString &number);
+    int moveStore(Preferences::Key key, const QString &value);
 };
 
 } // namespace tabo::cli

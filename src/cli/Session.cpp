@@ -21,8 +21,10 @@ Preferences &Session::prefs()
 
 AppController &Session::controller()
 {
-    if (!m_controller)
+    if (!m_controller) {
         m_controller = std::make_unique<AppController>(prefs(), m_ui);
+        m_controller->setMergeConflicts(true);
+    }
     return *m_controller;
 }
 

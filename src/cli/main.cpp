@@ -1,3 +1,5 @@
+#include "app/AppController.h"
+#include "prefs/Preferences.h"
 #include "cli/AccountBookCommand.h"
 #include "cli/AccountingExportCommand.h"
 #include "cli/AddItemCommand.h"
@@ -150,8 +152,21 @@ int main(int argc, char *argv[])
         return kExitOk;
     }
     for (const auto &command : commands) {
-        if (command->name() == name)
-            return session.finish(command->execute(args));
+        if (command->name() != name)
+            continue;
+        const bool restoringSettings = name == QLatin1String("prefs") && args.value(0) == QLatin1String("restore");
+        if (const tabo::Error e = session.prefs().loadError(); e && !restoringSettings) {
+            printError(e.message());
+            return kExitFailure;
+        }
+        if (!restoringSettings) {
+            session.controller().runOneTimeUpgrades();
+            if (const tabo::Error e = session.prefs().syncChecked()) {
+                printError(e.message());
+                return kExitFailure;
+            }
+        }
+        return session.finish(command->execute(args));
     }
     printError((name.startsWith(QLatin1Char('-')) ? QStringLiteral("Unknown option “%1”.")
                                                   : QStringLiteral("Unknown command “%1”."))

@@ -19,6 +19,9 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QLineEdit>
 #include <QLayout>
 #include <QLoggingCategory>
@@ -138,7 +141,28 @@ int main(int argc, char **argv)
     if (parser.isSet(showInvoice) && InstanceBus::forwardShowInvoice(parser.value(showInvoice)))
         return 0;
 
-    Preferences prefs;
+    auto settings = std::make_unique<Preferences>();
+    if (const Error refused = settings->loadError()) {
+        // Nothing is written over a damaged or held settings file; the kept
+        // good copy can take its place.
+        const bool kept = QFileInfo(settings->backupFilePath()).isFile();
+        QMessageBox box(QMessageBox::Critical, QStringLiteral("Error!"), refused.description);
+        QPushButton *restore = kept ? box.addButton(QStringLiteral("Restore Last Good Settings"), QMessageBox::AcceptRole) : nullptr;
+        box.addButton(QStringLiteral("Quit"), QMessageBox::RejectRole);
+        box.exec();
+        if (!restore || box.clickedButton() != restore)
+            return 1;
+        if (const Error e = settings->restoreBackup()) {
+            QMessageBox::critical(nullptr, QStringLiteral("Error!"), e.description);
+            return 1;
+        }
+        settings = std::make_unique<Preferences>();
+        if (const Error e = settings->loadError()) {
+            QMessageBox::critical(nullptr, QStringLiteral("Error!"), e.description);
+            return 1;
+        }
+    }
+    Preferences &prefs = *settings;
     GuiInteraction ui;
     AppController controller(prefs, ui);
     QObject::connect(

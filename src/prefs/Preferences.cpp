@@ -5,7 +5,12 @@
 #include <QDir>
 #include <QFile>
 #include <QLocale>
+#include <QSaveFile>
 #include <QSettings>
+#include <QStringDecoder>
+#include <QTemporaryDir>
+#include <QDebug>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <plist/plist.h>
@@ -146,31 +151,93 @@ QVariant fromPlistNode(plist_t node)
 
 } // namespace
 
-bool Preferences::clearStaleLock(const QString &lockPath)
+namespace {
+
+bool processAlive(qint64 pid)
+{
+    return pid > 0 && (::kill(pid_t(pid), 0) == 0 || errno == EPERM);
+}
+
+// The settings file as QSettings writes it: UTF-8 text of sections, pairs
+// and comments. Anything else (random bytes, a truncated binary) would be
+// read as a few odd keys and then written back without the person's data.
+QString formatProblem(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringLiteral("It cannot be read (%1).").arg(file.errorString());
+    const QByteArray bytes = file.readAll();
+    if (bytes.contains('\0'))
+        return QStringLiteral("It holds binary data.");
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    const QString text = utf8.decode(bytes);
+    if (utf8.hasError())
+        return QStringLiteral("It is not text.");
+    int lineNumber = 0;
+    for (QStringView line : QStringView(text).split(QLatin1Char('\n'))) {
+        ++lineNumber;
+        line = line.trimmed();
+        if (line.isEmpty() || line.startsWith(QLatin1Char(';')) || line.startsWith(QLatin1Char('#')))
+            continue;
+        if ((line.startsWith(QLatin1Char('[')) && line.endsWith(QLatin1Char(']'))) || line.contains(QLatin1Char('=')))
+            continue;
+        return QStringLiteral("Line %1 is neither a section nor a setting.").arg(lineNumber);
+    }
+    return {};
+}
+
+} // namespace
+
+Preferences::LockState Preferences::lockState(const QString &lockPath, qint64 *owner)
 {
     // QSettings guards its file with a lock file that its owner also holds
-    // with flock(). A lock file nobody holds was left by a process that died:
-    // QSettings would wait 30 s for it when it cannot read the owner (a kill
-    // between creating and writing it, another host name after a reboot).
+    // with flock(). A lock file nobody holds was left by a process that died
+    // (empty when it died between creating and writing it): QSettings would
+    // wait for it, so it is removed at once.
     const QByteArray name = QFile::encodeName(lockPath);
     const int fd = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
     if (fd < 0)
-        return false;
-    bool stale = false;
+        return LockState::Free;
+    char buf[64] = {};
+    const ssize_t n = ::read(fd, buf, sizeof buf - 1);
+    const qint64 pid = n > 0 ? std::strtoll(buf, nullptr, 10) : 0;
+    if (owner)
+        *owner = pid;
+    LockState state = LockState::Held;
     if (::flock(fd, LOCK_EX | LOCK_NB) == 0) {
-        char buf[64] = {};
-        const ssize_t n = ::read(fd, buf, sizeof buf - 1);
-        const qint64 pid = n > 0 ? std::strtoll(buf, nullptr, 10) : 0;
-        struct stat st {};
-        const bool old = ::fstat(fd, &st) == 0 && std::time(nullptr) - st.st_mtime >= 2;
-        // An owner between creating the file and locking it is given a moment.
-        stale = pid > 0 ? (::kill(pid_t(pid), 0) != 0 && errno == ESRCH) || old : old;
-        if (stale)
+        // Nobody holds it; a live owner named in it that does not lock with
+        // flock (another Qt) still counts.
+        if (pid == qint64(::getpid()) || !processAlive(pid)) {
             ::unlink(name.constData());
+            state = LockState::Cleared;
+        }
         ::flock(fd, LOCK_UN);
     }
     ::close(fd);
-    return stale;
+    return state;
+}
+
+bool Preferences::clearStaleLock(const QString &lockPath)
+{
+    return lockState(lockPath) == LockState::Cleared;
+}
+
+Error Preferences::awaitLock(const QString &lockPath)
+{
+    // Another Tabo writes its settings in a few milliseconds; one that keeps
+    // the lock longer is stuck, and waiting for it would hang this command.
+    constexpr int kWaitMs = 3000;
+    qint64 owner = 0;
+    for (int waited = 0; lockState(lockPath, &owner) == LockState::Held; waited += 50) {
+        if (waited >= kWaitMs)
+            return Error::file(QStringLiteral("The settings file is locked by another program (process %1) that has held "
+                                              "it for more than %2 seconds. Quit that program (or end process %1) and "
+                                              "try again; nothing was changed.")
+                                   .arg(owner > 0 ? QString::number(owner) : QStringLiteral("unknown"))
+                                   .arg(kWaitMs / 1000));
+        ::usleep(50 * 1000);
+    }
+    return {};
 }
 
 QString Preferences::defaultFilePath()
@@ -179,9 +246,40 @@ QString Preferences::defaultFilePath()
 }
 
 Preferences::Preferences(const QString &filePath)
+    : m_filePath(filePath)
 {
-    clearStaleLock(filePath + QStringLiteral(".lock"));
+    const QFileInfo info(filePath);
+    if (info.exists() && !info.isFile())
+        m_loadError = Error::file(QStringLiteral("The settings file “%1” is not a file (a folder or something else "
+                                                 "stands in its place). Tabo has left it as it is; move it away and "
+                                                 "start again.").arg(filePath));
+    else if (info.exists())
+        if (const QString problem = formatProblem(filePath); !problem.isEmpty())
+            m_loadError = Error::file(QStringLiteral("The settings file “%1” is damaged: %2 Tabo has left it as it "
+                                                     "is.%3").arg(filePath, problem,
+                                                                  QFileInfo(backupFilePath()).isFile()
+                                                                      ? QStringLiteral(" The last good settings are "
+                                                                                       "kept in “%1”; restore them "
+                                                                                       "with tabo-cli prefs restore.")
+                                                                            .arg(backupFilePath())
+                                                                      : QString()));
+    if (!m_loadError)
+        m_loadError = awaitLock(filePath + QStringLiteral(".lock"));
+    if (m_loadError) {
+        // Nothing of it is read or written: the values live in memory only.
+        m_scratch = std::make_unique<QTemporaryDir>();
+        m_settings = std::make_unique<QSettings>(m_scratch->filePath(QStringLiteral("unused.conf")), QSettings::IniFormat);
+        return;
+    }
     m_settings = std::make_unique<QSettings>(filePath, QSettings::IniFormat);
+    if (m_settings->status() != QSettings::NoError) {
+        m_loadError = Error::file(QStringLiteral("The settings file “%1” cannot be read. Tabo has left it as it is.").arg(filePath));
+        m_settings.reset();
+        m_scratch = std::make_unique<QTemporaryDir>();
+        m_settings = std::make_unique<QSettings>(m_scratch->filePath(QStringLiteral("unused.conf")), QSettings::IniFormat);
+        return;
+    }
+    keepGoodCopy();
     // The seller's details got the names scripts and e-invoices use; what was
     // typed under the earlier names moves over once.
     for (const auto &[before, now] : {std::pair{"prefsCountry", "prefsCountryCode"}, {"prefsPhone", "prefsContactPhone"},
@@ -195,7 +293,67 @@ Preferences::Preferences(const QString &filePath)
     }
 }
 
-Preferences::~Preferences() = default;
+Preferences::~Preferences()
+{
+    // QSettings writes what is pending when it goes; a file that is held
+    // by a stuck process would hang the exit, so the pending values are
+    // dropped instead (the command that made them has said so).
+    if (!m_loadError && awaitLock(m_filePath + QStringLiteral(".lock")))
+        (void)m_settings.release();
+}
+
+QString Preferences::backupFilePath() const
+{
+    return m_filePath + QStringLiteral(".bak");
+}
+
+void Preferences::keepGoodCopy()
+{
+    // Read and found good: the copy a damaged file is restored from.
+    QFile file(m_filePath);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    const QByteArray good = file.readAll();
+    QFile kept(backupFilePath());
+    if (kept.open(QIODevice::ReadOnly) && kept.readAll() == good)
+        return;
+    kept.close();
+    QSaveFile copy(backupFilePath());
+    if (copy.open(QIODevice::WriteOnly) && copy.write(good) == good.size())
+        copy.commit();
+}
+
+Error Preferences::restoreBackup()
+{
+    if (!QFileInfo(backupFilePath()).isFile())
+        return Error::file(QStringLiteral("There are no kept settings (“%1”) to restore.").arg(backupFilePath()));
+    if (const QString problem = formatProblem(backupFilePath()); !problem.isEmpty())
+        return Error::file(QStringLiteral("The kept settings “%1” are damaged too: %2").arg(backupFilePath(), problem));
+    // The damaged file is kept beside, in case something in it matters.
+    const QFileInfo current(m_filePath);
+    if (current.exists()) {
+        const QString aside = m_filePath + QStringLiteral(".damaged");
+        QFile::remove(aside);
+        if (!QFile::rename(m_filePath, aside))
+            return Error::file(QStringLiteral("“%1” could not be moved aside; nothing was restored.").arg(m_filePath));
+    }
+    if (!QFile::copy(backupFilePath(), m_filePath))
+        return Error::file(QStringLiteral("“%1” could not be written; nothing was restored.").arg(m_filePath));
+    return {};
+}
+
+Error Preferences::syncChecked()
+{
+    if (m_loadError)
+        return m_loadError;
+    if (Error e = awaitLock(m_settings->fileName() + QStringLiteral(".lock")))
+        return e;
+    m_settings->sync();
+    if (m_settings->status() != QSettings::NoError || !QFileInfo(m_settings->fileName()).isFile())
+        return Error::file(QStringLiteral("The settings file “%1” could not be written (the disk may be full or the "
+                                          "file read-only); the change was not stored.").arg(m_settings->fileName()));
+    return {};
+}
 
 const Preferences::KeyInfo &Preferences::info(Key key)
 {
@@ -330,7 +488,8 @@ void Preferences::remove(Key key)
     m_settings->remove(info(key).name);
 }
 
-bool Preferences::setFromText(const QString &name, const QString &text, QString *error)
+bool Preferences::setFromText(const QString &name, const QString &text, QString *error,
+                              const std::function<QString(Key, const QVariant &)> &rule)
 {
     const int idx = keyIndex(name);
     if (idx < 0) {
@@ -340,50 +499,58 @@ bool Preferences::setFromText(const QString &name, const QString &text, QString 
     const Key key = Key(idx);
     const QString t = text.trimmed();
     bool ok = true;
+    QVariant parsed;
     switch (info(key).type) {
-    case Type::String: setString(key, text); break;
-    case Type::Int: {
-        const qint64 v = t.toLongLong(&ok);
-        if (ok)
-            setInteger(key, v);
-        break;
-    }
+    case Type::String: parsed = text; break;
+    case Type::Int: parsed = t.toLongLong(&ok); break;
     case Type::Bool: {
         bool b = false;
         ok = parseBool(t, &b);
-        if (ok)
-            setBool(key, b);
+        parsed = b;
         break;
     }
     case Type::Real: {
         // Rates are read in single precision: a value beyond it becomes infinity.
         const double v = QLocale::c().toDouble(t, &ok);
         ok = ok && std::isfinite(v) && std::isfinite(float(v));
-        if (ok)
-            setReal(key, v);
+        parsed = v;
         break;
     }
     case Type::Date: {
         const Date d = Date::fromIso8601(t);
         ok = d.isValid();
-        if (ok)
-            setDate(key, d);
+        parsed = QVariant::fromValue(d);
         break;
     }
     case Type::Data: {
         QFile f(t);
         ok = f.open(QIODevice::ReadOnly);
         if (ok)
-            setData(key, f.readAll());
+            parsed = f.readAll();
         break;
     }
     }
-    if (!ok)
+    if (!ok) {
         *error = QStringLiteral("“%1” is not a valid %2 for %3")
                      .arg(text, info(key).type == Type::Data ? QStringLiteral("readable file")
                                                                : typeName(info(key).type),
                           name);
-    return ok;
+        return false;
+    }
+    if (rule) {
+        *error = rule(key, parsed);
+        if (!error->isEmpty())
+            return false;
+    }
+    switch (info(key).type) {
+    case Type::String: setString(key, parsed.toString()); break;
+    case Type::Int: setInteger(key, parsed.toLongLong()); break;
+    case Type::Bool: setBool(key, parsed.toBool()); break;
+    case Type::Real: setReal(key, parsed.toDouble()); break;
+    case Type::Date: setDate(key, parsed.value<Date>()); break;
+    case Type::Data: setData(key, parsed.toByteArray()); break;
+    }
+    return true;
 }
 
 QString Preferences::toText(Key key) const
@@ -511,13 +678,13 @@ QVariant Preferences::raw(const QString &name) const
 
 void Preferences::sync()
 {
-    clearStaleLock(m_settings->fileName() + QStringLiteral(".lock"));
-    m_settings->sync();
+    if (const Error e = syncChecked())
+        qWarning().noquote() << e.message();
 }
 
 QString Preferences::filePath() const
 {
-    return m_settings->fileName();
+    return m_filePath;
 }
 
 } // namespace tabo

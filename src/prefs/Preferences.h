@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
+#include "base/Error.h"
 #include "prefs/PrefKeys.def"
 
 #include <QByteArray>
@@ -8,9 +9,11 @@
 #include <QVariant>
 #include <QVariantMap>
 
+#include <functional>
 #include <memory>
 
 class QSettings;
+class QTemporaryDir;
 
 namespace tabo {
 
@@ -75,8 +78,10 @@ public:
     void remove(Key key);
 
     // Command-line access by stored name; the text is parsed by the key's type
-    // (dates in ISO 8601). False with a reason when it cannot be.
-    bool setFromText(const QString &name, const QString &text, QString *error);
+    // (dates in ISO 8601). False with a reason when it cannot be, or when
+    // `rule` refuses the parsed value (its reason).
+    bool setFromText(const QString &name, const QString &text, QString *error,
+                     const std::function<QString(Key, const QVariant &)> &rule = {});
     QString toText(Key key) const;
 
     // Writes every pair of the language-default file chosen by
@@ -97,10 +102,30 @@ public:
     // Removes the settings lock file at `lockPath` when no live process
     // holds it; true when it was removed.
     static bool clearStaleLock(const QString &lockPath);
-    void sync();
+    enum class LockState { Free, Cleared, Held };
+    static LockState lockState(const QString &lockPath, qint64 *owner = nullptr);
+    // Waits a few seconds for a live holder of the lock, then says who it is.
+    static Error awaitLock(const QString &lockPath);
+
+    // Why the settings file was not used (damaged, not a file, locked): the
+    // values then live in memory only and the file stays as it is.
+    Error loadError() const { return m_loadError; }
+    // The last settings read and found good, kept beside the file.
+    QString backupFilePath() const;
+    // Puts the kept copy in place of the file (the damaged one moves to
+    // ".damaged"); a new Preferences reads it.
+    Error restoreBackup();
+
+    void sync(); // failures go to the log
+    // Writes what is pending and says when it could not be stored.
+    Error syncChecked();
     QString filePath() const;
 
 private:
+    void keepGoodCopy();
+    QString m_filePath;
+    Error m_loadError;
+    std::unique_ptr<QTemporaryDir> m_scratch;
     QList<std::pair<QString, QVariant>> languageDefaultValues() const;
     std::unique_ptr<QSettings> m_settings;
     QVariantMap m_registered;
