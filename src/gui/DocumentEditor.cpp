@@ -60,8 +60,11 @@ DocumentEditor::DocumentEditor(AppController &app, QWidget *parent)
 void DocumentEditor::showDocument(Record *document)
 {
     // What was typed but not yet finished belongs to the document it was
-    // typed into.
-    commitPending();
+    // typed into. The same document shown again (news from another program)
+    // keeps the unfinished edit; it is finished, and compared with the news,
+    // when the person leaves the field.
+    if (document != m_doc)
+        commitPending();
     m_doc = document;
     m_stack->setCurrentIndex(document ? 1 : 0);
     m_header->showDocument(document);

@@ -50,7 +50,7 @@ void FieldBinder::add(QWidget *widget, int attr, Kind kind, HintLabel *hint)
 {
     widget->setObjectName(entityDesc(EntityId::Invoice).attributes[attr].name);
     widget->setEnabled(false);
-    m_bindings.append({ widget, attr, kind, hint });
+    m_bindings.append({ widget, attr, kind, hint, {} });
 }
 
 const FieldBinder::Binding *FieldBinder::bindingOf(const QWidget *widget) const
@@ -118,6 +118,7 @@ void FieldBinder::show(const Binding &b, bool force)
     b.widget->setEnabled(m_doc != nullptr);
     if (!force && isPending(b))
         return;
+    b.shown = m_doc ? m_doc->value(b.attr) : QVariant();
     if (b.hint && force)
         b.hint->clearMessage();
     switch (b.kind) {
@@ -224,8 +225,11 @@ void FieldBinder::commit(const Binding &b)
         value = static_cast<QCheckBox *>(b.widget)->isChecked();
         break;
     }
-    if (!m_app.setDocumentValue(m_doc, b.attr, value))
+    const QVariant startedFrom = b.shown; // a refresh during the commit shows the stored value
+    if (!m_app.setDocumentValue(m_doc, b.attr, value, startedFrom))
         show(b, true); // the stored value stays, and the field says so
+    else
+        b.shown = m_doc->value(b.attr);
 }
 
 } // namespace tabo

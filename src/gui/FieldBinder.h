@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QVariant>
 
 class QCheckBox;
 class QDateEdit;
@@ -52,6 +53,9 @@ private:
         int attr;
         Kind kind;
         HintLabel *hint;
+        // What the record held when the field last showed it: the value an
+        // edit started from, so a change made elsewhere meanwhile is seen.
+        mutable QVariant shown;
     };
 
     void add(QWidget *widget, int attr, Kind kind, HintLabel *hint = nullptr);

@@ -12,6 +12,7 @@
 #include "gui/PdfPane.h"
 #include "gui/ReportWindow.h"
 #include "gui/MainWindow.h"
+#include "gui/PlainTextField.h"
 #include "TestSupport.h"
 #include "WindowFixture.h"
 
@@ -31,6 +32,8 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
+#include <QJsonObject>
+#include <QJsonDocument>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
@@ -116,6 +119,7 @@ private Q_SLOTS:
     void foreignFileLeavesWindowUsable();
     void firstStartAssistantInstallsLanguage();
     void showsWhatTheCommandLineWrote();
+    void pendingEditMeetsAChangeFromTheCommandLine();
     void catalogueWindow();
     void layoutAndTitle();
     void reportFollowsTheList();
@@ -300,6 +304,54 @@ void TestMainWindow::showsWhatTheCommandLineWrote()
     QTRY_COMPARE_WITH_TIMEOUT(f.model()->rowCount(), 2, 5000);
     QCOMPARE(f.figure("quoteCount"), QStringLiteral("1"));
     QVERIFY(f.app.findDocument(id));
+}
+
+void TestMainWindow::pendingEditMeetsAChangeFromTheCommandLine()
+{
+    Fixture f;
+    f.start();
+    f.window->newInvoiceAction()->trigger();
+    Record *doc = f.app.currentInvoice();
+    const QString id = doc->text(Invoice::uniqueID);
+    const auto cliSet = [&id](const char *key, const char *value) {
+        QProcess cli;
+        cli.start(QStringLiteral(TABO_CLI), {QStringLiteral("set"), id, QLatin1String(key), QLatin1String(value)});
+        return cli.waitForFinished(30000) && cli.exitStatus() == QProcess::NormalExit && cli.exitCode() == 0;
+    };
+    auto *notes = f.window->findChild<PlainTextField *>(QStringLiteral("notes"));
+    auto *subject = f.window->findChild<QLineEdit *>(QStringLiteral("subject"));
+    QVERIFY(notes && subject);
+
+    // The same field: typed here, set there; finishing the edit asks, with
+    // both values, and Reload keeps the other program's text.
+    notes->setFocus();
+    QTest::keyClicks(notes, QStringLiteral("Typed here"));
+    QVERIFY(notes->isModified());
+    QVERIFY(cliSet("notes", "Set by tabo-cli"));
+    QTRY_COMPARE_WITH_TIMEOUT(doc->text(Invoice::notes), QStringLiteral("Set by tabo-cli"), 8000);
+    QCOMPARE(notes->toPlainText(), QStringLiteral("Typed here")); // the refresh left the edit alone
+    GuiInteraction::setNextAnswer(1);
+    Q_EMIT notes->editingFinished();
+    QCOMPARE(GuiInteraction::lastAlertTitle(), QStringLiteral("Changed Elsewhere"));
+    QVERIFY(GuiInteraction::lastAlertText().contains(QStringLiteral("Stored now: Set by tabo-cli\nYours: Typed here")));
+    QCOMPARE(doc->text(Invoice::notes), QStringLiteral("Set by tabo-cli"));
+    QCOMPARE(notes->toPlainText(), QStringLiteral("Set by tabo-cli"));
+
+    // Another field: both changes stay, nobody is asked.
+    const QString asked = GuiInteraction::lastAlertText();
+    subject->setFocus();
+    QTest::keyClicks(subject, QStringLiteral("Typed subject"));
+    QVERIFY(cliSet("notes", "Second note"));
+    QTRY_COMPARE_WITH_TIMEOUT(doc->text(Invoice::notes), QStringLiteral("Second note"), 8000);
+    Q_EMIT subject->editingFinished();
+    QCOMPARE(GuiInteraction::lastAlertText(), asked);
+    QVERIFY(!f.app.saveContext());
+    QProcess show;
+    show.start(QStringLiteral(TABO_CLI), {QStringLiteral("show"), id, QStringLiteral("--json")});
+    QVERIFY(show.waitForFinished(30000));
+    const QJsonObject stored = QJsonDocument::fromJson(show.readAllStandardOutput()).object();
+    QCOMPARE(stored.value(QStringLiteral("subject")).toString(), QStringLiteral("Typed subject"));
+    QCOMPARE(stored.value(QStringLiteral("notes")).toString(), QStringLiteral("Second note"));
 }
 
 void TestMainWindow::catalogueWindow()
