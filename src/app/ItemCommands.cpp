@@ -51,16 +51,23 @@ QString numberText(double v)
     return r.ec == std::errc() ? QString::fromLatin1(buf, int(r.ptr - buf)) : QString();
 }
 
+QString tooLarge(const QString &what, const QString &text)
+{
+    return QStringLiteral("The %1 “%2” is too large; it can be at most about 3.4e38.").arg(what, text);
+}
+
 // A typed number for the field called `what`; sets *error when it is not one.
 bool readField(const ItemCommands &commands, const QString &text, const QString &what, double *value, QString *error)
 {
     // Price and quantity are single precision: a larger number would be
     // stored as infinity.
-    if (commands.parseInRegion(text, value) && fitsAttribute(AttrType::Float, *value))
+    const bool number = commands.parseInRegion(text, value);
+    if (number && fitsAttribute(AttrType::Float, *value))
         return true;
     if (error)
         *error = text.trimmed().isEmpty() ? QStringLiteral("The %1 is empty; please enter a number.").arg(what)
-                                          : QStringLiteral("The %1 “%2” is not a number.").arg(what, text);
+                 : number ? tooLarge(what, text)
+                          : QStringLiteral("The %1 “%2” is not a number.").arg(what, text);
     return false;
 }
 
@@ -401,7 +408,8 @@ bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &va
         else if (value.metaType() != QMetaType::fromType<Date>())
             d = value.toDouble(&ok);
         if (!ok || !fitsAttribute(type, d)) {
-            setError(error, QStringLiteral("The %1 “%2” is not a number.").arg(fieldWords(key), value.toString()));
+            setError(error, ok ? tooLarge(fieldWords(key), value.toString())
+                               : QStringLiteral("The %1 “%2” is not a number.").arg(fieldWords(key), value.toString()));
             return false;
         }
         v = d;

@@ -68,8 +68,11 @@ bool AttributeText::convert(const EntityDesc &desc, const QString &key, const QS
     }
     // A value the attribute cannot hold (1e39 in a float) would be stored as
     // infinity and poison every total.
-    if (ok && (type == AttrType::Double || type == AttrType::Float))
-        ok = fitsAttribute(type, value->toDouble());
+    if (ok && (type == AttrType::Double || type == AttrType::Float) && !fitsAttribute(type, value->toDouble())) {
+        *error = QStringLiteral("“%1” is too large for %2 (at most %3).")
+                     .arg(text, key, type == AttrType::Float ? QStringLiteral("about 3.4e38") : QStringLiteral("about 1.8e308"));
+        return false;
+    }
     if (!ok)
         *error = invalid(text, type, key);
     return ok;

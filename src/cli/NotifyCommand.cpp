@@ -21,15 +21,17 @@ namespace {
 const QString kDateHelp = QStringLiteral("“%1” is not an ISO 8601 date or moment (2026-12-03 or 2026-12-03T09:00).");
 
 // A day alone means its first moment, where the person is.
+// A moment without a zone is local time; one with "Z" or an offset is kept
+// as it says. (QDate reads the day of "2026-12-03T09:00" and drops the rest,
+// so only a text of a day alone is read as one.)
 std::optional<Date> moment(const QString &text)
 {
-    const QDate day = QDate::fromString(text, Qt::ISODate);
-    if (day.isValid())
-        return Date::fromDateTime(day.startOfDay());
-    QDateTime local = QDateTime::fromString(text, Qt::ISODate);
-    if (local.isValid())
-        return Date::fromDateTime(local);
-    const Date date = Date::fromIso8601(text);
+    const QString t = text.trimmed();
+    if (t.size() == 10) {
+        const QDate day = QDate::fromString(t, Qt::ISODate);
+        return day.isValid() ? std::optional(Date::fromDateTime(day.startOfDay())) : std::nullopt;
+    }
+    const Date date = Date::fromIso8601(t);
     return date.isValid() ? std::optional(date) : std::nullopt;
 }
 

@@ -4,6 +4,7 @@
 #include "cli/AttributeText.h"
 #include "cli/Console.h"
 #include "cli/Session.h"
+#include "domain/Record.h"
 
 #include <QCommandLineParser>
 
@@ -26,8 +27,22 @@ int SetCommand::execute(const QStringList &args)
     Record *doc = m_session.document(pos.at(0));
     if (!doc)
         return kExitFailure;
+    const QString &key = pos.at(1);
+    // The unique ID is how reminders, the window and every command find the
+    // document; the codes have meanings only within their range.
+    if (key == QLatin1String("uniqueID"))
+        return failure(QStringLiteral("A document's uniqueID cannot be changed: reminders, the window and every "
+                                      "command find the document by it."));
     QString reason;
-    if (!AttributeText::assign(*doc, pos.at(1), pos.at(2), &reason))
+    QVariant value;
+    if (!AttributeText::convert(doc->desc(), key, pos.at(2), &value, &reason))
+        return failure(reason);
+    if (key == QLatin1String("kind") && value.toLongLong() != 0 && value.toLongLong() != 1)
+        return failure(QStringLiteral("“%1” is no kind: 0 is a quote, 1 an invoice.").arg(pos.at(2)));
+    if (key == QLatin1String("status") && (value.toLongLong() < 0 || value.toLongLong() > 4))
+        return failure(QStringLiteral("“%1” is no status: 0 created, 1 sent, 2 overdue, 3 paid, 4 partly paid.")
+                           .arg(pos.at(2)));
+    if (!AttributeText::assign(*doc, key, pos.at(2), &reason))
         return failure(reason);
     return m_session.controller().saveContext() ? kExitFailure : kExitOk;
 }

@@ -47,6 +47,8 @@ struct Line
     QString unitCode;
     double quantity = 0;
     double price = 0; // net, per unit
+    double baseQuantity = 1; // the quantity the price is for (received files)
+    double adjustment = 0;   // the line's own charges less allowances (received files)
     double net = 0;   // to the cent
     TaxCategory tax;
 };

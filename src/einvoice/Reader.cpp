@@ -7,12 +7,15 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QXmlStreamReader>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
+#include <qpdf/Pipeline.hh>
 
 #include <cmath>
+#include <stdexcept>
 #include <memory>
 #include <vector>
 
@@ -20,6 +23,26 @@ namespace tabo::einvoice {
 
 namespace {
 
+
+// Amounts a received file states that cannot be numbers of money (NaN,
+// infinities, 1e308, words): collected while reading, so the file is
+// refused instead of showing them as 0.00 or an overflowed integer.
+thread_local QStringList *t_unreadable = nullptr;
+// Far above any invoice, and low enough that cents stay exact in a double.
+constexpr double kMaxAmount = 1e13;
+
+double readAmount(const QString &text, QStringView where)
+{
+    if (text.isEmpty())
+        return 0.0;
+    bool ok = false;
+    const double v = text.toDouble(&ok);
+    if (ok && std::isfinite(v) && std::fabs(v) <= kMaxAmount)
+        return v;
+    if (t_unreadable)
+        *t_unreadable << QStringLiteral("%1 “%2”").arg(where.toString(), text.left(40));
+    return 0.0;
+}
 
 // The element tree, by local names: the two syntaxes' names do not clash
 // within a document, and the root's namespace has been checked.
@@ -63,11 +86,10 @@ struct Node
     }
     double number(QStringView path, bool *present = nullptr) const
     {
-        bool ok = false;
-        const double v = value(path).toDouble(&ok);
+        const QString text = value(path);
         if (present)
-            *present = ok;
-        return ok && std::isfinite(v) ? v : 0.0;
+            *present = !text.isEmpty();
+        return readAmount(text, path.mid(path.lastIndexOf(u'/') + 1));
     }
 };
 
@@ -214,8 +236,16 @@ bool readCii(const Node &root, Received *out, QString *error)
         line.description = item->value(u"SpecifiedTradeProduct/Description");
         line.sellerId = item->value(u"SpecifiedTradeProduct/SellerAssignedID");
         line.price = item->number(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/ChargeAmount");
+        if (const Node *base = item->at(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/BasisQuantity"))
+            line.baseQuantity = readAmount(base->text.trimmed(), u"BasisQuantity");
+        for (const Node *ac : item->at(u"SpecifiedLineTradeSettlement")
+                                 ? item->at(u"SpecifiedLineTradeSettlement")->all(u"SpecifiedTradeAllowanceCharge")
+                                 : QList<const Node *>()) {
+            const double amount = ac->number(u"ActualAmount");
+            line.adjustment += ac->value(u"ChargeIndicator/Indicator") == QLatin1String("true") ? amount : -amount;
+        }
         if (const Node *q = item->at(u"SpecifiedLineTradeDelivery/BilledQuantity")) {
-            line.quantity = q->text.trimmed().toDouble();
+            line.quantity = readAmount(q->text.trimmed(), u"BilledQuantity");
             line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
         }
         line.net = item->number(u"SpecifiedLineTradeSettlement/SpecifiedTradeSettlementLineMonetarySummation/LineTotalAmount");
@@ -263,7 +293,7 @@ bool readCii(const Node &root, Received *out, QString *error)
         // The tax total may be stated twice, once in a tax currency.
         for (const Node *t : sum->all(u"TaxTotalAmount"))
             if (t->attributes.value(QStringLiteral("currencyID"), m.currency) == m.currency)
-                m.taxTotal = t->text.trimmed().toDouble();
+                m.taxTotal = readAmount(t->text.trimmed(), u"TaxTotalAmount");
         m.rounding = sum->number(u"RoundingAmount");
         m.taxInclusive = sum->number(u"GrandTotalAmount", &grand);
         m.prepaid = sum->number(u"TotalPrepaidAmount");
@@ -366,8 +396,14 @@ bool readUbl(const Node &root, bool credit, Received *out, QString *error)
         line.name = item->value(u"Item/Name");
         line.description = item->value(u"Item/Description");
         line.sellerId = item->value(u"Item/SellersItemIdentification/ID");
+        if (const Node *base = item->at(u"Price/BaseQuantity"))
+            line.baseQuantity = readAmount(base->text.trimmed(), u"BaseQuantity");
+        for (const Node *ac : item->all(u"AllowanceCharge")) {
+            const double amount = ac->number(u"Amount");
+            line.adjustment += ac->value(u"ChargeIndicator") == QLatin1String("true") ? amount : -amount;
+        }
         if (const Node *q = item->child(credit ? u"CreditedQuantity" : u"InvoicedQuantity")) {
-            line.quantity = q->text.trimmed().toDouble();
+            line.quantity = readAmount(q->text.trimmed(), credit ? u"CreditedQuantity" : u"InvoicedQuantity");
             line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
         }
         line.net = item->number(u"LineExtensionAmount");
@@ -377,6 +413,33 @@ bool readUbl(const Node &root, bool credit, Received *out, QString *error)
     }
     return true;
 }
+
+// Collects a stream's decoded bytes up to the limit the XML path has, and
+// stops the decoder there: a few hundred kilobytes of PDF can inflate to
+// gigabytes.
+class BoundedSink : public Pipeline
+{
+public:
+    BoundedSink()
+        : Pipeline("bounded", nullptr)
+    {
+    }
+    void write(unsigned char const *data, size_t len) override
+    {
+        if (m_bytes.size() + qint64(len) > kMaxReceivedBytes) {
+            m_overflow = true;
+            throw std::length_error("attachment larger than the limit");
+        }
+        m_bytes.append(reinterpret_cast<const char *>(data), qsizetype(len));
+    }
+    void finish() override {}
+    bool overflow() const { return m_overflow; }
+    const QByteArray &bytes() const { return m_bytes; }
+
+private:
+    QByteArray m_bytes;
+    bool m_overflow = false;
+};
 
 // The XML a PDF carries: Factur-X's and ZUGFeRD's names first, then any XML.
 QByteArray attachedXml(const QByteArray &pdf, QString *error)
@@ -400,8 +463,26 @@ QByteArray attachedXml(const QByteArray &pdf, QString *error)
             *error = QStringLiteral("The PDF carries no e-invoice: it has no XML attachment.");
             return {};
         }
-        const std::shared_ptr<Buffer> data = chosen->getEmbeddedFileStream().getStreamData();
-        return QByteArray(reinterpret_cast<const char *>(data->getBuffer()), qsizetype(data->getSize()));
+        BoundedSink sink;
+        bool filtered = false;
+        bool ok = false;
+        try {
+            ok = chosen->getEmbeddedFileStream().pipeStreamData(&sink, &filtered, 0, qpdf_dl_generalized, true);
+        } catch (const std::length_error &) {
+        }
+        if (sink.overflow()) {
+            *error = QStringLiteral("The PDF's e-invoice unpacks to more than %1 MB; e-invoices are far smaller, so "
+                                    "it is not read.").arg(kMaxReceivedBytes / (1024 * 1024));
+            return {};
+        }
+        if (!ok) {
+            *error = QStringLiteral("The PDF's e-invoice attachment cannot be unpacked.");
+            return {};
+        }
+        return sink.bytes();
+    } catch (const std::bad_alloc &) {
+        *error = QStringLiteral("The PDF is too large to be read.");
+        return {};
     } catch (const std::exception &e) {
         *error = QStringLiteral("The PDF cannot be read: %1").arg(QString::fromUtf8(e.what()));
         return {};
@@ -413,6 +494,9 @@ QByteArray attachedXml(const QByteArray &pdf, QString *error)
 bool readReceived(const QByteArray &data, Received *out, QString *error)
 {
     *out = Received();
+    QStringList unreadable;
+    t_unreadable = &unreadable;
+    const auto stopCollecting = qScopeGuard([] { t_unreadable = nullptr; });
     QString reason;
     QByteArray xml = data;
     if (data.startsWith("%PDF")) {
@@ -441,6 +525,11 @@ bool readReceived(const QByteArray &data, Received *out, QString *error)
         reason = QStringLiteral("This is not an e-invoice: its root is “%1” in the namespace “%2”, not a CII or "
                                 "UBL invoice.")
                      .arg(root->name, ns);
+    }
+    if (ok && !unreadable.isEmpty()) {
+        reason = QStringLiteral("The e-invoice states amounts that are no readable amounts of money: %1.")
+                     .arg(unreadable.join(QStringLiteral(", ")));
+        ok = false;
     }
     if (!ok)
         *error = reason;
@@ -477,8 +566,18 @@ QStringList checkTotals(const Model &m)
             problems << QStringLiteral("%1 is %2, but its parts add up to %3.").arg(what, amount(stated), amount(computed / 100.0));
     };
     qint64 lines = 0;
-    for (const Line &l : m.lines)
+    for (const Line &l : m.lines) {
         lines += c(l.net);
+        // Quantity × price (per base quantity) and the line's own allowances
+        // and charges make its total; the standard rounds that to the cent
+        // once, so half a cent each way of the exact product is its tolerance.
+        const double base = l.baseQuantity > 0 ? l.baseQuantity : 1.0;
+        const double exact = l.quantity * l.price / base + l.adjustment;
+        if (std::fabs(exact - l.net) > 0.005 + 1e-9 * std::fabs(exact))
+            problems << QStringLiteral("Line %1 (%2) is %3, but its quantity %4 × price %5 makes %6.")
+                            .arg(l.id, l.name, amount(l.net), QString::number(l.quantity, 'g', 12),
+                                 QString::number(l.price, 'g', 12), amount(exact));
+    }
     expect(QStringLiteral("The sum of the lines"), m.lineTotal, lines);
     qint64 allowances = 0, charges = 0;
     for (const AllowanceCharge &a : m.allowancesCharges)
