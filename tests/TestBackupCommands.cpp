@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/BackupCommands.h"
+#include "app/FileCommands.h"
 #include "domain/ListFilter.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
@@ -91,6 +92,7 @@ private Q_SLOTS:
     void invoiceAndItemRestores();
     void badInvoiceBackupsChangeNothing();
     void automaticBackup();
+    void savePanelsRefuseOurFiles();
     void restoreFromDefaultFolder();
     void killedRestoreLeavesOldOrNewData();
 };
@@ -261,6 +263,38 @@ void TestBackupCommands::automaticBackup()
     QCOMPARE(f.ui.lastAlertText(), QStringLiteral("No valid backup file available. Please restore your Tabo database "
                                                   "from your own (Time Machine) backups."));
     QCOMPARE(numbers(f.app), (QStringList{"X0", "X1"}));
+}
+
+void TestBackupCommands::savePanelsRefuseOurFiles()
+{
+    Fixture f;
+    addInvoices(f.app, QStringLiteral("P"), 1);
+    f.app.setCurrentInvoice(f.app.documentList().all().first());
+    f.app.createBackupPath();
+    QVERIFY(f.backups.doTheNewBackup());
+    const QString store = f.app.storeURL();
+    const QString link = f.home.path() + QStringLiteral("/export.xml");
+    QVERIFY(QFile::link(store, link));
+    const QList<std::function<bool()>> commands = {
+        [&] { return f.backups.backupTaboData(); }, [&] { return f.backups.backupItems(); },
+        [&] { return f.backups.backupCompleteTaboData(); }, [&] { return f.app.files().exportInvoice(0); },
+        [&] { return f.app.files().exportItems(); }, [&] { return f.app.files().exportTaboDataXML(); },
+        [&] { return f.app.files().exportAsInvoiceFile(); }};
+    const QByteArray backup = plist::write(plist::readFile(f.app.backupPath()), plist::Format::Xml, nullptr);
+    for (const QString &target : QStringList{store, link, f.home.configFile(), f.app.backupPath()}) {
+        for (const auto &command : commands) {
+            f.ui.files = {target};
+            const qsizetype errors = f.ui.errors.size();
+            QVERIFY(!command());
+            QCOMPARE(f.ui.errors.size(), errors + 1);
+            QVERIFY2(f.ui.errors.last().description.contains(QStringLiteral("Tabo never writes")),
+                     qPrintable(f.ui.errors.last().description));
+        }
+    }
+    QVERIFY(QFileInfo(link).isSymLink());
+    QCOMPARE(plist::write(plist::readFile(f.app.backupPath()), plist::Format::Xml, nullptr), backup);
+    QVERIFY(f.app.reopenStore());
+    QCOMPARE(numbers(f.app), QStringList{QStringLiteral("P0")});
 }
 
 void TestBackupCommands::restoreFromDefaultFolder()

@@ -240,7 +240,7 @@ bool BackupCommands::backupCompleteTaboData()
     request.extensions = {QStringLiteral("mbdb")};
     request.suggestedName = QStringLiteral("Tabo 2 Database");
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveFile(request);
+    const QString path = m_app.ui().saveTarget(request);
     if (path.isEmpty())
         return false;
     QString error;
@@ -342,7 +342,7 @@ bool BackupCommands::backupTaboData()
     request.title = QStringLiteral("Backup Tabo Invoices");
     request.extensions = {QStringLiteral("taboinvoices")};
     request.suggestedName = QStringLiteral("Tabo Invoices");
-    const QString path = m_app.ui().saveFile(request);
+    const QString path = m_app.ui().saveTarget(request);
     if (path.isEmpty())
         return false;
     QString error;
@@ -376,7 +376,7 @@ bool BackupCommands::backupItems()
     request.title = QStringLiteral("Backup Tabo Items");
     request.extensions = {QStringLiteral("taboitems")};
     request.suggestedName = QStringLiteral("Tabo Items");
-    const QString path = m_app.ui().saveFile(request);
+    const QString path = m_app.ui().saveTarget(request);
     if (path.isEmpty())
         return false;
     QString error;

@@ -238,7 +238,7 @@ bool DesignLibrary::exportDesign(const Record *design)
     request.canCreateFolders = true;
     // A slash in a title cannot be part of a file name.
     request.suggestedName = design->text(Design::title).replace(QLatin1Char('/'), QLatin1Char('-'));
-    QString path = m_app.ui().saveFile(request);
+    QString path = m_app.ui().saveTarget(request);
     if (path.isEmpty())
         return false;
     if (!path.endsWith(QLatin1Char('.') + kExtension, Qt::CaseInsensitive))

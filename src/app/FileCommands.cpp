@@ -79,7 +79,7 @@ bool FileCommands::exportInvoice(int exportFormat)
                                      invoice->text(Invoice::number))
                                 .replace(QLatin1Char('/'), QLatin1Char('-'));
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveFile(request);
+    const QString path = m_app.ui().saveTarget(request);
     if (path.isEmpty())
         return false;
     return writeInvoiceFile(*invoice, exportFormat, path, nullptr);
@@ -103,7 +103,7 @@ bool FileCommands::exportItems()
     request.title = kDatabaseTitle;
     request.extensions = {QStringLiteral("xml")};
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveFile(request);
+    const QString path = m_app.ui().saveTarget(request);
     return !path.isEmpty() && writeItemsXml(true, path, nullptr);
 }
 
@@ -114,7 +114,7 @@ bool FileCommands::exportTaboDataXML()
     request.extensions = {QStringLiteral("xml")};
     request.suggestedName = QStringLiteral("Tabo Database");
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveFile(request);
+    const QString path = m_app.ui().saveTarget(request);
     return !path.isEmpty() && writeItemsXml(false, path, nullptr);
 }
 
@@ -126,7 +126,7 @@ bool FileCommands::exportAsInvoiceFile()
     request.extensions = {QStringLiteral("invdump")};
     request.suggestedName = QStringLiteral("Invoices Dump");
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveFile(request);
+    const QString path = m_app.ui().saveTarget(request);
     return !path.isEmpty() && writeInvoiceDump(path, nullptr);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Error.h"
+#include "prefs/ProtectedFiles.h"
 #include "render/PrintSystem.h"
 
 #include <QString>
@@ -42,6 +43,18 @@ public:
     // Open and save panels; an empty result means the person cancelled.
     virtual QString openFile(const FileRequest &request) = 0;
     virtual QString saveFile(const FileRequest &request) = 0;
+    // A save panel whose answer may not name one of Tabo's own files (the
+    // store, the settings, the automatic backups): such an answer is
+    // refused in words and reads as a cancel.
+    QString saveTarget(const FileRequest &request)
+    {
+        const QString path = saveFile(request);
+        if (const Error refused = ProtectedFiles::check(path)) {
+            presentError(refused);
+            return {};
+        }
+        return path;
+    }
 
     // Hands a file to the program the desktop associates with it. False when
     // nothing could open it.

@@ -258,7 +258,7 @@ bool OutputCommands::savePdf(Record &invoice)
     request.extensions = {xml ? QStringLiteral("xml") : QStringLiteral("pdf")};
     request.suggestedName = name;
     request.canCreateFolders = true;
-    QString target = m_app.ui().saveFile(request);
+    QString target = m_app.ui().saveTarget(request);
     if (target.isEmpty())
         return false;
     if (QFileInfo(target).suffix().isEmpty())
@@ -274,7 +274,7 @@ bool OutputCommands::savePdfAs(const QString &path, const QString &panelTitle, c
     request.extensions = {QStringLiteral("pdf")};
     request.suggestedName = suggestedName;
     request.canCreateFolders = true;
-    QString target = m_app.ui().saveFile(request);
+    QString target = m_app.ui().saveTarget(request);
     if (target.isEmpty())
         return false;
     if (QFileInfo(target).suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive) != 0)

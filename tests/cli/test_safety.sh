@@ -203,11 +203,25 @@ expect "the settings restored" "$OUT" "Muster GmbH"
 mv "$CONF" "$T/conf.moved"; mkdir "$CONF"
 run 1 prefs set prefsName X
 rmdir "$CONF"; mv "$T/conf.moved" "$CONF"
-if [ "$(id -u)" -ne 0 ]; then
+# A full disk (no byte may be written) and a read-only file: said, nothing lost.
+cp "$CONF" "$T/conf.before"
+# (written through a pipe: a file could not take the message either)
+(trap '' XFSZ; ulimit -f 0; exec "$CLI" prefs set prefsName Full) 2>&1 | cat >"$T/err"
+expect "prefs set on a full disk" "${PIPESTATUS[0]}" 1
+[[ $(<"$T/err") == *"could not be written"* ]] && pass=$((pass + 1)) || bad "full disk says: $(<"$T/err")"
+cmp -s "$CONF" "$T/conf.before" && pass=$((pass + 1)) || bad "the settings changed on a full disk"
+chmod 755 "$T" "$XDG_CONFIG_HOME" "$(dirname "$CONF")"
+chmod 644 "$CONF"
+if [ "$(id -u)" -eq 0 ]; then
+    AS_OTHER=(setpriv --reuid=65534 --regid=65534 --clear-groups)
+else
+    AS_OTHER=()
     chmod a-w "$CONF" "$(dirname "$CONF")"
-    run 1 prefs set prefsName Y
-    chmod u+w "$CONF" "$(dirname "$CONF")"
 fi
+"${AS_OTHER[@]}" "$CLI" prefs set prefsName ReadOnly >"$T/out" 2>"$T/err"
+expect "prefs set on a read-only file" "$?" 1
+cmp -s "$CONF" "$T/conf.before" && pass=$((pass + 1)) || bad "a read-only settings file changed"
+chmod u+w "$CONF" "$(dirname "$CONF")"
 # A lock held by a live process is waited for, then named; an empty one is cleared.
 python3 - "$CONF.lock" <<'PY' &
 import fcntl, os, sys, time
