@@ -285,13 +285,14 @@ void AppController::numberInSave(Record *document, QString (AppController::*numb
 
 namespace {
 const P::Key kCounters[] = {P::invCount, P::quotCount};
-// A number is skipped when another document holds it; so many documents
-// in a row holding the following ones would be a pattern that repeats.
+// A number is skipped when another document holds it; so many in a row
+// would mean a pattern that repeats.
 constexpr int kMaxSkips = 100000;
 } // namespace
 
-void AppController::mirrorCounters(bool seed)
+bool AppController::mirrorCounters(bool seed)
 {
+    bool moved = false;
     for (const P::Key key : kCounters) {
         const QString name = Preferences::info(key).name;
         const std::optional<qint64> stored = NumberCounters::read(m_store->handle(), name);
@@ -300,26 +301,33 @@ void AppController::mirrorCounters(bool seed)
                 NumberCounters::write(m_store->handle(), name, m_prefs.integer(key));
         } else if (*stored != m_prefs.integer(key)) {
             m_prefs.setString(key, QString::number(*stored));
+            moved = true;
         }
     }
+    return moved;
 }
 
 void AppController::renumberPending()
 {
     // Runs with the write lock held: the counters and the numbers other
     // documents hold cannot change before these numbers are written.
-    mirrorCounters(!m_pendingNumbers.isEmpty());
+    const bool countersMoved = mirrorCounters(!m_pendingNumbers.isEmpty());
     if (m_pendingNumbers.isEmpty())
         return;
-    QSet<const Record *> pending;
-    for (const PendingNumber &p : std::as_const(m_pendingNumbers))
-        pending.insert(p.document);
-    QSet<QString> held;
-    for (const Record *doc : m_list.all())
-        if (!doc->isDeleted() && !pending.contains(doc) && !doc->text(Invoice::number).isEmpty())
-            held.insert(doc->text(Invoice::number));
+    const bool recount = m_changedDuringSave || countersMoved;
+    // Asked of the store (indexed, and current under the lock), and of the
+    // documents this save is about to insert.
+    const auto held = [this](const Record *self, const QString &number) {
+        if (number.isEmpty())
+            return false;
+        for (const PendingNumber &p : std::as_const(m_pendingNumbers))
+            if (p.document != self && !p.document->isDeleted() && p.document->text(Invoice::number) == number)
+                return true;
+        return NumberCounters::numberHeld(m_store->handle(), number, self->text(Invoice::uniqueID));
+    };
+    bool renumbered = false;
     for (const PendingNumber &p : std::as_const(m_pendingNumbers)) {
-        if (p.document->isDeleted())
+        if (p.document->isDeleted() || (!recount && !held(p.document, p.document->text(Invoice::number))))
             continue;
         const P::Key counter = p.numberer == &AppController::quoteNumberString ? P::quotCount : P::invCount;
         const qint64 counted = m_prefs.integer(counter);
@@ -327,7 +335,7 @@ void AppController::renumberPending()
             m_list.remove(p.document);
         m_list.calculateDatabase(now());
         QString number = (this->*p.numberer)();
-        for (int skipped = 0; held.contains(number) && skipped < kMaxSkips; ++skipped) {
+        for (int skipped = 0; held(p.document, number) && skipped < kMaxSkips; ++skipped) {
             m_prefs.setString(counter, QString::number(m_prefs.integer(counter) + 1));
             const QString next = (this->*p.numberer)();
             if (next == number) // the pattern has no count: nothing to skip to
@@ -337,11 +345,12 @@ void AppController::renumberPending()
         if (m_prefs.integer(counter) != counted)
             NumberCounters::write(m_store->handle(), Preferences::info(counter).name, m_prefs.integer(counter));
         p.document->setText(Invoice::number, number);
-        held.insert(number);
         if (!p.countsItself)
             m_list.add(p.document);
+        renumbered = true;
     }
-    m_list.calculateDatabase(now());
+    if (renumbered)
+        m_list.calculateDatabase(now());
 }
 
 Error AppController::setNumberCounter(P::Key counter, qint64 value)

@@ -248,8 +248,9 @@ private:
     bool offerAutomaticBackup(const Error &empty);
     void renumberPending();
     // Store → settings; a counter the store does not hold yet is taken from
-    // the settings (`seed`, with the write lock held).
-    void mirrorCounters(bool seed);
+    // the settings (`seed`, with the write lock held). True when a counter
+    // moved since the settings last saw it.
+    bool mirrorCounters(bool seed);
     bool resolveConflicts();
 
     struct PendingNumber

@@ -41,4 +41,19 @@ Error write(sqlite3 *db, const QString &name, qint64 value)
     return {};
 }
 
+bool numberHeld(sqlite3 *db, const QString &number, const QString &uniqueID)
+{
+    sqlite3_stmt *stmt = nullptr;
+    bool held = false;
+    if (sqlite3_prepare_v2(db, "SELECT 1 FROM \"Invoice\" WHERE \"number\" = ? AND \"uniqueID\" IS NOT ? LIMIT 1", -1,
+                           &stmt, nullptr) == SQLITE_OK) {
+        const QByteArray n = number.toUtf8(), id = uniqueID.toUtf8();
+        sqlite3_bind_text(stmt, 1, n.constData(), int(n.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(stmt, 2, id.constData(), int(id.size()), SQLITE_TRANSIENT);
+        held = sqlite3_step(stmt) == SQLITE_ROW;
+    }
+    sqlite3_finalize(stmt);
+    return held;
+}
+
 } // namespace tabo::NumberCounters

@@ -18,6 +18,8 @@ namespace NumberCounters {
 
 std::optional<qint64> read(sqlite3 *db, const QString &name);
 Error write(sqlite3 *db, const QString &name, qint64 value);
+// Whether a stored document other than the one with `uniqueID` holds `number`.
+bool numberHeld(sqlite3 *db, const QString &number, const QString &uniqueID);
 
 } // namespace NumberCounters
 

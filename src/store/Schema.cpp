@@ -126,6 +126,8 @@ QStringList createIndexSql()
     return {
         QStringLiteral("CREATE INDEX IF NOT EXISTS \"Item_invoice\" ON \"Item\"(\"invoice\")"),
         QStringLiteral("CREATE INDEX IF NOT EXISTS \"Item_template\" ON \"Item\"(\"template\")"),
+        // A new number is checked against every number held, inside the save.
+        QStringLiteral("CREATE INDEX IF NOT EXISTS \"Invoice_number\" ON \"Invoice\"(\"number\")"),
     };
 }
 
@@ -213,7 +215,7 @@ bool hasMissingColumns(sqlite3 *db)
     sqlite3_stmt *stmt = nullptr;
     int indexes = 0;
     if (sqlite3_prepare_v2(db, "SELECT count(*) FROM sqlite_master WHERE type='index' AND name IN "
-                               "('Item_invoice','Item_template')", -1, &stmt, nullptr) == SQLITE_OK
+                               "('Item_invoice','Item_template','Invoice_number')", -1, &stmt, nullptr) == SQLITE_OK
         && sqlite3_step(stmt) == SQLITE_ROW)
         indexes = sqlite3_column_int(stmt, 0);
     sqlite3_finalize(stmt);
