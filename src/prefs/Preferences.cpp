@@ -255,7 +255,7 @@ Preferences::Preferences(const QString &filePath)
                                                  "start again.").arg(filePath));
     else if (info.exists())
         if (const QString problem = formatProblem(filePath); !problem.isEmpty())
-            m_loadError = Error::file(QStringLiteral("The settings file “%1” is damaged: %2 Tabo has left it as it "
+            m_loadError = Error::file(QStringLiteral("The settings file “%1” is damaged. %2 Tabo has left it as it "
                                                      "is.%3").arg(filePath, problem,
                                                                   QFileInfo(backupFilePath()).isFile()
                                                                       ? QStringLiteral(" The last good settings are "

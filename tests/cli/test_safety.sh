@@ -281,6 +281,7 @@ worker new "$N" & worker new "$N" & worker dup $((N / 2)) & worker del $((N / 2)
 wait
 run 0 list --json
 expect "repeated numbers after $((3 * N)) concurrent calls" "$(dupes)" 0
+echo "concurrent numbering: $((3 * N)) calls, $(jval 'len(d["documents"])') documents, $(dupes) repeated numbers"
 
 echo "$pass passed, $fail failed"
 [ "$fail" -eq 0 ]
