@@ -6,6 +6,7 @@
 #include "app/DesignLibrary.h"
 #include "app/Interaction.h"
 #include "domain/Numbering.h"
+#include "domain/PrefRules.h"
 #include "gui/DesignPane.h"
 #include "gui/FileMenu.h"
 #include "gui/HintLabel.h"
@@ -256,10 +257,10 @@ QWidget *QVPreferencePanel::createInvoicePane()
         auto *box = new QGroupBox(title);
         QFormLayout *form = newForm(box);
         form->addRow(tr("Pattern:"), withHint(m_binder, m_binder->pattern(pattern)));
-        form->addRow(tr("Counter:"), withHint(m_binder, m_binder->number(count, 0, 999999999, tr("The counter"))));
+        form->addRow(tr("Counter:"), withHint(m_binder, m_binder->number(count, 0, PrefRules::kMaxCounter, tr("The counter"))));
         form->addRow(QString(), m_binder->check(hasNumber, tr("New documents get a number")));
         form->addRow(QString(), m_binder->check(hasDays, daysLabel));
-        form->addRow(tr("Days:"), withHint(m_binder, m_binder->number(days, 0, 3650, tr("The number of days"))));
+        form->addRow(tr("Days:"), withHint(m_binder, m_binder->number(days, 0, PrefRules::kMaxDays, tr("The number of days"))));
         return box;
     };
     column->addWidget(numbering(tr("Invoices"), P::invPattern, P::invCount, P::invHaveNumber, P::invHaveDueDate,
@@ -506,7 +507,7 @@ QWidget *QVPreferencePanel::createClientsPane()
     QFormLayout *form = newForm(pane);
     form->addRow(tr("Client number pattern:"), withHint(m_binder, m_binder->pattern(P::clientPattern)));
     form->addRow(tr("Counter:"),
-                 withHint(m_binder, m_binder->number(P::clientCount, 0, 999999999, tr("The counter"))));
+                 withHint(m_binder, m_binder->number(P::clientCount, 0, PrefRules::kMaxCounter, tr("The counter"))));
     form->addRow(tr("Name in the salutation:"),
                  m_binder->choice(P::clientNamePatternTag, {tr("Last name"), tr("First and last name"),
                                                            tr("Title and last name"), tr("Title and first name"),

@@ -2,6 +2,7 @@
 
 #include "app/ItemCommands.h"
 #include "domain/Numbering.h"
+#include "domain/PrefRules.h"
 #include "gui/HintLabel.h"
 #include "gui/PlainTextField.h"
 
@@ -154,7 +155,7 @@ QLineEdit *PrefsBinder::rate(Preferences::Key key)
             return tr("The rate must be a number, such as 19 or 7.5.");
         if (percent < 0)
             return tr("The rate cannot be below 0 %.");
-        if (percent > 1000)
+        if (percent > PrefRules::kMaxRate * 100)
             return tr("The rate cannot be above 1000 %.");
         *value = percent / 100.0;
         return QString();
