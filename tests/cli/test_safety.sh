@@ -221,14 +221,20 @@ expect "prefs set on a full disk" "${PIPESTATUS[0]}" 1
 cmp -s "$CONF" "$T/conf.before" && pass=$((pass + 1)) || bad "the settings changed on a full disk"
 chmod 755 "$T" "$XDG_CONFIG_HOME" "$(dirname "$CONF")"
 chmod 644 "$CONF"
+RO_CLI=$CLI
 if [ "$(id -u)" -eq 0 ]; then
+    # root writes anywhere: another user finds the file read-only (with a
+    # copy of the program, which may live where that user cannot look)
     AS_OTHER=(setpriv --reuid=65534 --regid=65534 --clear-groups)
+    RO_CLI=$T/tabo-cli
+    cp "$CLI" "$RO_CLI" && chmod 755 "$RO_CLI"
 else
     AS_OTHER=()
     chmod a-w "$CONF" "$(dirname "$CONF")"
 fi
-"${AS_OTHER[@]}" "$CLI" prefs set prefsName ReadOnly >"$T/out" 2>"$T/err"
+"${AS_OTHER[@]}" "$RO_CLI" prefs set prefsName ReadOnly >"$T/out" 2>"$T/err"
 expect "prefs set on a read-only file" "$?" 1
+[[ $(<"$T/err") == *"could not be written"* ]] && pass=$((pass + 1)) || bad "read-only says: $(<"$T/err")"
 cmp -s "$CONF" "$T/conf.before" && pass=$((pass + 1)) || bad "a read-only settings file changed"
 chmod u+w "$CONF" "$(dirname "$CONF")"
 # A lock held by a live process is waited for, then named; an empty one is cleared.
