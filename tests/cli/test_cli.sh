@@ -1,14 +1,6 @@
 #!/bin/bash
 # Runs tabo-cli as a person would, against a throw-away home.
-CLI=$(realpath "${1:?usage: test_cli.sh /path/to/tabo-cli}")
-[ -x "$CLI" ] || { echo "not a program: $1" >&2; exit 1; }
-T=$(mktemp -d) || exit 1
-trap 'rm -rf "$T"' EXIT
-export HOME=$T/home XDG_DATA_HOME=$T/data XDG_CONFIG_HOME=$T/config
-mkdir -p "$HOME"
-pass=0 fail=0
-
-bad() { fail=$((fail + 1)); echo "FAIL: $*" >&2; }
+source "$(dirname "$0")/home.sh"
 
 # run WANTED_EXIT ARGS...: keeps stdout in $OUT; a failure must be one line on stderr.
 run() {

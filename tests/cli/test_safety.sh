@@ -2,18 +2,11 @@
 # What a careless or unlucky person types must not destroy data: outputs aimed
 # at our own files, restores of the wrong kind, damaged or locked settings,
 # and numbers given twice by processes running side by side.
-CLI=$(realpath "${1:?usage: test_safety.sh /path/to/tabo-cli}")
-[ -x "$CLI" ] || { echo "not a program: $1" >&2; exit 1; }
-T=$(mktemp -d) || exit 1
-trap 'rm -rf "$T"' EXIT
-export HOME=$T/home XDG_DATA_HOME=$T/data XDG_CONFIG_HOME=$T/config
-mkdir -p "$HOME/Documents"
-pass=0 fail=0
+source "$(dirname "$0")/home.sh"
 STORE=$XDG_DATA_HOME/Tabo/Tabo.mbdb
 CONF=$XDG_CONFIG_HOME/Tabo/Tabo.conf
 AUTO=$HOME/Documents/Tabo_Backup.mbdb
 
-bad() { fail=$((fail + 1)); echo "FAIL: $*" >&2; }
 expect() { [ "$2" = "$3" ] && pass=$((pass + 1)) || bad "$1: got '$2', wanted '$3'"; }
 run() {
     local want=$1 rc
