@@ -311,9 +311,10 @@ void AppController::renumberPending()
 {
     // Runs with the write lock held: the counters and the numbers other
     // documents hold cannot change before these numbers are written.
-    const bool countersMoved = mirrorCounters(!m_pendingNumbers.isEmpty());
+    // Other saves leave the counters alone: every edit saves.
     if (m_pendingNumbers.isEmpty())
         return;
+    const bool countersMoved = mirrorCounters(true);
     const bool recount = m_changedDuringSave || countersMoved;
     // Asked of the store (indexed, and current under the lock), and of the
     // documents this save is about to insert.

@@ -1,6 +1,7 @@
 #include "cli/PrefsCommand.h"
 
 #include "app/AppController.h"
+#include "cli/AttributeText.h"
 #include "cli/Console.h"
 #include "cli/JsonWriter.h"
 #include "cli/Session.h"
@@ -121,11 +122,9 @@ int PrefsCommand::moveStore(Preferences::Key key, const QString &value)
     bool useCustom = prefs.boolean(P::useCustomPath);
     QString folder = prefs.string(P::customDatabasePath);
     if (key == P::useCustomPath) {
-        const QString t = value.trimmed().toLower();
-        if (t != QLatin1String("1") && t != QLatin1String("0") && t != QLatin1String("true") && t != QLatin1String("false")
-            && t != QLatin1String("yes") && t != QLatin1String("no"))
-            return failure(QStringLiteral("“%1” is not a valid Bool for useCustomPath").arg(value));
-        useCustom = t == QLatin1String("1") || t == QLatin1String("true") || t == QLatin1String("yes");
+        QString reason;
+        if (!AttributeText::flag(Preferences::info(key).name, value, &useCustom, &reason))
+            return failure(reason);
     } else {
         folder = value.trimmed();
     }

@@ -238,12 +238,11 @@ bool readCii(const Node &root, Received *out, QString *error)
         line.price = item->number(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/ChargeAmount");
         if (const Node *base = item->at(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/BasisQuantity"))
             line.baseQuantity = readAmount(base->text.trimmed(), u"BasisQuantity");
-        for (const Node *ac : item->at(u"SpecifiedLineTradeSettlement")
-                                 ? item->at(u"SpecifiedLineTradeSettlement")->all(u"SpecifiedTradeAllowanceCharge")
-                                 : QList<const Node *>()) {
-            const double amount = ac->number(u"ActualAmount");
-            line.adjustment += ac->value(u"ChargeIndicator/Indicator") == QLatin1String("true") ? amount : -amount;
-        }
+        if (const Node *settlement = item->child(u"SpecifiedLineTradeSettlement"))
+            for (const Node *ac : settlement->all(u"SpecifiedTradeAllowanceCharge")) {
+                const double amount = ac->number(u"ActualAmount");
+                line.adjustment += ac->value(u"ChargeIndicator/Indicator") == QLatin1String("true") ? amount : -amount;
+            }
         if (const Node *q = item->at(u"SpecifiedLineTradeDelivery/BilledQuantity")) {
             line.quantity = readAmount(q->text.trimmed(), u"BilledQuantity");
             line.unitCode = q->attributes.value(QStringLiteral("unitCode"));

@@ -265,16 +265,14 @@ Preferences::Preferences(const QString &filePath)
                                                                       : QString()));
     if (!m_loadError)
         m_loadError = awaitLock(filePath + QStringLiteral(".lock"));
+    if (!m_loadError) {
+        m_settings = std::make_unique<QSettings>(filePath, QSettings::IniFormat);
+        if (m_settings->status() != QSettings::NoError)
+            m_loadError = Error::file(
+                QStringLiteral("The settings file “%1” cannot be read. Tabo has left it as it is.").arg(filePath));
+    }
     if (m_loadError) {
         // Nothing of it is read or written: the values live in memory only.
-        m_scratch = std::make_unique<QTemporaryDir>();
-        m_settings = std::make_unique<QSettings>(m_scratch->filePath(QStringLiteral("unused.conf")), QSettings::IniFormat);
-        return;
-    }
-    m_settings = std::make_unique<QSettings>(filePath, QSettings::IniFormat);
-    if (m_settings->status() != QSettings::NoError) {
-        m_loadError = Error::file(QStringLiteral("The settings file “%1” cannot be read. Tabo has left it as it is.").arg(filePath));
-        m_settings.reset();
         m_scratch = std::make_unique<QTemporaryDir>();
         m_settings = std::make_unique<QSettings>(m_scratch->filePath(QStringLiteral("unused.conf")), QSettings::IniFormat);
         return;

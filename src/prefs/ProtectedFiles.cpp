@@ -8,6 +8,9 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#include <optional>
+#include <utility>
+
 #include <sys/stat.h>
 
 namespace tabo::ProtectedFiles {
@@ -30,12 +33,13 @@ QString resolved(const QString &path)
     return folder.isEmpty() ? info.absoluteFilePath() : folder + QLatin1Char('/') + info.fileName();
 }
 
-// A hard link to the store is the store too.
-bool sameInode(const QString &a, const QString &b)
+// The file's identity, so that a hard link to the store is the store too.
+std::optional<std::pair<dev_t, ino_t>> identity(const QString &path)
 {
-    struct stat sa{}, sb{};
-    return ::stat(QFile::encodeName(a).constData(), &sa) == 0 && ::stat(QFile::encodeName(b).constData(), &sb) == 0
-           && sa.st_dev == sb.st_dev && sa.st_ino == sb.st_ino;
+    struct stat st{};
+    if (::stat(QFile::encodeName(path).constData(), &st) != 0)
+        return std::nullopt;
+    return std::pair{st.st_dev, st.st_ino};
 }
 
 struct Guarded
@@ -83,9 +87,9 @@ Error check(const QString &target, Writer writer)
     if (target.isEmpty())
         return {};
     const QString real = resolved(target);
-    const bool exists = QFileInfo::exists(real);
+    const auto id = identity(real);
     for (const Guarded &g : guardedFiles(writer)) {
-        if (resolved(g.path) == real || (exists && sameInode(real, g.path)))
+        if (resolved(g.path) == real || (id && identity(g.path) == id))
             return Error::file(QStringLiteral("“%1” is %2 (%3). Tabo never writes anything else onto it; "
                                               "please choose another file.")
                                    .arg(target, g.what, resolved(g.path)));

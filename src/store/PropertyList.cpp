@@ -148,10 +148,6 @@ QVariant read(const QByteArray &data, QString *error)
 
 bool writeFile(const QString &path, const QVariant &root, Format format, QString *error)
 {
-    if (const tabo::Error refused = ProtectedFiles::check(path)) {
-        setError(error, refused.description);
-        return false;
-    }
     const QByteArray data = write(root, format, error);
     if (data.isEmpty())
         return false;
