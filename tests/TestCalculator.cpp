@@ -128,6 +128,55 @@ private Q_SLOTS:
         QTEST(got, "expected");
     }
 
+    // The cent-exact calculation: VAT after the discount, each line and each
+    // rate's tax rounded once, and a total that is the sum of its parts.
+    void toTheCent()
+    {
+        const auto exact = [this](std::initializer_list<Line> lines, int ship = -1, int kind = -1, double d = 0) {
+            Record *doc = document(lines);
+            doc->setBool(Invoice::centExactTotals, true);
+            configure(doc, ship, kind, d);
+            Calculator::calculateInvoice(*doc, {true, false, false});
+            return doc;
+        };
+        // 100 at 19 % less 10 %: the tax is taken on 90.
+        Record *doc = exact({{100, 1, 1u}}, -1, 1, 0.10);
+        QCOMPARE(doc->num(Invoice::subAmount), 100.0);
+        QCOMPARE(doc->num(Invoice::tax1Amount), 17.10);
+        QCOMPARE(doc->num(Invoice::amount), 107.10);
+        QCOMPARE(Calculator::discountShown(*doc, {}), 10.0);
+
+        // Halves round up as they read, on the decimal product: 2 × 0.125.
+        doc = exact({{0.125, 1, 0u}, {0.125, 1, 0u}});
+        QCOMPARE(item(doc, 0)->num(Item::subAmount), 0.13);
+        QCOMPARE(doc->num(Invoice::amount), 0.26);
+        doc = exact({{1.0005, 3, 0u}, {-0.125, 1, 0u}}); // 3.0015 → 3.00; −0.125 → −0.13
+        QCOMPARE(doc->num(Invoice::subAmount), 2.87);
+
+        // A fixed discount split by the rates' nets (1:2), the odd cent to the
+        // larger; shipping taxed at its own rate and never discounted.
+        doc = exact({{10, 1, 1u}, {20, 1, 2u}}, 2, 0, 0.10);
+        const CentExactTotals t = Calculator::centExactTotals(*doc);
+        QCOMPARE(t.rate(0)->discount + t.rate(1)->discount, 10);
+        QCOMPARE(t.rate(1)->discount, 7);
+        QCOMPARE(t.rate(1)->taxable(), 2000 - 7 + 1000);
+        QCOMPARE(t.rate(1)->taxAmount, 210); // 29.93 × 7 % = 2.0951
+        QCOMPARE(t.rate(0)->taxAmount, 189); // 9.97 × 19 % = 1.8943
+        QCOMPARE(doc->num(Invoice::amount), (3000 - 10 + 1000 + 210 + 189) / 100.0);
+
+        // Beyond it: two taxes on a line or a compound one take the classic paths.
+        doc = exact({{100, 1, 3u}}, -1, 1, 0.10);
+        QVERIFY(!Calculator::canCalculateToTheCent(*doc, {}));
+        QCOMPARE(doc->num(Invoice::amount), 116.0); // standard path, discount before taxes
+        QVERIFY(!Calculator::canCalculateToTheCent(*exact({{100, 1, 2u, 2u}}), {}));
+
+        // Unmarked documents keep the classic figures: 100 − 10 + 19.
+        doc = document({{100, 1, 1u}});
+        configure(doc, -1, 1, 0.10);
+        Calculator::calculateInvoice(*doc, {true, false, false});
+        QCOMPARE(doc->num(Invoice::amount), 109.0);
+    }
+
     void lineNetRoundedOnEveryPath()
     {
         for (unsigned applied : {0u, 1u, 3u}) { // tax-free, standard, compound through tax 2

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void numbersAreNeverGivenTwice();
     void convertQuote();
     void duplicate();
+    void calculationIsFixedAtCreation();
     void dueDateBeforeDateAsksOnce();
     void cancelByCreditNote();
 };
@@ -214,6 +215,47 @@ void TestDocumentCommands::duplicate()
     Record *quoteCopy = f.docs.duplicateInvoice();
     QCOMPARE(quoteCopy->integer(Invoice::kind), 0);
     QCOMPARE(quoteCopy->text(Invoice::number), QStringLiteral("RE-13"));
+}
+
+void TestDocumentCommands::calculationIsFixedAtCreation()
+{
+    Fixture f;
+    // 100 at 19 % less 10 %: classic 109.00, to the cent 107.10.
+    const auto discounted = [&f](Record *doc) {
+        Record *item = f.line(doc, 100);
+        item->setBool(Item::isTax1Applied, true);
+        item->setNum(Item::tax1Percent, 0.19);
+        doc->setNum(Invoice::tax1Percent, 0.19);
+        doc->setBool(Invoice::isDiscountEnabled, true);
+        doc->setInt(Invoice::discountKind, 1);
+        doc->setNum(Invoice::discountPercent, 0.10);
+        f.app.documentChanged(doc);
+        return doc;
+    };
+    f.prefs.setBool(P::beforeTaxesBool, true);
+    Record *classic = discounted(f.app.addInvoice());
+    QCOMPARE(classic->num(Invoice::amount), 109.0);
+    // Switching the setting changes new documents only, also after a reopen.
+    f.prefs.setBool(P::centExactTotals, true);
+    f.app.documentChanged(classic);
+    QCOMPARE(classic->num(Invoice::amount), 109.0);
+    Record *exact = discounted(f.app.addInvoice());
+    QCOMPARE(exact->num(Invoice::amount), 107.10);
+    f.prefs.setBool(P::centExactTotals, false);
+    const QString exactId = exact->text(Invoice::uniqueID);
+    const QString classicId = classic->text(Invoice::uniqueID);
+    f.app.reopenStore();
+    Record *reread = f.app.findDocument(exactId);
+    QVERIFY(reread);
+    f.app.documentChanged(reread);
+    QCOMPARE(reread->num(Invoice::amount), 107.10);
+
+    // A copy made to the cent from a classic invoice; the original stays.
+    f.app.setCurrentInvoice(f.app.findDocument(classicId));
+    Record *copy = f.docs.duplicateInvoice(true);
+    QVERIFY(copy->boolean(Invoice::centExactTotals));
+    QCOMPARE(copy->num(Invoice::amount), 107.10);
+    QCOMPARE(f.app.findDocument(classicId)->num(Invoice::amount), 109.0);
 }
 
 void TestDocumentCommands::cancelByCreditNote()

@@ -449,6 +449,7 @@ bool AppController::firstAssiTabAction(qint64 languageDefaults)
     m_prefs.setInteger(P::languageDefaults, languageDefaults);
     const bool installed = m_prefs.installLanguageDefaults();
     if (installed) {
+        m_prefs.setBool(P::centExactTotals, recommendsCentExactTotals(languageDefaults));
         composeFooters();
         // The defaults' counters are the person's choice too: the store,
         // which numbers from them, takes them over.
@@ -460,6 +461,18 @@ bool AppController::firstAssiTabAction(qint64 languageDefaults)
     m_prefs.setBool(P::firstStartEverDone, true);
     m_prefs.sync();
     return installed;
+}
+
+bool AppController::recommendsCentExactTotals(qint64 languageDefaults)
+{
+    // German, French and Spanish invoices are checked against EN 16931.
+    return languageDefaults >= 1 && languageDefaults <= 3;
+}
+
+QString AppController::centExactTotalsReason()
+{
+    return QStringLiteral("Each line is rounded to the cent and the VAT of each rate is taken on the amount after "
+                          "the discount, which is what tax offices and e-invoices (EN 16931) expect.");
 }
 
 void AppController::composeFooters()
@@ -824,6 +837,9 @@ Record *AppController::newDocument(bool invoice)
     doc->setSingle(Invoice::tax1Percent, m_prefs.single(P::tax1Rate));
     doc->setSingle(Invoice::tax2Percent, m_prefs.single(P::tax2Rate));
     doc->setSingle(Invoice::tax3Percent, m_prefs.single(P::tax3Rate));
+    // Fixed here, so that switching the setting never changes the figures
+    // of a document that exists.
+    doc->setBool(Invoice::centExactTotals, m_prefs.boolean(P::centExactTotals));
 
     documentCreated(doc);
     return doc;

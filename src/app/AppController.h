@@ -113,6 +113,10 @@ public:
     // The first page of the first-start assistant: installs the language
     // defaults chosen by `languageDefaults`. False when nothing was installed.
     bool firstAssiTabAction(qint64 languageDefaults);
+    // Whether documents in that language should be calculated to the cent:
+    // the default the assistant and install-language offer.
+    static bool recommendsCentExactTotals(qint64 languageDefaults);
+    static QString centExactTotalsReason();
     // The footers of every kind of document, composed anew from the
     // seller's details (after the language defaults or the assistant).
     void composeFooters();

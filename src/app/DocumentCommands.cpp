@@ -29,7 +29,7 @@ QString prefText(const Preferences &prefs, P::Key key)
 
 } // namespace
 
-Record *DocumentCommands::duplicateInvoice()
+Record *DocumentCommands::duplicateInvoice(bool toTheCent)
 {
     Record *source = m_app.currentInvoice();
     if (!source || !m_app.managedObjectContext())
@@ -70,6 +70,10 @@ Record *DocumentCommands::duplicateInvoice()
     copy->setNum(Invoice::paidAmount, 0.0);
     copy->setNum(Invoice::dueAmount, 0.0);
     copy->setBool(Invoice::isDispatched, false);
+    if (toTheCent) {
+        copy->setBool(Invoice::centExactTotals, true);
+        m_app.calculateInvoice(copy);
+    }
 
     m_app.documentCreated(copy);
     return copy;

@@ -16,8 +16,9 @@ public:
     explicit DocumentCommands(AppController &app) : m_app(app) {}
 
     // duplicateInvoice: a copy of the current document, selected and saved;
-    // nullptr without a current document.
-    Record *duplicateInvoice();
+    // nullptr without a current document. `toTheCent` makes the copy's
+    // figures those of the cent-exact calculation, whatever the original's.
+    Record *duplicateInvoice(bool toTheCent = false);
     // convertQuoteToInvoice: false when refused ("Sorry!") or cancelled.
     bool convertQuoteToInvoice();
     // deleteInvoice: the sent refusal, the delete confirmation, then the

@@ -1,6 +1,7 @@
 #include "app/EInvoiceCommands.h"
 
 #include "app/AppController.h"
+#include "app/DocumentCommands.h"
 #include "app/Interaction.h"
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
@@ -31,11 +32,29 @@ QString EInvoiceCommands::problemsText(const einvoice::Mapping &mapping)
     return lines.join(QLatin1Char('\n'));
 }
 
-bool EInvoiceCommands::checked(const einvoice::Mapping &mapping) const
+QString EInvoiceCommands::toTheCentAdvice()
+{
+    return QStringLiteral("Make a copy calculated to the cent, whose e-invoice states exactly what it prints, or "
+                          "switch the setting for new invoices (Preferences ▸ Taxes ▸ Calculate new documents to "
+                          "the cent).");
+}
+
+bool EInvoiceCommands::checked(const einvoice::Mapping &mapping, Record &document) const
 {
     if (mapping.ok())
         return true;
-    m_app.ui().alert(QStringLiteral("The e-invoice cannot be written yet"), problemsText(mapping), {QStringLiteral("OK")});
+    if (!mapping.toTheCentHelps || !mapping.missing.isEmpty()) {
+        m_app.ui().alert(QStringLiteral("The e-invoice cannot be written yet"), problemsText(mapping),
+                         {QStringLiteral("OK")});
+        return false;
+    }
+    const int answer = m_app.ui().alert(QStringLiteral("The e-invoice cannot be written yet"),
+                                        problemsText(mapping) + QStringLiteral("\n\n") + toTheCentAdvice(),
+                                        {QStringLiteral("OK"), QStringLiteral("Make a copy calculated to the cent")});
+    if (answer == 1) {
+        m_app.setCurrentInvoice(&document);
+        m_app.documents().duplicateInvoice(true);
+    }
     return false;
 }
 
@@ -51,7 +70,7 @@ bool EInvoiceCommands::write(const QString &path, const QByteArray &data) const
 bool EInvoiceCommands::exportXml(Record &document, const QString &path, Form form)
 {
     const einvoice::Mapping mapping = map(document);
-    return checked(mapping) && writeXml(mapping, path, form);
+    return checked(mapping, document) && writeXml(mapping, path, form);
 }
 
 bool EInvoiceCommands::writeXml(const einvoice::Mapping &mapping, const QString &path, Form form) const
@@ -96,7 +115,7 @@ QStringList EInvoiceCommands::outputFormLabels()
 bool EInvoiceCommands::exportFacturX(Record &document, const QString &path)
 {
     const einvoice::Mapping mapping = map(document);
-    if (!checked(mapping))
+    if (!checked(mapping, document))
         return false;
     QTemporaryDir scratch;
     const QString printed = scratch.filePath(QStringLiteral("printed.pdf"));
@@ -108,7 +127,7 @@ bool EInvoiceCommands::exportFacturX(Record &document, const QString &path)
 bool EInvoiceCommands::facturXFromPrinted(Record &document, const QString &printedPdf, const QString &path)
 {
     const einvoice::Mapping mapping = map(document);
-    return checked(mapping) && writeFacturX(document, mapping, printedPdf, path);
+    return checked(mapping, document) && writeFacturX(document, mapping, printedPdf, path);
 }
 
 bool EInvoiceCommands::writeFacturX(const Record &document, const einvoice::Mapping &mapping,

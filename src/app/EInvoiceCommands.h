@@ -33,7 +33,9 @@ public:
 
     // For callers that have mapped the document already: false, after
     // telling the person everything missing, when it cannot be written.
-    bool checked(const einvoice::Mapping &mapping) const;
+    // Where a copy calculated to the cent would do, it is offered.
+    bool checked(const einvoice::Mapping &mapping, Record &document) const;
+    static QString toTheCentAdvice();
     bool writeXml(const einvoice::Mapping &mapping, const QString &path, Form form) const;
     bool writeFacturX(const Record &document, const einvoice::Mapping &mapping, const QString &printedPdf,
                       const QString &path) const;

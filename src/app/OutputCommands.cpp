@@ -250,7 +250,7 @@ bool OutputCommands::savePdf(Record &invoice)
     EInvoiceCommands &einvoices = m_app.einvoices();
     // Asked before the panel: a missing detail is found before a file name is chosen.
     const einvoice::Mapping mapping = einvoices.map(invoice);
-    if (!einvoices.checked(mapping))
+    if (!einvoices.checked(mapping, invoice))
         return false;
     const bool xml = form == EInvoiceCommands::XRechnungXml;
     Interaction::FileRequest request;
@@ -370,6 +370,9 @@ PageSetup OutputCommands::pageSetupFor(const Record &document) const
 {
     PageSetup setup = PageSetup::fromPreferences(m_app.prefs());
     setup.pageStamp = PageStamp::patternFor(document.text(Invoice::number), m_app.prefs().string(P::locPageOf));
+    // Generous: a line with a long text may take a page of its own, and
+    // the letter around the lines a few more.
+    setup.maxPages = 10 * int(document.toMany(Invoice::items).size()) + 10;
     return setup;
 }
 
@@ -394,6 +397,8 @@ bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path, 
     setBusy(+1);
     const bool ok = engine().renderAndWait(html, setup, path) && isPdfFile(path);
     setBusy(-1);
+    if (!ok)
+        reportRunaway(renderDesign());
     return ok;
 }
 
@@ -428,6 +433,8 @@ QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &docume
     if (inFlight > 0)
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     setBusy(-1);
+    if (!failed.isEmpty())
+        reportRunaway(renderDesign());
     return failed;
 }
 
@@ -456,6 +463,7 @@ void OutputCommands::renderInto(Target target, const Record *design)
     }
     const QString html = invoiceHTMLString(*invoice, design);
     const QString path = m_app.pdfPath();
+    m_renderingDesign = design ? design->text(Design::title) : QString();
     setBusy(+1);
     engine().render(html, pageSetupFor(*invoice), path,
                     [this, target, path](bool ok) { finishRender(target, ok && isPdfFile(path)); });
@@ -484,8 +492,28 @@ void OutputCommands::finishRender(Target target, bool ok)
     }
 }
 
+bool OutputCommands::reportRunaway(const Record *design)
+{
+    return reportRunaway(design ? design->text(Design::title) : QString());
+}
+
+bool OutputCommands::reportRunaway(const QString &designTitle)
+{
+    const int pages = engine().lastRunawayPages();
+    if (pages <= 0)
+        return false;
+    m_app.ui().presentError(Error::file(QStringLiteral("The design “%1” laid the document out on %2 pages, far more than "
+                                                 "its lines can fill, so no PDF was made. Choose another design or "
+                                                 "fix this one in Preferences ▸ Designs.")
+                                      .arg(designTitle)
+                                      .arg(pages)));
+    return true;
+}
+
 void OutputCommands::failureAlert(Target target)
 {
+    if (reportRunaway(m_renderingDesign))
+        return;
     m_app.ui().alert(QStringLiteral("Ooops!"),
                      target == Target::DesignChoice
                          ? QStringLiteral("Something went really wrong while creating the design preview.")

@@ -138,6 +138,10 @@ private:
     void setBusy(int delta);
     bool canRender();
     void failureAlert(Target target);
+    // Tells the person when the engine refused a document for laying out
+    // without end; false when that was not why it failed.
+    bool reportRunaway(const Record *design);
+    bool reportRunaway(const QString &designTitle);
     bool printWorkingPdf(const Record &invoice);
     bool savePdf(Record &invoice);
     bool emailPdf(Record &invoice);
@@ -153,6 +157,7 @@ private:
     int m_running = 0;
     const Record *m_designOverride = nullptr;
     QString m_printer;
+    QString m_renderingDesign; // the title of the design the window renders with
 };
 
 } // namespace tabo

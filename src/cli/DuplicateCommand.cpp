@@ -11,8 +11,9 @@
 namespace tabo::cli {
 
 DuplicateCommand::DuplicateCommand(Session &session)
-    : Command(session, QStringLiteral("duplicate"), QStringLiteral("ID"),
-              QStringLiteral("Copy a document with its lines under a new number; prints the copy's unique ID."))
+    : Command(session, QStringLiteral("duplicate"), QStringLiteral("ID [--to-the-cent]"),
+              QStringLiteral("Copy a document with its lines under a new number; prints the copy's unique ID. "
+                             "--to-the-cent calculates the copy to the cent per VAT rate, as e-invoices need."))
 {
 }
 
@@ -33,12 +34,14 @@ int printNew(Session &session, const Record *made)
 int DuplicateCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
+    const QCommandLineOption toTheCent(QStringLiteral("to-the-cent"));
+    parser.addOption(toTheCent);
     int code = kExitOk;
     if (!parse(parser, args, 1, 1, &code))
         return code;
     if (!m_session.select(parser.positionalArguments().constFirst()))
         return kExitFailure;
-    return printNew(m_session, m_session.controller().documents().duplicateInvoice());
+    return printNew(m_session, m_session.controller().documents().duplicateInvoice(parser.isSet(toTheCent)));
 }
 
 CancelCommand::CancelCommand(Session &session)

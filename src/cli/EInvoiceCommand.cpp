@@ -6,6 +6,7 @@
 #include "app/OutputCommands.h"
 #include "cli/OutputRun.h"
 #include "cli/Console.h"
+#include "domain/Record.h"
 #include "cli/Session.h"
 #include "einvoice/Reader.h"
 
@@ -96,15 +97,23 @@ int EInvoiceCommand::execute(const QStringList &args)
         return kExitFailure;
     EInvoiceCommands &commands = m_session.controller().einvoices();
     const einvoice::Mapping mapping = commands.map(*doc);
+    // The one action that helps a classic document, in this program's words.
+    const QString advice = mapping.toTheCentHelps
+        ? QStringLiteral(" tabo-cli duplicate %1 --to-the-cent makes a copy calculated to the cent; tabo-cli prefs "
+                         "set centExactTotals true does so for new invoices.")
+              .arg(doc->text(Invoice::uniqueID))
+        : QString();
     if (sub == QLatin1String("missing")) {
         for (const QString &problem : mapping.problems())
             printOut(problem + QLatin1Char('\n'));
         if (mapping.ok())
             return kExitOk;
-        return failure(QStringLiteral("The e-invoice cannot be written yet (%1 above).").arg(mapping.problems().size()));
+        return failure(QStringLiteral("The e-invoice cannot be written yet (%1 above).").arg(mapping.problems().size())
+                       + advice);
     }
     if (!mapping.ok())
-        return failure(QStringLiteral("The e-invoice cannot be written yet: ") + mapping.problems().join(QStringLiteral("; ")));
+        return failure(QStringLiteral("The e-invoice cannot be written yet: ") + mapping.problems().join(QStringLiteral("; "))
+                       + advice);
     if (parser.isSet(facturx)) {
         if (parser.isSet(design)) {
             QString error;

@@ -158,8 +158,13 @@ int PrefsCommand::installLanguage(const QString &number)
     if (!ok)
         return usageError(QStringLiteral("“%1” is not a number.").arg(number));
     // The assistant's first step: also installs the built-in designs once.
-    if (m_session.controller().firstAssiTabAction(n))
+    if (m_session.controller().firstAssiTabAction(n)) {
+        if (m_session.prefs().boolean(Preferences::centExactTotals))
+            printOut(QStringLiteral("New documents are calculated to the cent. %1 "
+                                    "(tabo-cli prefs set centExactTotals false keeps the classic calculation.)")
+                         .arg(AppController::centExactTotalsReason()));
         return kExitOk;
+    }
     // The first-start assistant goes on without defaults; so do we.
     if (Preferences::languageDefaultsResource(n).isEmpty()) {
         printError(QStringLiteral("No language defaults for %1; nothing was installed.").arg(n));

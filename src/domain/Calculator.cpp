@@ -89,6 +89,91 @@ StandardLines standardLines(Record &invoice)
     return out;
 }
 
+
+enum class Path { WithoutTaxes, Standard, Compound, ToTheCent };
+
+Path pathOf(const Record &invoice, const TaxSettings &settings)
+{
+    if (invoice.boolean(Invoice::centExactTotals) && Calculator::canCalculateToTheCent(invoice, settings))
+        return Path::ToTheCent;
+    bool someTax = false;
+    bool compound = false;
+    for (const Record *item : invoice.toMany(Invoice::items)) {
+        const bool t1 = item->boolean(Item::isTax1Applied);
+        const bool t2 = item->boolean(Item::isTax2Applied);
+        const bool t3 = item->boolean(Item::isTax3Applied);
+        if (t1 || t2 || t3)
+            someTax = true;
+        if ((t2 && item->boolean(Item::isTax2Compound)) || (t3 && item->boolean(Item::isTax3Compound)))
+            compound = true;
+    }
+    if (invoice.boolean(Invoice::isShippingEnabled)) {
+        if (invoice.boolean(Invoice::isShippingTax1Enabled))
+            someTax = true;
+        if (invoice.boolean(Invoice::isShippingTax2Enabled)) {
+            someTax = true;
+            if (settings.tax2IsCompound)
+                compound = true;
+        }
+        // Steered by the tax-2 preference on purpose; the compound
+        // path itself reads tax3IsCompound for the shipping's tax 3.
+        if (invoice.boolean(Invoice::isShippingTax3Enabled)) {
+            someTax = true;
+            if (settings.tax2IsCompound)
+                compound = true;
+        }
+    }
+    if (!someTax)
+        return Path::WithoutTaxes;
+    return compound ? Path::Compound : Path::Standard;
+}
+
+// Cents from a value already rounded to `scale` decimals.
+std::int64_t scaled(double rounded, double scale)
+{
+    return std::isfinite(rounded) ? std::llround(rounded * scale) : 0;
+}
+
+// num / den to the nearest whole number, halves away from zero (den > 0).
+std::int64_t divideRounded(__int128 num, __int128 den)
+{
+    __int128 q = num / den;
+    const __int128 r = num % den;
+    if (2 * (r < 0 ? -r : r) >= den)
+        q += num < 0 ? -1 : 1;
+    return std::int64_t(q);
+}
+
+double fromCents(std::int64_t c)
+{
+    return double(c) / 100.0;
+}
+
+// The one tax an item or the shipping carries, -1 for none, -2 for more.
+int singleTax(const bool applied[3])
+{
+    int tax = -1;
+    for (int k = 0; k < 3; ++k)
+        if (applied[k])
+            tax = tax == -1 ? k : -2;
+    return tax;
+}
+
+int itemTax(const Record &item)
+{
+    const bool applied[3] = {item.boolean(Item::isTax1Applied), item.boolean(Item::isTax2Applied),
+                             item.boolean(Item::isTax3Applied)};
+    return singleTax(applied);
+}
+
+int shippingTax(const Record &invoice)
+{
+    const bool applied[3] = {invoice.boolean(Invoice::isShippingTax1Enabled),
+                             invoice.boolean(Invoice::isShippingTax2Enabled),
+                             invoice.boolean(Invoice::isShippingTax3Enabled)};
+    return singleTax(applied);
+}
+
 } // namespace
 
 TaxSettings TaxSettings::from(const Preferences &prefs)
@@ -121,39 +206,12 @@ void Calculator::calculateItem(Record &)
 
 void Calculator::calculateInvoice(Record &invoice, const TaxSettings &settings)
 {
-    bool someTax = false;
-    bool compound = false;
-    for (const Record *item : invoice.toMany(Invoice::items)) {
-        const bool t1 = item->boolean(Item::isTax1Applied);
-        const bool t2 = item->boolean(Item::isTax2Applied);
-        const bool t3 = item->boolean(Item::isTax3Applied);
-        if (t1 || t2 || t3)
-            someTax = true;
-        if ((t2 && item->boolean(Item::isTax2Compound)) || (t3 && item->boolean(Item::isTax3Compound)))
-            compound = true;
+    switch (pathOf(invoice, settings)) {
+    case Path::WithoutTaxes: calculateInvoiceWithoutTaxes(invoice); break;
+    case Path::Standard: calculateInvoiceTaxesStandard(invoice, settings); break;
+    case Path::Compound: calculateInvoiceTaxesCompound(invoice, settings); break;
+    case Path::ToTheCent: calculateInvoiceToTheCent(invoice); break;
     }
-    if (invoice.boolean(Invoice::isShippingEnabled)) {
-        if (invoice.boolean(Invoice::isShippingTax1Enabled))
-            someTax = true;
-        if (invoice.boolean(Invoice::isShippingTax2Enabled)) {
-            someTax = true;
-            if (settings.tax2IsCompound)
-                compound = true;
-        }
-        // Steered by the tax-2 preference on purpose; the compound
-        // path itself reads tax3IsCompound for the shipping's tax 3.
-        if (invoice.boolean(Invoice::isShippingTax3Enabled)) {
-            someTax = true;
-            if (settings.tax2IsCompound)
-                compound = true;
-        }
-    }
-    if (!someTax)
-        calculateInvoiceWithoutTaxes(invoice);
-    else if (compound)
-        calculateInvoiceTaxesCompound(invoice, settings);
-    else
-        calculateInvoiceTaxesStandard(invoice, settings);
 }
 
 void Calculator::calculateInvoiceWithoutTaxes(Record &invoice)
@@ -344,6 +402,153 @@ void Calculator::calculateInvoiceTaxesCompound(Record &invoice, const TaxSetting
     invoice.setNum(Invoice::tax1Amount, sum[0]);
     invoice.setNum(Invoice::tax2Amount, sum[1]);
     invoice.setNum(Invoice::tax3Amount, sum[2]);
+}
+
+const RateShare *CentExactTotals::rate(int tax) const
+{
+    for (const RateShare &r : rates)
+        if (r.tax == tax)
+            return &r;
+    return nullptr;
+}
+
+bool Calculator::canCalculateToTheCent(const Record &invoice, const TaxSettings &settings)
+{
+    for (const Record *item : invoice.toMany(Invoice::items)) {
+        const int tax = itemTax(*item);
+        if (tax == -2 || (tax == 1 && item->boolean(Item::isTax2Compound))
+            || (tax == 2 && item->boolean(Item::isTax3Compound)))
+            return false;
+    }
+    if (!invoice.boolean(Invoice::isShippingEnabled))
+        return true;
+    const int tax = shippingTax(invoice);
+    return tax != -2 && !(tax == 1 && settings.tax2IsCompound) && !(tax == 2 && settings.tax3IsCompound);
+}
+
+std::int64_t Calculator::centExactLineNet(const Record &item)
+{
+    // Thousandths of a unit times ten-thousandths of a cent-unit: the exact
+    // decimal product, so 0.125 rounds up as it reads, not as a double lies.
+    const __int128 quantity = scaled(r3(item.num(Item::unitCount)), 1e3);
+    const __int128 price = scaled(r4(item.num(Item::baseAmount)), 1e4);
+    return divideRounded(quantity * price, 100000);
+}
+
+CentExactTotals Calculator::centExactTotals(const Record &invoice)
+{
+    CentExactTotals out;
+    const auto share = [&out, &invoice](int tax) -> RateShare & {
+        for (RateShare &r : out.rates)
+            if (r.tax == tax)
+                return r;
+        RateShare r;
+        r.tax = tax;
+        if (tax >= 0)
+            r.basisPoints = scaled(r4(invoice.num(kDocPercent[tax])), 1e4);
+        const auto at = std::find_if(out.rates.begin(), out.rates.end(),
+                                     [tax](const RateShare &o) { return o.tax > tax; });
+        return *out.rates.insert(at, r);
+    };
+
+    const QList<Record *> items = invoice.toMany(Invoice::items);
+    out.lineNets.reserve(items.size());
+    for (const Record *item : items) {
+        const std::int64_t net = centExactLineNet(*item);
+        out.lineNets << net;
+        out.net += net;
+        share(std::max(itemTax(*item), -1)).net += net;
+    }
+
+    if (invoice.boolean(Invoice::isDiscountEnabled)) {
+        out.discount = invoice.integer(Invoice::discountKind) != 0
+            ? divideRounded(__int128(out.net) * scaled(r4(invoice.num(Invoice::discountPercent)), 1e4), 10000)
+            : scaled(r2(invoice.num(Invoice::discountAmount)), 100);
+    }
+    if (out.discount != 0) {
+        // Split by the rates' nets; the cents the division leaves go to the
+        // largest share, so the parts add up to the discount.
+        RateShare *largest = nullptr;
+        std::int64_t given = 0;
+        for (RateShare &r : out.rates) {
+            if (out.net != 0)
+                r.discount = std::int64_t(__int128(out.discount) * r.net / out.net);
+            given += r.discount;
+            if (!largest || std::abs(r.net) > std::abs(largest->net))
+                largest = &r;
+        }
+        if (!largest)
+            largest = &share(-1);
+        largest->discount += out.discount - given;
+    }
+
+    if (invoice.boolean(Invoice::isShippingEnabled)) {
+        out.shipping = scaled(r2(invoice.num(Invoice::shippingAmount)), 100);
+        if (out.shipping != 0)
+            share(std::max(shippingTax(invoice), -1)).shipping += out.shipping;
+    }
+
+    for (RateShare &r : out.rates) {
+        r.taxAmount = r.tax >= 0 ? divideRounded(__int128(r.taxable()) * r.basisPoints, 10000) : 0;
+        out.taxes += r.taxAmount;
+    }
+    out.total = out.net - out.discount + out.shipping + out.taxes;
+    return out;
+}
+
+void Calculator::calculateInvoiceToTheCent(Record &invoice)
+{
+    const CentExactTotals totals = centExactTotals(invoice);
+    const QList<Record *> items = invoice.toMany(Invoice::items);
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        Record *item = items[i];
+        const std::int64_t net = totals.lineNets[i];
+        const int tax = itemTax(*item);
+        std::int64_t lineTax = 0;
+        for (int k = 0; k < 3; ++k) {
+            // What the line adds at its rate; the document's tax is levied
+            // on the rate's sum, so these are shown, not added up.
+            const std::int64_t t = k == tax ? divideRounded(__int128(net) * totals.rate(k)->basisPoints, 10000) : 0;
+            item->setNum(kItemTaxAmount[k], fromCents(t));
+            lineTax += t;
+        }
+        item->setNum(Item::subAmount, fromCents(net));
+        item->setNum(Item::amount, fromCents(net + lineTax));
+    }
+    for (int k = 0; k < 3; ++k) {
+        const RateShare *r = totals.rate(k);
+        invoice.setNum(kDocTaxAmount[k], fromCents(r ? r->taxAmount : 0));
+    }
+    invoice.setNum(Invoice::subAmount, fromCents(totals.net));
+    invoice.setNum(Invoice::amount, fromCents(totals.total));
+}
+
+double Calculator::discountShown(const Record &invoice, const TaxSettings &settings)
+{
+    if (!invoice.boolean(Invoice::isDiscountEnabled))
+        return 0;
+    const bool percent = invoice.integer(Invoice::discountKind) != 0;
+    const double net = invoice.num(Invoice::subAmount);
+    const double shipping =
+        invoice.boolean(Invoice::isShippingEnabled) ? r2(invoice.num(Invoice::shippingAmount)) : 0.0;
+    const double taxes =
+        invoice.num(Invoice::tax1Amount) + invoice.num(Invoice::tax2Amount) + invoice.num(Invoice::tax3Amount);
+    const double amount = invoice.num(Invoice::discountAmount);
+    const double rate = r4(invoice.num(Invoice::discountPercent));
+    const float single = invoice.single(Invoice::discountPercent);
+    switch (pathOf(invoice, settings)) {
+    case Path::ToTheCent: return fromCents(centExactTotals(invoice).discount);
+    case Path::WithoutTaxes: return r2(percent ? rate * net : r2(amount));
+    case Path::Standard:
+        if (settings.beforeTaxesBool)
+            return r2(percent ? rate * (net + shipping) : r2(amount));
+        return r2(percent ? (net + shipping + taxes) * single : amount);
+    case Path::Compound:
+        if (settings.beforeTaxesBool)
+            return 0; // this path has never taken it
+        return r2(percent ? (net + shipping + taxes) * single : amount);
+    }
+    return 0;
 }
 
 Summary Calculator::calculateDatabase(const QList<Record *> &arranged, Date now)

@@ -64,7 +64,8 @@ std::array<EntityDesc, kEntityCount> buildAll()
     };
     local(EntityId::Invoice, {Invoice::company, Invoice::street, Invoice::postcode, Invoice::city,
                               Invoice::countryCode, Invoice::buyerReference, Invoice::electronicAddress,
-                              Invoice::precedingNumber, Invoice::precedingDate});
+                              Invoice::precedingNumber, Invoice::precedingDate, Invoice::centExactTotals});
+    local(EntityId::Template, {Template::centExactTotals});
     local(EntityId::Address, {Address::company, Address::street, Address::postcode, Address::city,
                               Address::countryCode, Address::buyerReference, Address::electronicAddress});
     local(EntityId::Item, {Item::unitCode});

@@ -213,6 +213,8 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
 
     // Lines: one VAT category each.
     const Taxes taxes{doc, prefs};
+    const bool toTheCent =
+        doc.boolean(Invoice::centExactTotals) && Calculator::canCalculateToTheCent(doc, TaxSettings::from(prefs));
     QList<Record *> items = doc.toMany(Invoice::items);
     std::sort(items.begin(), items.end(), [](const Record *a, const Record *x) { return a->id() < x->id(); });
     std::map<std::pair<QString, qint64>, qint64> baseCents; // (category, rate in 1/100 %) → basis
@@ -231,8 +233,9 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
         line.sellerId = item->text(Item::sku).trimmed();
         line.unitCode = UnitCodes::forLine(item->text(Item::unitCode), item->text(Item::unit));
         line.quantity = Calculator::r3(item->num(Item::unitCount));
-        line.price = Calculator::r3(item->num(Item::baseAmount));
-        line.net = fromCents(cents(line.quantity * line.price));
+        // The cent-exact calculation keeps the price as typed, to four decimals.
+        line.price = toTheCent ? Calculator::r4(item->num(Item::baseAmount)) : Calculator::r3(item->num(Item::baseAmount));
+        line.net = toTheCent ? fromCents(Calculator::centExactLineNet(*item)) : fromCents(cents(line.quantity * line.price));
         if (line.price < 0) {
             // The standard's prices are never negative; the sign goes to the quantity.
             line.price = -line.price;
@@ -296,51 +299,83 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
 
     // What Tabo printed, per tax and in all.
     const qint64 printedTotal = cents(doc.num(Invoice::amount));
-    qint64 printedTax = 0;
-    std::map<int, qint64> taxCents;
-    for (const auto &[k, tabo] : taxOf)
-        if (tabo >= 0 && !taxCents.count(tabo)) {
-            taxCents[tabo] = baseCents[k] != 0 ? cents(doc.num(kDocTaxAmount[tabo])) : 0;
-            printedTax += taxCents[tabo];
-        }
-    if (lineCents != cents(doc.num(Invoice::subAmount)))
-        refusals << QStringLiteral("The lines, each to the cent, add up to %1, but the invoice prints a net amount of "
-                                   "%2. Recalculate the invoice (change a line) and try again.")
-                        .arg(amount(fromCents(lineCents)), amount(doc.num(Invoice::subAmount)));
-
-    // The discount: whatever the printed total leaves between the lines,
-    // shipping and taxes, spread over the categories by their share.
-    const qint64 discountCents = lineCents + cents(inv.chargeTotal) + printedTax - printedTotal;
-    if (doc.boolean(Invoice::isDiscountEnabled) && discountCents != 0) {
-        qint64 left = discountCents;
-        qint64 baseSum = 0;
-        for (const auto &[k, c] : baseCents)
-            baseSum += c;
-        auto last = std::prev(baseCents.end());
-        for (auto it = baseCents.begin(); it != baseCents.end(); ++it) {
-            const qint64 share = it == last ? left : (baseSum ? std::llround(double(discountCents) * it->second / baseSum) : 0);
-            left -= share;
-            if (share == 0)
+    std::map<std::pair<QString, qint64>, qint64> keyTaxCents; // the tax each category charges
+    if (toTheCent) {
+        // The calculation's own figures: each rate's part of the discount is
+        // an allowance of that rate, and nothing is left to round.
+        const CentExactTotals totals = Calculator::centExactTotals(doc);
+        baseCents.clear();
+        taxOf.clear();
+        for (const RateShare &r : totals.rates) {
+            const TaxCategory category = r.tax >= 0 ? taxes.category(r.tax) : taxes.untaxed();
+            baseCents[key(category)] += r.taxable();
+            keyTaxCents[key(category)] += r.taxAmount;
+            taxOf.try_emplace(key(category), r.tax);
+            if (r.discount == 0)
                 continue;
             AllowanceCharge allowance;
-            allowance.amount = fromCents(share);
+            allowance.amount = fromCents(r.discount);
             allowance.reason = doc.text(Invoice::discountTitle).trimmed();
             if (allowance.reason.isEmpty())
                 allowance.reason = QStringLiteral("Discount");
-            const int tabo = taxOf[it->first];
-            allowance.tax = tabo >= 0 ? taxes.category(tabo) : taxes.untaxed();
+            allowance.tax = category;
             inv.allowancesCharges << allowance;
             inv.allowanceTotal += allowance.amount;
-            it->second -= share;
         }
-    } else if (std::abs(discountCents) <= 2) {
-        // The page rounds the total once and each tax once; the standard
-        // states the difference as rounding.
-        inv.rounding = fromCents(-discountCents);
-    } else if (discountCents != 0) {
-        refusals << QStringLiteral("The invoice prints a total of %1, but its lines, shipping and taxes come to %2. "
-                                   "Recalculate the invoice (change a line) and try again.")
-                        .arg(amount(fromCents(printedTotal)), amount(fromCents(printedTotal + discountCents)));
+    } else {
+        // The classic calculation rounds differently from the standard: its
+        // figures are stated where they can be, the discount inferred from
+        // what the page prints.
+        qint64 printedTax = 0;
+        std::map<int, qint64> taxCents;
+        for (const auto &[k, tabo] : taxOf)
+            if (tabo >= 0 && !taxCents.count(tabo)) {
+                taxCents[tabo] = baseCents[k] != 0 ? cents(doc.num(kDocTaxAmount[tabo])) : 0;
+                printedTax += taxCents[tabo];
+            }
+        for (const auto &[k, tabo] : taxOf)
+            keyTaxCents[k] = tabo >= 0 ? taxCents[tabo] : 0;
+        if (lineCents != cents(doc.num(Invoice::subAmount)))
+            refusals << QStringLiteral("The lines, each to the cent, add up to %1, but the invoice prints a net "
+                                       "amount of %2: the classic calculation does not round each line.")
+                            .arg(amount(fromCents(lineCents)), amount(doc.num(Invoice::subAmount)));
+
+        // The discount: whatever the printed total leaves between the lines,
+        // shipping and taxes, spread over the categories by their share.
+        const qint64 discountCents = lineCents + cents(inv.chargeTotal) + printedTax - printedTotal;
+        if (doc.boolean(Invoice::isDiscountEnabled) && discountCents != 0) {
+            qint64 left = discountCents;
+            qint64 baseSum = 0;
+            for (const auto &[k, c] : baseCents)
+                baseSum += c;
+            auto last = std::prev(baseCents.end());
+            for (auto it = baseCents.begin(); it != baseCents.end(); ++it) {
+                const qint64 share =
+                    it == last ? left : (baseSum ? std::llround(double(discountCents) * it->second / baseSum) : 0);
+                left -= share;
+                if (share == 0)
+                    continue;
+                AllowanceCharge allowance;
+                allowance.amount = fromCents(share);
+                allowance.reason = doc.text(Invoice::discountTitle).trimmed();
+                if (allowance.reason.isEmpty())
+                    allowance.reason = QStringLiteral("Discount");
+                const int tabo = taxOf[it->first];
+                allowance.tax = tabo >= 0 ? taxes.category(tabo) : taxes.untaxed();
+                inv.allowancesCharges << allowance;
+                inv.allowanceTotal += allowance.amount;
+                it->second -= share;
+            }
+        } else if (std::abs(discountCents) <= 2) {
+            // The page rounds the total once and each tax once; the standard
+            // states the difference as rounding.
+            inv.rounding = fromCents(-discountCents);
+        } else if (discountCents != 0) {
+            refusals << QStringLiteral("The invoice prints a total of %1, but its lines, shipping and taxes come to "
+                                       "%2.")
+                            .arg(amount(fromCents(printedTotal)), amount(fromCents(printedTotal + discountCents)));
+        }
+        m.toTheCentHelps = !refusals.isEmpty();
     }
 
     // The VAT breakdown, checked against the standard's rule: tax = basis ×
@@ -352,22 +387,24 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
         t.category = tabo >= 0 ? taxes.category(tabo) : taxes.untaxed();
         t.basis = fromCents(basis);
         // A Tabo tax that became several categories cannot happen: one tax, one category.
-        t.amount = tabo >= 0 && t.category.code == QLatin1String("S") ? fromCents(taxCents[tabo]) : 0.0;
+        t.amount = t.category.code == QLatin1String("S") ? fromCents(keyTaxCents[k]) : 0.0;
         const double rule = std::round(t.basis * t.category.rate) / 100.0;
         if (std::abs(t.amount - rule) > 1.0 + 1e-9) {
-            if (!inv.allowancesCharges.isEmpty() && doc.boolean(Invoice::isDiscountEnabled))
-                refusals << QStringLiteral("The discount: Tabo charges the tax at %1 % on the amount before the "
-                                           "discount (%2), an e-invoice on the amount after it (%3 × %1 % = %4). "
-                                           "Give the discount as a line with a negative price and its tax instead.")
+            if (!toTheCent && !inv.allowancesCharges.isEmpty() && doc.boolean(Invoice::isDiscountEnabled)) {
+                refusals << QStringLiteral("The discount: the classic calculation charges the tax at %1 % on the "
+                                           "amount before the discount (%2), an e-invoice on the amount after it "
+                                           "(%3 × %1 % = %4).")
                                 .arg(decimal(t.category.rate), amount(t.amount), amount(t.basis), amount(rule));
-            else
+                m.toTheCentHelps = true;
+            } else {
                 refusals << QStringLiteral("The tax at %1 %: the invoice prints %2, but %3 × %1 % is %4. A rate "
                                            "changed after the lines were added causes this: recalculate the invoice.")
                                 .arg(decimal(t.category.rate), amount(t.amount), amount(t.basis), amount(rule));
+            }
         }
-        if (tabo >= 0 && t.category.code != QLatin1String("S") && taxCents[tabo] != 0)
+        if (tabo >= 0 && t.category.code != QLatin1String("S") && keyTaxCents[k] != 0)
             refusals << QStringLiteral("%1 is marked as “%2” in the preferences but charges %3.")
-                            .arg(taxName(prefs, tabo), t.category.code, amount(fromCents(taxCents[tabo])));
+                            .arg(taxName(prefs, tabo), t.category.code, amount(fromCents(keyTaxCents[k])));
         if (!kCategories.contains(t.category.code))
             refusals << QStringLiteral("“%1” is not a VAT category (Preferences ▸ Taxes).").arg(t.category.code);
         else if (needsReason(t.category.code) && t.category.exemptionReason.isEmpty())
@@ -389,9 +426,11 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
     inv.taxTotal = fromCents(taxTotal);
     inv.taxInclusive = fromCents(cents(inv.taxExclusive) + taxTotal);
     const qint64 total = cents(inv.taxInclusive) + cents(inv.rounding);
-    if (total != printedTotal && refusals.isEmpty())
+    if (total != printedTotal && refusals.isEmpty()) {
         refusals << QStringLiteral("The invoice prints a total of %1; stated the standard's way it comes to %2.")
                         .arg(amount(fromCents(printedTotal)), amount(fromCents(total)));
+        m.toTheCentHelps = !toTheCent;
+    }
     const double paid = doc.num(Invoice::paidAmount);
     inv.prepaid = std::isfinite(paid) && paid > 0 ? fromCents(std::min(cents(paid), total)) : 0.0;
     inv.payable = fromCents(total - cents(inv.prepaid));

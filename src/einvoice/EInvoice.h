@@ -113,6 +113,9 @@ struct Mapping
     QStringList missing;
     // What the standard cannot state as Tabo printed it.
     QStringList refusals;
+    // The refusals are about figures of the classic calculation, which a
+    // copy calculated to the cent states exactly.
+    bool toTheCentHelps = false;
     bool ok() const { return missing.isEmpty() && refusals.isEmpty(); }
     QStringList problems() const { return missing + refusals; }
 };

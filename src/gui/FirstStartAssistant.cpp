@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "prefs/Preferences.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -44,6 +45,15 @@ FirstStartAssistant::FirstStartAssistant(AppController &app, QWidget *parent) : 
     m_language->setCurrentIndex(languageForLocale());
     auto *languageLayout = new QFormLayout(languagePage);
     languageLayout->addRow(tr("Documents in:"), m_language);
+    m_centExact = new QCheckBox(tr("Calculate totals to the cent for each VAT rate"));
+    m_centExact->setObjectName(QStringLiteral("centExactTotals"));
+    m_centExact->setChecked(AppController::recommendsCentExactTotals(m_language->currentIndex()));
+    auto *why = new QLabel(AppController::centExactTotalsReason());
+    why->setWordWrap(true);
+    languageLayout->addRow(m_centExact);
+    languageLayout->addRow(why);
+    connect(m_language, &QComboBox::currentIndexChanged, m_centExact,
+            [this](int index) { m_centExact->setChecked(AppController::recommendsCentExactTotals(index)); });
     addPage(languagePage);
 
     using P = Preferences;
@@ -94,6 +104,7 @@ bool FirstStartAssistant::validateCurrentPage()
 {
     if (currentId() == 0) {
         m_app.firstAssiTabAction(m_language->currentIndex());
+        m_app.prefs().setBool(Preferences::centExactTotals, m_centExact->isChecked());
         static const char *const countries[] = {"US", "DE", "FR", "ES"};
         QLineEdit *country = field(Preferences::prefsCountryCode);
         if (country->text().isEmpty())

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QWizard>
 
+class QCheckBox;
 class QComboBox;
 class QLineEdit;
 
@@ -34,6 +35,7 @@ protected:
 private:
     AppController &m_app;
     QComboBox *m_language = nullptr;
+    QCheckBox *m_centExact = nullptr;
     QList<std::pair<Preferences::Key, QLineEdit *>> m_fields;
 };
 

@@ -322,7 +322,11 @@ QWidget *QVPreferencePanel::createTaxesPane()
     }
     column->addLayout(grid);
     column->addWidget(note(tr("A compound tax is computed on the net amount plus the taxes before it.")));
-    column->addWidget(m_binder->check(P::beforeTaxesBool, tr("Take the discount before taxes")));
+    column->addWidget(m_binder->check(P::centExactTotals, tr("Calculate new documents to the cent (EN 16931)")));
+    column->addWidget(note(tr("Each line is rounded to the cent and each rate's VAT is taken after the discount. "
+                              "Compound taxes and lines with two taxes are calculated the classic way. Existing "
+                              "documents keep their figures.")));
+    column->addWidget(m_binder->check(P::beforeTaxesBool, tr("Take the discount before taxes (classic calculation)")));
     column->addWidget(m_binder->check(P::showSingleTaxAmounts, tr("Show each line's tax amounts")));
     column->addWidget(m_binder->check(P::showItemSubAmount, tr("Show each line's amount before tax")));
     column->addStretch();

@@ -19,6 +19,9 @@ struct PageSetup
     // The line numbering the pages of a document of several pages (see
     // PageStamp); empty for none.
     QString pageStamp;
+    // More pages than a document's content can fill mean a design that lays
+    // out without end; such a PDF is not written. 0 for no limit.
+    int maxPages = 0;
 
     // 0 "na-letter", 1 "na-legal", 2 "iso-a4", 3 "jis-b4", 4 "jis-b5"; any other "na-letter".
     static QString paperNameForSize(qint64 tempPaperSize);

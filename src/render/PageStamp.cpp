@@ -69,6 +69,17 @@ QString PageStamp::patternFor(const QString &number, const QString &pageOfWordin
     return n.isEmpty() ? pages : n + QStringLiteral(" · ") + pages;
 }
 
+int PageStamp::pageCount(const QByteArray &pdf)
+{
+    try {
+        QPDF doc;
+        doc.processMemoryFile("document", pdf.constData(), size_t(pdf.size()));
+        return int(QPDFPageDocumentHelper(doc).getAllPages().size());
+    } catch (const std::exception &) {
+        return -1;
+    }
+}
+
 QByteArray PageStamp::apply(const QByteArray &pdf, const QString &pattern)
 {
     if (pattern.isEmpty())

@@ -16,6 +16,8 @@ public:
     // The stamped PDF; `pdf` itself when it has one page, the pattern is
     // empty, or the PDF cannot be read.
     static QByteArray apply(const QByteArray &pdf, const QString &pattern);
+    // The number of pages of a PDF, -1 when it cannot be read.
+    static int pageCount(const QByteArray &pdf);
     // The document's line: its number (when it has one) and the
     // page-of-pages wording, where "Page" alone reads "Page %1 / %2".
     static QString patternFor(const QString &number, const QString &pageOfWording);

@@ -48,6 +48,7 @@ struct Job
     QByteArray html;
     QPageLayout layout;
     QString pageStamp;
+    int maxPages = 0;
     QString path;
     std::function<void(bool)> done;
 };
@@ -83,6 +84,7 @@ struct PdfEngine::Private
     int timeoutMs = RenderTimeoutMs;
     QString allowedFile;
     std::deque<Job> queue;
+    int lastRunawayPages = 0;
 };
 
 void PdfEngine::prepareApplication()
@@ -220,6 +222,11 @@ void PdfEngine::setAllowedLocalFile(const QString &path)
         lane->guard->setAllowedLocalFile(path);
 }
 
+int PdfEngine::lastRunawayPages() const
+{
+    return d->lastRunawayPages;
+}
+
 QStringList PdfEngine::blockedRequests() const
 {
     QStringList blocked;
@@ -238,7 +245,8 @@ void PdfEngine::render(const QString &html, const PageSetup &setup, const QStrin
         return;
     }
     d->queue.push_back(
-        Job{PageGuard::withoutRefresh(html.toUtf8()), setup.pageLayout(), setup.pageStamp, path, std::move(done)});
+        Job{PageGuard::withoutRefresh(html.toUtf8()), setup.pageLayout(), setup.pageStamp, setup.maxPages, path,
+            std::move(done)});
     d->startNext();
 }
 
@@ -298,6 +306,14 @@ void PdfEngine::Private::pageLoaded(Lane *lane, bool ok)
         [self, lane, current](const QByteArray &printed) {
             if (!self || lane->generation != current || !lane->job)
                 return;
+            if (const int limit = lane->job->maxPages; limit > 0 && !printed.isEmpty()) {
+                const int pages = PageStamp::pageCount(printed);
+                self->d->lastRunawayPages = pages > limit ? pages : 0;
+                if (pages > limit) {
+                    self->d->finishJob(lane, false);
+                    return;
+                }
+            }
             const QByteArray pdf = printed.isEmpty() ? printed : PageStamp::apply(printed, lane->job->pageStamp);
             QSaveFile file(lane->job->path);
             const bool written = !pdf.isEmpty() && file.open(QIODevice::WriteOnly)

@@ -46,6 +46,9 @@ public:
     // Every request a page made that was refused, as URLs (for tests and
     // diagnostics).
     QStringList blockedRequests() const;
+    // The page count of the last document refused for having more pages
+    // than its setup allows (0 when the last one was not refused so).
+    int lastRunawayPages() const;
 
 private:
     struct Private;

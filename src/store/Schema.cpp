@@ -35,6 +35,21 @@ QSet<QString> existingColumns(sqlite3 *db, const QString &table)
     return names;
 }
 
+// The attributes kept in the store only that a file does not have yet.
+Error addStoreOnlyColumns(sqlite3 *db)
+{
+    for (int i = 0; i < kEntityCount; ++i) {
+        const EntityDesc &entity = entityDesc(EntityId(i));
+        const QSet<QString> have = existingColumns(db, entity.name);
+        for (const auto &a : entity.attributes)
+            if (!a.exchanged && !have.contains(a.name))
+                if (Error e = exec(db, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
+                                           .arg(quoted(entity.name), quoted(a.name), columnType(a.type))))
+                    return e;
+    }
+    return Error{};
+}
+
 // Numbered steps; step N brings a store from version N-1 to N. Version 1 is
 // the first schema.
 const std::vector<std::function<Error(sqlite3 *)>> &steps()
@@ -53,22 +68,13 @@ const std::vector<std::function<Error(sqlite3 *)>> &steps()
         /* 4: what e-invoices need and the exchange files do not carry: the
               buyer's address in parts, reference and electronic address;
               the lines' unit codes */
-        [](sqlite3 *db) {
-            for (int i = 0; i < kEntityCount; ++i) {
-                const EntityDesc &entity = entityDesc(EntityId(i));
-                const QSet<QString> have = existingColumns(db, entity.name);
-                for (const auto &a : entity.attributes)
-                    if (!a.exchanged && !have.contains(a.name))
-                        if (Error e = exec(db, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
-                                                   .arg(quoted(entity.name), quoted(a.name), columnType(a.type))))
-                            return e;
-            }
-            return Error{};
-        },
+        addStoreOnlyColumns,
         /* 5: the numbering counters, raised in the transaction that writes
               the number (their values move in from the settings at the
               first open, since only the application knows those) */
         [](sqlite3 *db) { return exec(db, counterTableSql()); },
+        /* 6: which calculation a document's figures come from */
+        addStoreOnlyColumns,
     };
     return list;
 }

@@ -112,7 +112,7 @@ public:
     // returns an error to roll back.
     Error write(const std::function<Error(sqlite3 *)> &body);
 
-    static constexpr int kSchemaVersion = 5;
+    static constexpr int kSchemaVersion = 6;
 
 private:
     friend class Record;
