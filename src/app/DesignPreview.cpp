@@ -99,7 +99,9 @@ QString DesignPreview::problem(const QString &invoice, const QString &item, cons
 QString DesignPreview::sampleHtml(const Record *design) const
 {
     const SampleDocument sample(m_app.prefs());
-    return m_app.outputs().renderer().invoiceHTMLString(design, sample.invoice(), sample.items());
+    LetterMode onScreen;
+    onScreen.onScreen = true;
+    return m_app.outputs().renderer().invoiceHTMLString(design, sample.invoice(), sample.items(), onScreen);
 }
 
 void DesignPreview::render()

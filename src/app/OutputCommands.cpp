@@ -82,9 +82,11 @@ QString OutputCommands::invoiceHTMLString(const Record &document) const
     return invoiceHTMLString(document, renderDesign());
 }
 
-QString OutputCommands::invoiceHTMLString(const Record &document, const Record *design) const
+QString OutputCommands::invoiceHTMLString(const Record &document, const Record *design, bool onScreen) const
 {
-    return m_renderer->invoiceHTMLString(design, document, m_app.items().sortedItems(document), m_mode);
+    LetterMode mode = m_mode;
+    mode.onScreen = onScreen;
+    return m_renderer->invoiceHTMLString(design, document, m_app.items().sortedItems(document), mode);
 }
 
 QString OutputCommands::itemsList(const Record &document) const
@@ -461,7 +463,7 @@ void OutputCommands::renderInto(Target target, const Record *design)
         failureAlert(target);
         return;
     }
-    const QString html = invoiceHTMLString(*invoice, design);
+    const QString html = invoiceHTMLString(*invoice, design, target != Target::Export);
     const QString path = m_app.pdfPath();
     m_renderingDesign = design ? design->text(Design::title) : QString();
     setBusy(+1);

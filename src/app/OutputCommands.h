@@ -34,7 +34,9 @@ public:
     // current document: a batch or another process's document is rendered
     // while the window shows its own.
     QString invoiceHTMLString(const Record &document) const;
-    QString invoiceHTMLString(const Record &document, const Record *design) const;
+    // `onScreen`: for a preview, which may show the person hints the client
+    // never sees.
+    QString invoiceHTMLString(const Record &document, const Record *design, bool onScreen = false) const;
     QString itemsList(const Record &document) const;
     // "%@ | %@ | %@": company name, document title, document number.
     QString jobTitle(const Record &invoice) const;

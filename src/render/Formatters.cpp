@@ -72,8 +72,17 @@ const QLocale &Formatters::locale() const
 
 QString Formatters::stringFromNumber(double value) const
 {
+    return stringFromNumber(value, 2);
+}
+
+QString Formatters::stringFromNumber(double value, int maxDecimals) const
+{
     if (!std::isfinite(value))
         return QString();
+    // Two decimals, more only where the value has them (a unit price of 0.125).
+    int decimals = 2;
+    while (decimals < maxDecimals && std::fabs(value - std::round(value * std::pow(10.0, decimals)) / std::pow(10.0, decimals)) > 1e-9)
+        ++decimals;
     const QLocale &loc = locale();
     // Accounting brackets ("($5.00)") would read oddly on a credit note: the
     // amount is laid out unsigned and the locale's minus put in front.
@@ -81,12 +90,12 @@ QString Formatters::stringFromNumber(double value) const
     const QString minus = value < 0 && magnitude >= 0.005 ? loc.negativeSign() : QString();
     const QString sign = m_prefs.string(Preferences::prefsCurrency);
     if (sign.isEmpty())
-        return minus + withoutMarker(loc.toCurrencyString(magnitude, QString(kSignMarker), 2));
+        return minus + withoutMarker(loc.toCurrencyString(magnitude, QString(kSignMarker), decimals));
     // The C locale (no LANG set) has no currency layout of its own; a sign
     // goes first there, as most readers expect.
     if (loc.language() == QLocale::C && !sign.front().isLetter())
-        return minus + sign + loc.toString(magnitude, 'f', 2);
-    return minus + withCodeSpaced(loc.toCurrencyString(magnitude, sign, 2), sign);
+        return minus + sign + loc.toString(magnitude, 'f', decimals);
+    return minus + withCodeSpaced(loc.toCurrencyString(magnitude, sign, decimals), sign);
 }
 
 QString Formatters::decimalStringFromNumber(double value) const

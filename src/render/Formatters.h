@@ -22,6 +22,8 @@ public:
     // Money: two decimals and the currency sign of the preferences, so that a
     // page shows amounts the way the person's invoices always have.
     QString stringFromNumber(double value) const;
+    // The same with up to `maxDecimals` where the value has them.
+    QString stringFromNumber(double value, int maxDecimals) const;
     // Quantities and rates: up to three decimals, trailing zeros dropped, so
     // that a float's noise never reaches paper (0.05 × 100 prints "5",
     // 7.0000005 prints "7").

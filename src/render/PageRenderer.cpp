@@ -1,5 +1,6 @@
 #include "render/PageRenderer.h"
 
+#include "domain/Calculator.h"
 #include "domain/Numbering.h"
 #include "domain/Record.h"
 #include "prefs/Locations.h"
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <QImage>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -96,6 +98,26 @@ constexpr std::size_t kFirstHeading = 4;     // "%LOCSHORTNUMBER%"
 constexpr std::size_t kHeadingsEnd = 11;     // up to "%LOCQUANTITY%"
 static_assert(kRowLabels[kFirstHeading].key == P::locNo && kRowLabels[kHeadingsEnd - 1].key == P::locQuantity);
 
+constexpr P::Key kTaxCategory[3] = {P::tax1Category, P::tax2Category, P::tax3Category};
+constexpr P::Key kTaxReason[3] = {P::tax1ExemptionReason, P::tax2ExemptionReason, P::tax3ExemptionReason};
+constexpr int kItemApplied[3] = {Item::isTax1Applied, Item::isTax2Applied, Item::isTax3Applied};
+constexpr int kShippingTax[3] = {Invoice::isShippingTax1Enabled, Invoice::isShippingTax2Enabled,
+                                 Invoice::isShippingTax3Enabled};
+
+// What the law of each document language calls a reverse charge, and how it
+// names the one who owes the tax; by `languageDefaults`.
+struct LegalWords
+{
+    const char *reverseCharge;
+    const char *recipient;
+};
+constexpr LegalWords kLegalWords[4] = {
+    {"Reverse charge: the recipient of the supply is liable for the VAT.", "Recipient"},
+    {"Steuerschuldnerschaft des Leistungsempfängers", "Leistungsempfänger"},
+    {"Autoliquidation", "Preneur"},
+    {"Inversión del sujeto pasivo", "Destinatario"},
+};
+
 QString withSubtitle(const QString &title, const QString &subtitle)
 {
     return title % QLatin1String("<br /><small>") % subtitle % QLatin1String("</small>");
@@ -143,7 +165,18 @@ QString PageRenderer::invoiceHTMLString(
     page.replace(u"%LETTERTITLE%",
         [&] { return Formatters::htmlTextFromPlainText(letter ? letter->title : invoice.text(Invoice::title)); });
     page.replace(u"%CLIENTADDRESS%", typed(Invoice::address));
-    page.replace(u"%CONDITIONS%", letterText(&LetterTexts::conditions, Invoice::conditions));
+    // A design of its own without a place for the tax note gets it under the
+    // conditions: the law's sentences must reach the paper.
+    const bool noteInConditions = !page.contains(u"%TAXNOTE%");
+    const bool designShowsBuyerVatId = page.contains(u"%CLIENTVATID%");
+    page.replace(u"%TAXNOTE%", [&] { return taxNote(invoice, items, !designShowsBuyerVatId); });
+    page.replace(u"%CONDITIONS%", [&] {
+        const QString conditions = letterText(&LetterTexts::conditions, Invoice::conditions)();
+        if (!noteInConditions)
+            return conditions;
+        const QString note = taxNote(invoice, items, !designShowsBuyerVatId);
+        return note.isEmpty() ? conditions : conditions.isEmpty() ? note : conditions + QLatin1String("<br />") + note;
+    });
     page.replace(u"%MISCELLANEOUS%", letterText(&LetterTexts::misc, Invoice::misc1));
     page.replace(u"%FOOTER%", letterText(&LetterTexts::footer, Invoice::footer));
     page.replace(u"%DISPATCHED%", typed(Invoice::dispatchNumber));
@@ -179,17 +212,21 @@ QString PageRenderer::invoiceHTMLString(
                                                                  : title;
         });
         page.replace(u"%DISCOUNTKINDCHAR%", isAmount ? QStringLiteral("-") : QStringLiteral("%"));
-        page.replace(u"%DISCOUNT%", [&] {
-            if (isAmount)
-                return money(Invoice::discountAmount)();
+        const auto percent = [&] {
             if (invoice.isNull(Invoice::discountPercent))
                 return QString();
             return m_formatters.decimalStringFromNumber(invoice.single(Invoice::discountPercent) * 100.0f);
+        };
+        page.replace(u"%DISCOUNT%", [&] { return isAmount ? money(Invoice::discountAmount)() : percent(); });
+        page.replace(u"%DISCOUNTPERCENT%", [&] { return isAmount ? QString() : percent(); });
+        // What was taken off, as the calculation took it.
+        page.replace(u"%DISCOUNTAMOUNT%", [&] {
+            return m_formatters.stringFromNumber(Calculator::discountShown(invoice, TaxSettings::from(m_prefs)));
         });
     } else {
-        page.replace(u"%LOCDISCOUNT%", QString());
-        page.replace(u"%DISCOUNTKINDCHAR%", QString());
-        page.replace(u"%DISCOUNT%", QString());
+        for (QStringView placeholder : {u"%LOCDISCOUNT%", u"%DISCOUNTKINDCHAR%", u"%DISCOUNT%", u"%DISCOUNTPERCENT%",
+                                        u"%DISCOUNTAMOUNT%"})
+            page.replace(placeholder, QString());
     }
 
     if (invoice.boolean(Invoice::isShippingEnabled)) {
@@ -206,8 +243,9 @@ QString PageRenderer::invoiceHTMLString(
 
     page.replace(u"%LOCTOTAL%", pref(P::locTotal));
 
-    for (const TaxFields &tax : kPageTaxes) {
-        const bool enabled = m_prefs.boolean(tax.enabled);
+    for (std::size_t k = 0; k < kPageTaxes.size(); ++k) {
+        const TaxFields &tax = kPageTaxes[k];
+        const bool enabled = m_prefs.boolean(tax.enabled) && taxUsed(invoice, items, int(k));
         page.replace(tax.title,
             [&] { return enabled ? Formatters::htmlTextFromPlainText(m_prefs.string(tax.titleKey)) : QString(); });
         page.replace(tax.amount, [&] { return enabled ? money(tax.amountAttr)() : QString(); });
@@ -229,7 +267,7 @@ QString PageRenderer::invoiceHTMLString(
     page.replace(u"%LOCLINEAMOUNT%", pref(m_prefs.boolean(P::showItemSubAmount) ? P::locNet : P::locAmount));
     page.replace(u"%LOCAMOUNT%", pref(P::locAmount));
     page.replace(u"%LOCVATID%", pref(P::locVATID));
-    page.replace(u"%LOGO%", [this] { return logoValue(); });
+    page.replace(u"%LOGO%", [this, &mode] { return logoValue(mode.onScreen); });
     // Quotes are not paid; reminders and invoices are.
     page.replace(u"%PAYMENTQR%", [&] {
         return invoice.integer(Invoice::kind) == 1 && !slip ? PaymentQr::svg(invoice, m_prefs) : QString();
@@ -253,6 +291,7 @@ QString PageRenderer::itemsList(const Record *design, const Record &invoice, con
     // A row knows no discount kind.
     const QString discountKindChar = QStringLiteral("%");
     const QString currency = Formatters::htmlTextFromPlainText(invoice.text(Invoice::currency));
+    const bool toTheCent = invoice.boolean(Invoice::centExactTotals);
 
     QString list;
     // Rows grow by their values; one reservation keeps appending linear.
@@ -277,7 +316,12 @@ QString PageRenderer::itemsList(const Record *design, const Record &invoice, con
             return [&, attr] { return Formatters::htmlTextFromPlainText(item->text(attr)); };
         };
         row.replace(u"%ITEMSUNIT%", typed(Item::unit));
-        row.replace(u"%ITEMSBASEAMOUNT%", money(Item::baseAmount));
+        // Calculated to the cent, the price counts as typed, to four decimals.
+        row.replace(u"%ITEMSBASEAMOUNT%", [&] {
+            if (item->isNull(Item::baseAmount))
+                return QString();
+            return m_formatters.stringFromNumber(item->num(Item::baseAmount), toTheCent ? 4 : 2);
+        });
         row.replace(u"%ITEMSSKU%", [&] { return useSKU ? typed(Item::sku)() : QString(); });
         row.replace(u"%ITEMSSUBAMOUNT%", [&] { return showSubAmount ? money(Item::subAmount)() : QString(); });
         row.replace(u"%ITEMSTITLE%", typed(Item::title));
@@ -320,9 +364,60 @@ QString PageRenderer::itemsList(const Record *design, const Record &invoice, con
     return list;
 }
 
-QString PageRenderer::logoValue() const
+bool PageRenderer::taxUsed(const Record &invoice, const QList<Record *> &items, int tax)
+{
+    if (invoice.boolean(Invoice::isShippingEnabled) && invoice.boolean(kShippingTax[tax]))
+        return true;
+    return std::any_of(items.begin(), items.end(),
+                       [tax](const Record *item) { return item && item->boolean(kItemApplied[tax]); });
+}
+
+QString PageRenderer::taxNote(const Record &invoice, const QList<Record *> &items, bool withBuyerVatId) const
+{
+    if (invoice.integer(Invoice::kind) != 1)
+        return {};
+    const qint64 language = m_prefs.integer(P::languageDefaults);
+    const LegalWords &words = kLegalWords[language >= 0 && language < 4 ? language : 0];
+    QStringList lines;
+    bool buyerIdNeeded = false;
+    for (int k = 0; k < 3; ++k) {
+        if (!taxUsed(invoice, items, k))
+            continue;
+        const QString category = m_prefs.string(kTaxCategory[k]).trimmed().toUpper();
+        const QString reason = m_prefs.string(kTaxReason[k]).trimmed();
+        QString line;
+        if (category == QLatin1String("AE"))
+            line = QString::fromUtf8(words.reverseCharge);
+        else if (category == QLatin1String("E") || category == QLatin1String("Z") || category == QLatin1String("K")
+                 || category == QLatin1String("G") || category == QLatin1String("O"))
+            line = reason;
+        if (!line.isEmpty() && !lines.contains(line))
+            lines << line;
+        if (category == QLatin1String("AE") || category == QLatin1String("K"))
+            buyerIdNeeded = true;
+    }
+    const QString label = m_prefs.string(P::locVATID).trimmed();
+    const QString sellerId = m_prefs.string(P::prefsVATID).trimmed();
+    // The seller's VAT ID, unless the page shows it already in the contact
+    // or footer texts.
+    if (!sellerId.isEmpty() && !m_prefs.string(P::prefsContact).contains(sellerId)
+        && !invoice.text(Invoice::footer).contains(sellerId))
+        lines << QStringLiteral("%1: %2").arg(label.isEmpty() ? QStringLiteral("VAT ID") : label, sellerId);
+    const QString buyerId = invoice.text(Invoice::customerVATID).trimmed();
+    if (buyerIdNeeded && withBuyerVatId && !buyerId.isEmpty())
+        lines << QStringLiteral("%1 %2: %3")
+                     .arg(label.isEmpty() ? QStringLiteral("VAT ID") : label, QString::fromUtf8(words.recipient), buyerId);
+    QStringList escaped;
+    for (const QString &line : std::as_const(lines))
+        escaped << Formatters::htmlTextFromPlainText(line);
+    return escaped.join(QLatin1String("<br />"));
+}
+
+QString PageRenderer::logoValue(bool onScreen) const
 {
     const QByteArray data = m_prefs.data(P::prefsLogo);
+    if (data.isEmpty() && !onScreen)
+        return QString();
     if (data.isEmpty())
         return QStringLiteral("<small><small>Please provide a 'Logo Image' in the Preferences<br />or remove the "
                               "'LOGO' substitute from the design/template.</small></small>");

@@ -25,6 +25,9 @@ struct LetterMode
     bool isReminderAction = false;
     bool isSlipAction = false;
     bool isConfirmationAction = false;
+    // For the screen only (previews): hints meant for the person, never for
+    // the client, may show.
+    bool onScreen = false;
     LetterTexts reminder;
     LetterTexts slip;
 };
@@ -46,8 +49,15 @@ public:
     QString itemsList(const Record *design, const Record &invoice, const QList<Record *> &items) const;
 
     // The value of "%LOGO%": writes the logo of `prefsLogo` as PNG to
-    // logoPath() and returns its image tag, or the hint when there is none.
-    QString logoValue() const;
+    // logoPath() and returns its image tag; without one, the hint on screen
+    // and nothing on paper.
+    QString logoValue(bool onScreen = true) const;
+    // The value of "%TAXNOTE%": the sentences tax law wants on the invoice
+    // (reverse charge, exemptions) and the VAT IDs they rest on, in the
+    // documents' language; empty when no line needs them.
+    QString taxNote(const Record &invoice, const QList<Record *> &items, bool withBuyerVatId) const;
+    // The lines of a tax that no line and no shipping uses print no row.
+    static bool taxUsed(const Record &invoice, const QList<Record *> &items, int tax);
     // $XDG_DATA_HOME/Tabo/Logo.png
     static QString logoPath();
     static QString failureText();

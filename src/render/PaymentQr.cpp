@@ -12,6 +12,20 @@
 
 namespace tabo::PaymentQr {
 
+namespace {
+
+// The standard counts characters: a cut inside a surrogate pair would leave
+// half an emoji, which a banking app shows as "?".
+QString firstCharacters(const QString &text, int count)
+{
+    const QList<uint> codePoints = text.toUcs4();
+    if (codePoints.size() <= count)
+        return text;
+    return QString::fromUcs4(reinterpret_cast<const char32_t *>(codePoints.constData()), count);
+}
+
+} // namespace
+
 using P = Preferences;
 
 QString payload(const Record &invoice, const Preferences &prefs)
@@ -31,7 +45,7 @@ QString payload(const Record &invoice, const Preferences &prefs)
                             QStringLiteral("1"), // UTF-8
                             QStringLiteral("SCT"),
                             bic,
-                            prefs.string(P::prefsName).simplified().left(70),
+                            firstCharacters(prefs.string(P::prefsName).simplified(), 70),
                             iban,
                             QStringLiteral("EUR%1.%2").arg(cents / 100).arg(cents % 100, 2, 10, QLatin1Char('0')),
                             QString(), // purpose
