@@ -98,6 +98,9 @@ struct Model
     // rounded to the cent (a cent or two at most).
     double rounding = 0;
     double prepaid = 0;
+    // Paid by others on the buyer's behalf, which the buyer then owes on top
+    // (XRechnung's extension, received files only).
+    double thirdParty = 0;
     double payable = 0;
     // A credit note's invoice.
     QString precedingNumber;

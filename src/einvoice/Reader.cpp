@@ -385,6 +385,8 @@ bool readUbl(const Node &root, bool credit, Received *out, QString *error)
         m.rounding = sum->number(u"PayableRoundingAmount");
         m.payable = sum->number(u"PayableAmount", &due);
     }
+    for (const Node *payment : root.all(u"PrepaidPayment"))
+        m.thirdParty += payment->number(u"PaidAmount");
     if (!grand || !due) {
         *error = QStringLiteral("The invoice states no total with VAT or amount due: its totals are missing.");
         return false;
@@ -589,7 +591,8 @@ QStringList checkTotals(const Model &m)
         tax += c(t.amount);
     expect(QStringLiteral("The VAT"), m.taxTotal, tax);
     expect(QStringLiteral("The total with VAT"), m.taxInclusive, c(m.taxExclusive) + c(m.taxTotal));
-    expect(QStringLiteral("The amount due"), m.payable, c(m.taxInclusive) - c(m.prepaid) + c(m.rounding));
+    expect(QStringLiteral("The amount due"), m.payable,
+           c(m.taxInclusive) - c(m.prepaid) + c(m.rounding) + c(m.thirdParty));
     return problems;
 }
 
@@ -695,6 +698,8 @@ QString viewPage(const Received &r)
     row(QStringLiteral("Total with VAT"), money(m.taxInclusive));
     if (m.prepaid != 0)
         row(QStringLiteral("Paid in advance"), money(m.prepaid));
+    if (m.thirdParty != 0)
+        row(QStringLiteral("Paid by third parties"), money(m.thirdParty));
     if (m.rounding != 0)
         row(QStringLiteral("Rounding"), money(m.rounding));
     row(QStringLiteral("Amount due"), money(m.payable), "grand");
