@@ -5,19 +5,25 @@
 #include "app/DocumentCommands.h"
 #include "app/EInvoiceCommands.h"
 #include "app/ItemCommands.h"
+#include "app/OutputCommands.h"
 #include "domain/Record.h"
 #include "domain/UnitCodes.h"
 #include "einvoice/CiiWriter.h"
 #include "einvoice/FacturX.h"
 #include "einvoice/Reader.h"
 #include "render/PaymentQr.h"
+#include "render/PdfEngine.h"
 #include "einvoice/UblWriter.h"
 
 #include <QBuffer>
+#include <QGuiApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <QPainter>
 #include <QPdfWriter>
@@ -41,9 +47,9 @@ const QString kSaxon = QStringLiteral("/usr/share/java/Saxon-HE.jar");
 
 struct Seller : test::ControllerFixture
 {
-    Seller()
+    explicit Seller(qint64 language = 1)
     {
-        app.firstAssiTabAction(1); // German: 19 % and 7 %
+        app.firstAssiTabAction(language); // German: 19 % and 7 %
         for (const auto &[key, value] :
              {std::pair{P::prefsName, "Müller & Söhne <GmbH>"}, {P::prefsStreet, "Hauptstraße 1"},
               {P::prefsPostcode, "10115"}, {P::prefsCity, "Berlin"}, {P::prefsCountryCode, "DE"},
@@ -113,6 +119,7 @@ private Q_SLOTS:
     void unitsAndAddresses();
     void refusesWhatItCannotStateAndAsksForWhatIsMissing();
     void variedInvoicesFollowTheRules();
+    void everyCentExactInvoiceIsAnEInvoice();
     void paymentCode();
     void facturXCarriesTheXml();
     void readsReceivedInvoices();
@@ -275,6 +282,164 @@ void TestEInvoice::variedInvoicesFollowTheRules()
     QVERIFY2(fatal.isEmpty(), qPrintable(fatal.mid(0, 20).join(QLatin1Char('\n'))));
 }
 
+namespace {
+
+// The amounts of a printed totals table, in cents, from the subtotal to the
+// total: every row between them is added, the discount row (printed with a
+// minus) taken off.
+struct PrintedTotals
+{
+    qint64 subtotal = 0, total = 0, sumOfParts = 0;
+    int rows = 0;
+};
+
+PrintedTotals printedTotals(const QString &text, const QString &subtotalLabel, const QString &totalLabel)
+{
+    // "1.234,56 €", "€1,234.56", "− 2,01 €": the sign before or after.
+    static const QRegularExpression money(
+        QStringLiteral("([−-]?)\\s*€?\\s*([0-9][0-9.,\\s\u202f\u00a0]*[0-9])\\s*€?\\s*$"));
+    PrintedTotals t;
+    bool inside = false;
+    for (const QString &raw : text.split(QLatin1Char('\n'))) {
+        const QString line = raw.trimmed();
+        if (!inside && !line.startsWith(subtotalLabel))
+            continue;
+        const QRegularExpressionMatch m = money.match(line);
+        if (!m.hasMatch())
+            continue;
+        QString digits = m.captured(2);
+        digits.remove(QRegularExpression(QStringLiteral("[^0-9]")));
+        const qint64 cents = digits.toLongLong();
+        if (!inside) {
+            inside = true;
+            t.subtotal = cents;
+            t.sumOfParts = cents;
+        } else if (line.startsWith(totalLabel)) {
+            t.total = cents;
+            break;
+        } else {
+            t.sumOfParts += m.captured(1).isEmpty() ? cents : -cents;
+            ++t.rows;
+        }
+    }
+    return t;
+}
+
+} // namespace
+
+void TestEInvoice::everyCentExactInvoiceIsAnEInvoice()
+{
+    constexpr int kPerLanguage = 500;
+    constexpr int kReadBack = 12; // per language, from the PDF's text
+    QRandomGenerator random(20261126);
+    QTemporaryDir out;
+    out.setAutoRemove(!qEnvironmentVariableIsSet("TABO_KEEP_FILES"));
+    const QString dir = out.path();
+    int refused = 0;
+    int readBack = 0;
+    for (qint64 language = 0; language < 4; ++language) {
+        Seller f(language);
+        f.prefs.setBool(P::centExactTotals, true);
+        f.prefs.setString(P::prefsCurrencyCode, QStringLiteral("EUR"));
+        f.prefs.setString(P::prefsCurrency, QStringLiteral("€"));
+        const std::pair<P::Key, double> rates[] = {{P::tax1Rate, 0.19}, {P::tax2Rate, 0.07}, {P::tax3Rate, 0.0}};
+        for (const auto &[key, rate] : rates)
+            f.prefs.setReal(key, rate);
+        for (P::Key key : {P::tax1Enabled, P::tax2Enabled, P::tax3Enabled})
+            f.prefs.setBool(key, true);
+        f.prefs.setString(P::tax1Category, QStringLiteral("S"));
+        f.prefs.setString(P::tax2Category, QStringLiteral("S"));
+        f.prefs.setString(P::tax3ExemptionReason, QStringLiteral("Exempt: Art. 132 Directive 2006/112/EC"));
+        QList<Record *> toPrint;
+        for (int n = 0; n < kPerLanguage; ++n) {
+            const bool reverse = n % 9 == 4;
+            f.prefs.setString(P::tax3Category, reverse ? QStringLiteral("AE") : QStringLiteral("E"));
+            Record *doc = f.invoice();
+            if (reverse)
+                doc->setText(Invoice::customerVATID, QStringLiteral("ATU12345678"));
+            QVERIFY(doc->boolean(Invoice::centExactTotals));
+            const int lines = 1 + int(random.bounded(40));
+            for (int i = 0; i < lines; ++i) {
+                // 19 %, 7 %, exempt; all reverse charge on such an invoice.
+                const int tax = reverse ? 3 : 1 + int(random.bounded(7)) / 3;
+                const QString price = QString::number(double(random.bounded(1, 2000000)) / 10000.0, 'f', 4);
+                const QString quantity = QString::number(double(random.bounded(1, 50000)) / 1000.0, 'f', 3);
+                f.line(QStringLiteral("Leistung %1").arg(i + 1), price, quantity, tax);
+            }
+            if (random.bounded(3) == 0) {
+                doc->setBool(Invoice::isShippingEnabled, true);
+                doc->setNum(Invoice::shippingAmount, double(random.bounded(1, 3000)) / 100.0);
+                doc->setBool(Invoice::isShippingTax1Enabled, !reverse && random.bounded(2) == 0);
+                doc->setBool(Invoice::isShippingTax3Enabled, reverse);
+            }
+            if (random.bounded(2) == 0) {
+                doc->setBool(Invoice::isDiscountEnabled, true);
+                doc->setInt(Invoice::discountKind, random.bounded(2));
+                doc->setNum(Invoice::discountPercent, double(random.bounded(1, 2000)) / 10000.0);
+                doc->setNum(Invoice::discountAmount, double(random.bounded(1, 1000)) / 100.0);
+            }
+            f.app.documentChanged(doc);
+            const einvoice::Mapping m = f.map();
+            if (!m.ok()) {
+                ++refused;
+                qWarning("%s", qPrintable(m.problems().join(QLatin1Char('\n'))));
+                continue;
+            }
+            // The XML states exactly what the page prints.
+            QCOMPARE(m.invoice.rounding, 0.0);
+            QCOMPARE(einvoice::amount(m.invoice.payable), einvoice::amount(doc->num(Invoice::amount)));
+            double printedTax = 0;
+            for (const int attr : {Invoice::tax1Amount, Invoice::tax2Amount, Invoice::tax3Amount})
+                printedTax += doc->num(attr);
+            QCOMPARE(einvoice::amount(m.invoice.taxTotal), einvoice::amount(printedTax));
+            for (const einvoice::TaxBreakdown &t : m.invoice.taxes)
+                if (t.category.code == QLatin1String("S"))
+                    QCOMPARE(einvoice::amount(t.amount),
+                             einvoice::amount(doc->num(t.category.rate == 19 ? Invoice::tax1Amount : Invoice::tax2Amount)));
+            const QString name = QStringLiteral("%1-%2.xml").arg(language).arg(n, 3, 10, QLatin1Char('0'));
+            for (const auto &[syntax, xml] :
+                 {std::pair{QStringLiteral("cii"), einvoice::writeCii(m.invoice, einvoice::Profile::XRechnung)},
+                  {QStringLiteral("ubl"), einvoice::writeUbl(m.invoice, einvoice::Profile::XRechnung)}}) {
+                QDir().mkpath(dir + QLatin1Char('/') + syntax);
+                QFile file(dir + QLatin1Char('/') + syntax + QLatin1Char('/') + name);
+                QVERIFY(file.open(QIODevice::WriteOnly) && file.write(xml) == xml.size());
+            }
+            if (n < kReadBack)
+                toPrint << doc;
+        }
+        // The page adds up: its total is the sum of what it prints above it.
+        if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+            continue;
+        QStringList paths;
+        for (int i = 0; i < toPrint.size(); ++i)
+            paths << QStringLiteral("%1/%2-%3.pdf").arg(dir).arg(language).arg(i);
+        QVERIFY(f.app.outputs().renderDocumentsToFiles(toPrint, paths).isEmpty());
+        for (int i = 0; i < toPrint.size(); ++i) {
+            QProcess text;
+            text.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), paths[i], QStringLiteral("-")});
+            QVERIFY(text.waitForFinished(30000));
+            const PrintedTotals t = printedTotals(QString::fromUtf8(text.readAllStandardOutput()),
+                                                  f.prefs.string(P::locSubtotal), f.prefs.string(P::locTotal));
+            QVERIFY2(t.subtotal > 0 && t.rows > 0, qPrintable(paths[i] + QLatin1Char('\n') + f.prefs.string(P::locSubtotal)));
+            QCOMPARE(t.sumOfParts, t.total);
+            QCOMPARE(t.total, qint64(std::llround(toPrint[i]->num(Invoice::amount) * 100)));
+            ++readBack;
+        }
+    }
+    QCOMPARE(refused, 0);
+    qInfo("%d cent-exact invoices in four languages, none refused; %d read back from their PDFs", 4 * kPerLanguage,
+          readBack);
+    if (!QFile::exists(kKit + QStringLiteral("/validation")) || !QFile::exists(kSaxon)
+        || QStandardPaths::findExecutable(QStringLiteral("java")).isEmpty())
+        QSKIP("The rule sets or Saxon are missing; the invoices were not checked against them.");
+    QStringList fatal;
+    for (const QString &syntax : {QStringLiteral("CII"), QStringLiteral("UBL")})
+        fatal += fatalFindings(dir + QLatin1Char('/') + syntax.toLower(),
+                               {kKit + QStringLiteral("/validation/EN16931-%1-validation.xslt").arg(syntax),
+                                kKit + QStringLiteral("/validation/XRechnung-%1-validation.xsl").arg(syntax)});
+    QVERIFY2(fatal.isEmpty(), qPrintable(fatal.mid(0, 20).join(QLatin1Char('\n'))));
+}
+
 void TestEInvoice::paymentCode()
 {
     Seller f;
@@ -343,7 +508,10 @@ void TestEInvoice::facturXCarriesTheXml()
     QCOMPARE(QPDFPageDocumentHelper(doc).getAllPages().at(0).getObjectHandle().getKey("/Annots").getArrayItem(0)
                  .getKey("/F").getIntValueAsInt(), 4);
     const std::shared_ptr<Buffer> meta = catalog.getKey("/Metadata").getStreamData();
-    const QString xmp = QString::fromUtf8(reinterpret_cast<const char *>(meta->getBuffer()), qsizetype(meta->getSize()));
+    const QByteArray xmpBytes(reinterpret_cast<const char *>(meta->getBuffer()), qsizetype(meta->getSize()));
+    // The packet header's BOM, once encoded: EF BB BF.
+    QVERIFY(xmpBytes.startsWith("<?xpacket begin=\"\xEF\xBB\xBF\" id="));
+    const QString xmp = QString::fromUtf8(xmpBytes);
     for (const char *needed : {"<pdfaid:part>3</pdfaid:part>", "<pdfaid:conformance>B</pdfaid:conformance>",
                                "<fx:ConformanceLevel>EN 16931</fx:ConformanceLevel>", "Müller &amp; Söhne",
                                "<fx:DocumentFileName>factur-x.xml</fx:DocumentFileName>"})
@@ -437,6 +605,18 @@ void TestEInvoice::readsReceivedInvoices()
     QCOMPARE(problems.size(), 1);
     QVERIFY2(problems.first().startsWith(QStringLiteral("Line 1 (Beratung)")), qPrintable(problems.first()));
 
+    // XRechnung's third-party payments (BG-DEX-09) raise the amount due.
+    QByteArray thirdParty = einvoice::writeUbl(written, einvoice::Profile::XRechnung);
+    const QString payable = QStringLiteral(">%1</cbc:PayableAmount>").arg(einvoice::amount(written.payable));
+    QVERIFY(thirdParty.contains(payable.toUtf8()));
+    thirdParty.replace(payable.toUtf8(), QStringLiteral(">%1</cbc:PayableAmount>").arg(einvoice::amount(written.payable + 12.5)).toUtf8());
+    thirdParty.replace("<cac:LegalMonetaryTotal>", "<cac:PrepaidPayment><cbc:ID>Gutschein</cbc:ID><cbc:PaidAmount "
+                                                   "currencyID=\"EUR\">12.50</cbc:PaidAmount></cac:PrepaidPayment>"
+                                                   "<cac:LegalMonetaryTotal>");
+    QVERIFY2(einvoice::readReceived(thirdParty, &r, &error), qPrintable(error));
+    QVERIFY2(einvoice::checkTotals(r.invoice).isEmpty(), qPrintable(einvoice::checkTotals(r.invoice).join(u'\n')));
+    QVERIFY(einvoice::viewPage(r).contains(QStringLiteral("Paid by third parties")));
+
     // An attachment that unpacks past the limit is refused while it unpacks.
     QByteArray pdf;
     {
@@ -496,5 +676,12 @@ void TestEInvoice::refusesBadReceivedFiles()
     QVERIFY2(error.contains(QStringLiteral("100 MB large")), qPrintable(error));
 }
 
-QTEST_MAIN(TestEInvoice)
+int main(int argc, char **argv)
+{
+    // The cent-exact invoices are read back from their PDFs.
+    PdfEngine::prepareApplication();
+    QGuiApplication app(argc, argv);
+    TestEInvoice test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "TestEInvoice.moc"
