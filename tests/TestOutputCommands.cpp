@@ -10,6 +10,7 @@
 #include "render/Formatters.h"
 #include "render/PageStamp.h"
 #include "render/PdfEngine.h"
+#include "store/Store.h"
 
 #include <QDir>
 #include <QFile>
@@ -206,6 +207,68 @@ private Q_SLOTS:
         QVERIFY2(text.contains(f.out.formatters().stringFromNumber(2469)), qPrintable(text));
         QVERIFY(!text.contains(QStringLiteral("Delivery Slip")));
         QVERIFY(f.ui.alerts.isEmpty() && !f.out.isBusy());
+    }
+
+    // Every built-in design: one line fills one page with a payment code a
+    // banking app reads; forty lines fill a few pages, not thousands.
+    void everyDesignFillsItsPages()
+    {
+        for (const char *tool : {"pdfinfo", "pdftoppm", "zbarimg"})
+            if (QStandardPaths::findExecutable(QLatin1String(tool)).isEmpty())
+                QSKIP("poppler-utils or zbar-tools are missing (scripts/setup.sh installs them)");
+        Fixture f;
+        f.prefs.setString(P::prefsCurrencyCode, QStringLiteral("EUR"));
+        f.prefs.setString(P::prefsIBAN, QStringLiteral("DE02120300000000202051"));
+        f.prefs.setString(P::prefsBIC, QStringLiteral("BYLADEM1001"));
+        f.app.documentChanged(f.doc);
+        const QString pdf = f.home.path() + QStringLiteral("/design.pdf");
+        const auto pages = [&] {
+            static const QRegularExpression count(QStringLiteral("Pages:\\s*(\\d+)"));
+            return count.match(tool(QStringLiteral("pdfinfo"), {pdf})).captured(1).toInt();
+        };
+        f.app.designs().loadTabo2Template(); // the thirteenth, which a reload of the others leaves out
+        const QList<Record *> designs = f.app.designs().designs();
+        QCOMPARE(designs.size(), 13);
+        for (const Record *design : designs) {
+            const QString title = design->text(Design::title);
+            f.out.setDesignOverride(design);
+            QVERIFY2(f.out.renderDocumentToFile(*f.doc, pdf), qPrintable(title));
+            QVERIFY2(pages() == 1, qPrintable(title));
+            const QString png = f.home.path() + QStringLiteral("/page");
+            tool(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("200"), QStringLiteral("-png"),
+                                              QStringLiteral("-singlefile"), pdf, png});
+            const QString code = tool(QStringLiteral("zbarimg"), {QStringLiteral("-q"), QStringLiteral("--raw"),
+                                                                  png + QStringLiteral(".png")});
+            QVERIFY2(code.startsWith(QStringLiteral("BCD\n002\n1\nSCT\nBYLADEM1001\nAcme Studio\n")), qPrintable(title + code));
+            QVERIFY(!pdfText(pdf).contains(QStringLiteral("Logo Image")));
+        }
+        QString error;
+        for (int i = 1; i < 40; ++i)
+            f.app.items().addItem({QStringLiteral("Line %1").arg(i), QStringLiteral("A second line of text"), {}, {},
+                                   {}, QStringLiteral("10"), QStringLiteral("1"), false, false, false},
+                                  &error);
+        QCOMPARE(f.doc->toMany(Invoice::items).size(), 40);
+        for (const Record *design : designs) {
+            f.out.setDesignOverride(design);
+            QVERIFY(f.out.renderDocumentToFile(*f.doc, pdf));
+            QVERIFY2(pages() >= 2 && pages() <= 6, qPrintable(design->text(Design::title) + QString::number(pages())));
+        }
+        f.out.setDesignOverride(nullptr);
+        QVERIFY(f.ui.alerts.isEmpty());
+
+        // A design that lays out far more pages than 40 lines can fill is
+        // refused by name, and no PDF is left.
+        Record *runaway = f.app.managedObjectContext()->insert(EntityId::Design);
+        runaway->setText(Design::title, QStringLiteral("Tall"));
+        runaway->setText(Design::invoice, QStringLiteral("<html><body>%ITEMSLIST%<div style=\"height:150000mm\"></div></body></html>"));
+        runaway->setText(Design::item, QStringLiteral("<p>%ITEMSTITLE%</p>"));
+        runaway->setText(Design::css, QStringLiteral("p{}"));
+        f.out.setDesignOverride(runaway);
+        QVERIFY(!f.out.renderDocumentToFile(*f.doc, pdf));
+        f.out.setDesignOverride(nullptr);
+        QVERIFY(!QFile::exists(pdf));
+        QVERIFY2(f.ui.errors.value(0).description.startsWith(QStringLiteral("The design “Tall” laid the document out on")),
+                 qPrintable(f.ui.errors.value(0).description));
     }
 
     void paperAndMargins()
