@@ -22,6 +22,7 @@ private Q_SLOTS:
     void customerName_data();
     void customerName();
     void selectAddressRemembersOnce();
+    void oneAddressBothWays();
 };
 
 namespace {
@@ -218,6 +219,55 @@ void TestContacts::selectAddressRemembersOnce()
     QVERIFY(Contacts::selectAddress(store, *invoice, fields, 0));
     QCOMPARE(store.count(EntityId::Address), 2);
     Clock::setInstance(nullptr);
+}
+
+void TestContacts::oneAddressBothWays()
+{
+    struct Case
+    {
+        const char *home, *block, *company, *street, *postcode, *city, *country;
+    };
+    const Case cases[] = {
+        {"DE", "Kunde GmbH\nz. Hd. Frau Weber\nHauptstraße 5\n20095 Hamburg", "Kunde GmbH", "Hauptstraße 5", "20095", "Hamburg", ""},
+        {"DE", "Société Durand SARL\n12 rue de la Paix\n75002 Paris\nFrance", "Société Durand SARL", "12 rue de la Paix", "75002", "Paris", "FR"},
+        {"ES", "Construcciones García S.L.\nCalle Mayor 10\n28013 Madrid", "Construcciones García S.L.", "Calle Mayor 10", "28013", "Madrid", ""},
+        {"US", "Acme Corp.\n742 Evergreen Terrace\nSpringfield, IL 62704", "Acme Corp.", "742 Evergreen Terrace", "62704", "Springfield, IL", "US"},
+        {"FR", "Atelier Martin\n3 place Bellecour\n69002 Lyon", "Atelier Martin", "3 place Bellecour", "69002", "Lyon", ""},
+    };
+    for (const Case &c : cases) {
+        const QString block = QString::fromUtf8(c.block);
+        const std::array<QString, 7> parts = Contacts::partsOfAddress(block);
+        QCOMPARE(parts[0], QString::fromUtf8(c.company));
+        QCOMPARE(parts[1], QString::fromUtf8(c.street));
+        QCOMPARE(parts[2], QLatin1String(c.postcode));
+        QCOMPARE(parts[3], QString::fromUtf8(c.city));
+        QCOMPARE(parts[4], QLatin1String(c.country));
+        // And back: the block as the post reads it (a care-of line is not a part).
+        QString expected = block;
+        expected.remove(QStringLiteral("z. Hd. Frau Weber\n"));
+        QCOMPARE(Contacts::composeAddress(parts, QLatin1String(c.home)), expected);
+    }
+    // Either side fills the other; neither overwrites what was given.
+    AddressFields typed;
+    typed.buyer[0] = QStringLiteral("Kunde GmbH");
+    typed.buyer[1] = QStringLiteral("Weg 5");
+    typed.buyer[2] = QStringLiteral("1010");
+    typed.buyer[3] = QStringLiteral("Wien");
+    typed.buyer[4] = QStringLiteral("AT");
+    Contacts::completeAddress(typed, QStringLiteral("DE"));
+    QCOMPARE(typed.address, QStringLiteral("Kunde GmbH\nWeg 5\n1010 Wien\nAustria"));
+    AddressFields pasted;
+    pasted.address = typed.address;
+    pasted.buyer[6] = QStringLiteral("rechnung@kunde.example");
+    Contacts::completeAddress(pasted, QStringLiteral("DE"));
+    std::array<QString, 7> expected = typed.buyer;
+    expected[6] = QStringLiteral("rechnung@kunde.example");
+    QCOMPARE(pasted.buyer, expected);
+    AddressFields both = typed;
+    both.address = QStringLiteral("Anders\nGeschrieben");
+    Contacts::completeAddress(both, QStringLiteral("DE"));
+    QCOMPARE(both.address, QStringLiteral("Anders\nGeschrieben"));
+    QCOMPARE(both.buyer, typed.buyer);
 }
 
 QTEST_GUILESS_MAIN(TestContacts)

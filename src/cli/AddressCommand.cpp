@@ -103,6 +103,8 @@ int AddressCommand::execute(const QStringList &args)
     for (const auto &[key, value] : std::as_const(values))
         *field(fields, key) = value;
     AppController &app = m_session.controller();
+    // Whichever of the text and the parts is given makes the other.
+    Contacts::completeAddress(fields, Contacts::countryCode(m_session.prefs().string(Preferences::prefsCountryCode)));
     Contacts::selectAddress(*m_session.store(), *doc, fields,
                             m_session.prefs().integer(Preferences::clientNamePatternTag));
     app.documentChanged(doc);

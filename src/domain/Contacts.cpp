@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <unicode/unistr.h>
@@ -491,6 +492,95 @@ Record *selectAddress(RecordOwner &store, Record &document, const AddressFields 
     setBuyer(*entry, fields.buyer);
     entry->setDate(Address::date, now());
     return entry;
+}
+
+namespace {
+
+// Where the post writes the city before the postcode ("City, ST 12345").
+bool cityFirst(const QString &countryCode)
+{
+    static const QStringList codes{QStringLiteral("US"), QStringLiteral("CA"), QStringLiteral("AU"),
+                                   QStringLiteral("GB"), QStringLiteral("IE")};
+    return codes.contains(countryCode);
+}
+
+} // namespace
+
+QString composeAddress(const std::array<QString, 7> &buyer, const QString &homeCountry)
+{
+    QStringList lines;
+    for (const QString &part : {buyer[0], buyer[1]})
+        if (!part.trimmed().isEmpty())
+            lines << part.trimmed();
+    const QString postcode = buyer[2].trimmed();
+    const QString city = buyer[3].trimmed();
+    const QString country = buyer[4].trimmed().toUpper();
+    const QString home = homeCountry.trimmed().toUpper();
+    const QString place = cityFirst(country.isEmpty() ? home : country)
+        ? QString(city + QLatin1Char(' ') + postcode).trimmed()
+        : QString(postcode + QLatin1Char(' ') + city).trimmed();
+    if (!place.isEmpty())
+        lines << place;
+    if (!country.isEmpty() && country != home) {
+        const QString name = QLocale::territoryToString(QLocale::codeToTerritory(country));
+        lines << (name.isEmpty() || name == QLatin1String("AnyTerritory") ? country : name);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+std::array<QString, 7> partsOfAddress(const QString &block, std::array<QString, 7> known)
+{
+    QStringList lines;
+    for (const QString &line : block.split(QLatin1Char('\n')))
+        if (!line.trimmed().isEmpty())
+            lines << line.trimmed();
+    if (lines.isEmpty())
+        return known;
+    // A last line that names a country ("Deutschland", "France", "USA").
+    if (lines.size() > 1) {
+        const QString code = countryCode(lines.last());
+        if (!code.isEmpty() && !lines.last().contains(QRegularExpression(QStringLiteral("[0-9]")))) {
+            known[4] = code;
+            lines.removeLast();
+        }
+    }
+    // The line with the postcode, from the bottom: "20095 Hamburg",
+    // "D-20095 Hamburg", "75008 Paris", "28001 Madrid", "Springfield, IL 62704".
+    static const QRegularExpression postcodeFirst(
+        QStringLiteral("^(?:[A-Z]{1,2}-)?([0-9]{4,5}|[0-9]{4} ?[A-Z]{2})\\s+(.+)$"));
+    static const QRegularExpression postcodeLast(QStringLiteral("^(.+?)\\s+([0-9]{5}(?:-[0-9]{4})?)$"));
+    for (qsizetype i = lines.size() - 1; i > 0; --i) {
+        QRegularExpressionMatch m = postcodeFirst.match(lines[i]);
+        bool found = m.hasMatch();
+        if (found) {
+            known[2] = m.captured(1);
+            known[3] = m.captured(2).trimmed();
+        } else if (m = postcodeLast.match(lines[i]); m.hasMatch()) {
+            known[2] = m.captured(2);
+            known[3] = m.captured(1).trimmed();
+            if (known[4].isEmpty() && known[3].contains(QRegularExpression(QStringLiteral(", ?[A-Z]{2}$"))))
+                known[4] = QStringLiteral("US");
+            found = true;
+        }
+        if (!found)
+            continue;
+        // The street is the line above; the company the first line.
+        known[0] = lines.first();
+        known[1] = i >= 2 ? lines[i - 1] : QString();
+        return known;
+    }
+    known[0] = lines.first();
+    return known;
+}
+
+void completeAddress(AddressFields &fields, const QString &homeCountry)
+{
+    const bool noParts = std::all_of(fields.buyer.begin(), fields.buyer.begin() + 5,
+                                     [](const QString &v) { return v.trimmed().isEmpty(); });
+    if (fields.address.trimmed().isEmpty() && !noParts)
+        fields.address = composeAddress(fields.buyer, homeCountry);
+    else if (noParts && !fields.address.trimmed().isEmpty())
+        fields.buyer = partsOfAddress(fields.address, fields.buyer);
 }
 
 QString clientOf(const Record &document)

@@ -75,6 +75,18 @@ QString customerName(qint64 clientNamePatternTag, const QString &title, const QS
 Record *selectAddress(RecordOwner &store, Record &document, const AddressFields &fields,
                       qint64 clientNamePatternTag);
 
+// The printed address block from its parts, in the order the country's post
+// reads it ("20095 Hamburg", "Springfield, IL 62704"); the country is named
+// only when it is not `homeCountry` (an ISO code).
+QString composeAddress(const std::array<QString, 7> &buyer, const QString &homeCountry);
+// The parts of a typed or pasted address block: company, street, postcode,
+// city and country; the other parts, and what the block does not say, stay
+// as in `known`.
+std::array<QString, 7> partsOfAddress(const QString &block, std::array<QString, 7> known = {});
+// One address: the block is composed from the parts when it is empty, and
+// the parts are read from the block when they are.
+void completeAddress(AddressFields &fields, const QString &homeCountry);
+
 // The client as lists and questions name it: the name built from the
 // contact, else the first line of the typed address.
 QString clientOf(const Record &document);

@@ -297,7 +297,11 @@ void AddressPopover::useAddress()
         hide();
         return;
     }
-    Contacts::selectAddress(*store, *doc, fields(), m_app.prefs().integer(P::clientNamePatternTag));
+    // One address: the block typed or pasted fills the e-invoice parts, the
+    // parts filled in compose the block.
+    AddressFields chosen = fields();
+    Contacts::completeAddress(chosen, Contacts::countryCode(m_app.prefs().string(P::prefsCountryCode)));
+    Contacts::selectAddress(*store, *doc, chosen, m_app.prefs().integer(P::clientNamePatternTag));
     m_app.documentChanged(doc);
     hide();
     Q_EMIT addressUsed();
