@@ -302,10 +302,13 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
     item->setToOne(Item::invoice, doc);
     m_app.documentChanged(doc);
 
+    // A catalogue grows with every new line; the price is compared first
+    // because it is cheap and rarely equal.
     const QString sku = item->text(Item::sku);
+    const QString title = item->text(Item::title);
+    const double baseAmount = item->num(Item::baseAmount);
     for (const Record *entry : store->all(EntityId::RecentItem)) {
-        if (entry->text(RecentItem::title) == item->text(Item::title)
-            && entry->num(RecentItem::baseAmount) == item->num(Item::baseAmount))
+        if (entry->num(RecentItem::baseAmount) == baseAmount && entry->text(RecentItem::title) == title)
             return item;
         if (!sku.isEmpty() && entry->text(RecentItem::sku) == sku)
             return item;
