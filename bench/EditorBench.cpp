@@ -109,7 +109,7 @@ int runEditorBench()
     Preferences prefs;
     prefs.setInteger(Preferences::tempPaperSize, 2);
     AppController app(prefs, ui);
-    if (!app.managedObjectContext())
+    if (!app.store())
         return 1;
     app.designs().loadTemplates();
     const Record *design = app.designs().currentDesign();

@@ -146,7 +146,7 @@ int runRenderBench(const QString &cliPath)
         Preferences prefs;
         prefs.setInteger(Preferences::tempPaperSize, 2);
         AppController app(prefs, ui);
-        if (!app.managedObjectContext())
+        if (!app.store())
             return 1;
         app.designs().loadTemplates();
         Record *design = app.designs().currentDesign();
@@ -160,7 +160,7 @@ int runRenderBench(const QString &cliPath)
         for (int i = 0; i < 98; ++i)
             if (!app.documents().duplicateInvoice())
                 return 1;
-        app.saveContext();
+        app.save();
 
         Formatters formatters(prefs);
         PageRenderer renderer(prefs, formatters);
@@ -181,15 +181,15 @@ int runRenderBench(const QString &cliPath)
                                           {Invoice::postcode, "20095"},
                                           {Invoice::city, "Hamburg"}, {Invoice::countryCode, "DE"}})
             large->setText(attr, QString::fromUtf8(value));
-        const einvoice::Mapping mapping = einvoice::fromDocument(*large, prefs);
+        const einvoice::Mapping mapping = einvoice::fromDocument(*large, largeItems, prefs);
         if (mapping.ok())
             xmlMs = medianMs(51, [&] {
-                largeCii = einvoice::writeCii(einvoice::fromDocument(*large, prefs).invoice, einvoice::Profile::EN16931);
+                largeCii = einvoice::writeCii(einvoice::fromDocument(*large, largeItems, prefs).invoice, einvoice::Profile::EN16931);
             });
         else
             std::fprintf(stderr, "the e-invoice: %s\n", qPrintable(mapping.problems().join(QStringLiteral("; "))));
         largeSeller = prefs.string(Preferences::prefsName);
-        app.saveContext();
+        app.save();
     }
 
     std::fprintf(stderr, "documents ready in %.1f s\n", double(made.elapsed()) / 1000.0);

@@ -139,7 +139,7 @@ int storeTable()
     const double rssBefore = residentMiB();
     QElapsedTimer open;
     open.start();
-    Store *store = controller.managedObjectContext();
+    Store *store = controller.store();
     const double openMs = double(open.nsecsElapsed()) / 1e6;
     if (!store)
         return 1;

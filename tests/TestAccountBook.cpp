@@ -36,13 +36,13 @@ private Q_SLOTS:
         AccountBook book(f.app);
         // Only quotes: the heading and column headings, no rows.
         f.app.addQuote();
-        QCOMPARE(book.items(f.app.documentList().arranged()).size(), 3);
+        QCOMPARE(book.items(f.app.documentList().shown()).size(), 3);
         for (int i = 0; i < 60; ++i) {
             Record *doc = f.app.addInvoice();
             doc->setText(Invoice::subject, QStringLiteral("Subject %1").arg(i));
             doc->setText(Invoice::address, QStringLiteral("Client %1\nStreet").arg(i));
         }
-        const QList<PrinterItem> items = book.items(f.app.documentList().arranged());
+        const QList<PrinterItem> items = book.items(f.app.documentList().shown());
         QCOMPARE(items.size(), 63);
         QVERIFY(!items.at(3).backgroundColor.isValid() && items.at(4).backgroundColor.isValid()); // every second row
 

@@ -23,7 +23,7 @@ struct Fixture : test::ControllerFixture
 
     Record *document(const QString &number, int kind, int status, Date date)
     {
-        Store *store = app.managedObjectContext();
+        Store *store = app.store();
         Record *doc = store->insert(EntityId::Invoice);
         doc->setText(Invoice::number, number);
         doc->setInt(Invoice::kind, kind);
@@ -34,7 +34,7 @@ struct Fixture : test::ControllerFixture
     }
     Record *line(Record *doc, const QString &title, int taxApplied)
     {
-        Record *item = app.managedObjectContext()->insert(EntityId::Item);
+        Record *item = app.store()->insert(EntityId::Item);
         item->setText(Item::title, title);
         item->setBool(Item::isTax1Applied, taxApplied == 1);
         item->setBool(Item::isTax2Applied, taxApplied == 2);

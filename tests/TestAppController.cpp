@@ -45,10 +45,10 @@ private Q_SLOTS:
 void TestAppController::startUpOnFreshInstallation()
 {
     Fixture f;
-    // The window's list asks for the store while it is built, before awakeFromNib.
-    QVERIFY(f.app.managedObjectContext());
-    f.app.awakeFromNib();
-    f.app.applicationDidFinishLaunching();
+    // The window's list asks for the store while it is built, before prepare.
+    QVERIFY(f.app.store());
+    f.app.prepare();
+    f.app.start();
     QVERIFY(f.ui.alerts.isEmpty());
     QVERIFY(f.ui.errors.isEmpty());
     QVERIFY(f.prefs.boolean(P::is2_0MigrationDone));
@@ -61,7 +61,7 @@ void TestAppController::startUpOnFreshInstallation()
 
     // One-time steps stay done: a changed sort order survives the next launch.
     f.prefs.setInteger(P::itemSortOrder, 3);
-    f.app.applicationDidFinishLaunching();
+    f.app.start();
     QCOMPARE(f.prefs.integer(P::itemSortOrder), 3);
     QVERIFY(f.app.needsFirstStartAssistant());
     QVERIFY(f.app.firstAssiTabAction(1));
@@ -94,7 +94,7 @@ void TestAppController::upgradePrompt()
         f.prefs.setBool(P::firstCenter, true);
         f.ui.answers = {answer};
         QSignalSpy terminate(&f.app, &AppController::terminateRequested);
-        Store *store = f.app.managedObjectContext();
+        Store *store = f.app.store();
         QCOMPARE(f.ui.alerts.size(), 1);
         QCOMPARE(f.ui.alerts[0].title, QStringLiteral("Warning!"));
         QCOMPARE(f.ui.alerts[0].buttons.value(1), QStringLiteral("Update Database And Use Tabo 2"));
@@ -120,16 +120,16 @@ void TestAppController::storeLocationFailures()
         Fixture f;
         f.prefs.setBool(P::useCustomPath, true);
         f.prefs.setString(P::customDatabasePath, f.home.path() + QStringLiteral("/gone"));
-        QVERIFY(!f.app.managedObjectContext());
+        QVERIFY(!f.app.store());
         QCOMPARE(f.ui.errors.size(), 2);
         QCOMPARE(f.ui.errors.last().code, 9999);
-        QCOMPARE(f.ui.errors.last().description, QStringLiteral("Failed to initialize the store"));
+        QCOMPARE(f.ui.errors.last().text, QStringLiteral("Failed to initialize the store"));
         QVERIFY(QFileInfo(f.home.dataDir()).isDir());
         // Presented once; the application runs on without a store.
-        QVERIFY(!f.app.managedObjectContext());
+        QVERIFY(!f.app.store());
         QCOMPARE(f.ui.errors.size(), 2);
         QVERIFY(!f.app.addInvoice());
-        QCOMPARE(f.app.applicationShouldTerminate(), AppController::TerminateReply::Now);
+        QCOMPARE(f.app.askToQuit(), AppController::QuitReply::Now);
     }
     {
         Fixture f;
@@ -137,10 +137,10 @@ void TestAppController::storeLocationFailures()
         QFile file(f.home.dataDir());
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.close();
-        QVERIFY(!f.app.managedObjectContext());
+        QVERIFY(!f.app.store());
         QCOMPARE(f.ui.errors.first().code, 101);
-        QCOMPARE(f.ui.errors.first().domain, QStringLiteral("YOUR_ERROR_DOMAIN"));
-        QCOMPARE(f.ui.errors.first().description,
+        QCOMPARE(f.ui.errors.first().source, Error::Tabo);
+        QCOMPARE(f.ui.errors.first().text,
                  QStringLiteral("Expected a folder to store application data, found a file (%1).").arg(f.home.dataDir()));
     }
 }
@@ -150,7 +150,7 @@ void TestAppController::quitDecisions()
     Fixture f;
     QVERIFY(f.app.addInvoice());
     QVERIFY(f.app.addQuote());
-    QCOMPARE(f.app.applicationShouldTerminate(), AppController::TerminateReply::Now);
+    QCOMPARE(f.app.askToQuit(), AppController::QuitReply::Now);
     QVERIFY(f.prefs.boolean(P::isTerminatedFine));
     QCOMPARE(f.prefs.integer(P::fetchedObjectsCount), 2);
 
@@ -164,12 +164,12 @@ void TestAppController::quitDecisions()
     f.app.documentList().all().first()->setText(Invoice::title, QStringLiteral("changed"));
 
     f.ui.answers = {1};
-    QCOMPARE(f.app.applicationShouldTerminate(), AppController::TerminateReply::Cancel);
+    QCOMPARE(f.app.askToQuit(), AppController::QuitReply::Cancel);
     QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Could not save changes while quitting. Quit anyway?"));
     QCOMPARE(f.ui.alerts.last().buttons, QStringList({QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}));
     QVERIFY(!f.prefs.boolean(P::isTerminatedFine));
     f.ui.answers = {0};
-    QCOMPARE(f.app.applicationShouldTerminate(), AppController::TerminateReply::Now);
+    QCOMPARE(f.app.askToQuit(), AppController::QuitReply::Now);
     QVERIFY(f.prefs.boolean(P::isTerminatedFine));
 }
 
@@ -214,7 +214,7 @@ void TestAppController::movesStoreToCustomFolder()
     {
         test::FakeInteraction ui;
         AppController next(f.prefs, ui);
-        QVERIFY(next.managedObjectContext());
+        QVERIFY(next.store());
         QCOMPARE(next.storeURL(), second + QStringLiteral("/Tabo.mbdb"));
         QCOMPARE(next.documentList().all().size(), 1);
     }
@@ -222,7 +222,7 @@ void TestAppController::movesStoreToCustomFolder()
     QFile::remove(second + QStringLiteral("/Tabo.mbdb"));
     test::FakeInteraction ui;
     AppController later(f.prefs, ui);
-    QVERIFY(later.managedObjectContext());
+    QVERIFY(later.store());
     QCOMPARE(later.documentList().all().size(), 0);
 }
 
@@ -262,11 +262,11 @@ void TestAppController::newDocumentsAndFilterTag()
     Record *hidden = f.app.addInvoice();
     QCOMPARE(f.app.filterTag(), 0u);
     QCOMPARE(image.last().at(0).toBool(), false);
-    QVERIFY(!f.app.documentList().arranged().contains(hidden));
+    QVERIFY(!f.app.documentList().shown().contains(hidden));
     // The button then shows no filter, so a click opens the popover.
     QVERIFY(f.app.openFilterPopover());
     f.app.selectFilterAction(0);
-    QCOMPARE(f.app.documentList().arranged().size(), 4);
+    QCOMPARE(f.app.documentList().shown().size(), 4);
     QCOMPARE(f.app.summary().invoiceCountForNumber, 3u);
     QCOMPARE(f.app.summary().quoteCount, 1u);
     Clock::setInstance(nullptr);
@@ -275,7 +275,7 @@ void TestAppController::newDocumentsAndFilterTag()
 void TestAppController::refusesFilesFromOutside()
 {
     Fixture f;
-    QVERIFY(!f.app.applicationOpenFile(QStringLiteral("/tmp/x.tabo")));
+    QVERIFY(!f.app.openFileFromOutside(QStringLiteral("/tmp/x.tabo")));
     QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Tabo, Tabo Documents, and the Tabo Database"));
     QVERIFY(f.ui.lastAlertText().startsWith(QStringLiteral("In order to avoid duplicate entries, hiccups")));
 }

@@ -28,7 +28,7 @@ namespace {
 
 void addInvoices(AppController &app, const QString &prefix, int count, Date first = test::utc(2024, 1, 1))
 {
-    Store *store = app.managedObjectContext();
+    Store *store = app.store();
     for (int i = 0; i < count; ++i) {
         Record *doc = store->insert(EntityId::Invoice);
         doc->setText(Invoice::number, prefix + QString::number(i));
@@ -46,7 +46,7 @@ void addInvoices(AppController &app, const QString &prefix, int count, Date firs
 QStringList numbers(AppController &app)
 {
     QStringList found;
-    if (Store *store = app.managedObjectContext())
+    if (Store *store = app.store())
         for (const Record *r : store->all(EntityId::Invoice))
             found << r->text(Invoice::number);
     found.sort();
@@ -185,7 +185,7 @@ void TestBackupCommands::invoiceAndItemRestores()
 
     // Only what the filter shows goes; everything in the file comes in.
     f.app.documentList().setPredicate(ListFilter::dateRange(test::utc(2024, 5, 1), test::utc(2024, 12, 31)));
-    QCOMPARE(f.app.documentList().arranged().size(), 2);
+    QCOMPARE(f.app.documentList().shown().size(), 2);
     f.ui.files = {invoices};
     QVERIFY(f.backups.restoreTaboData());
     QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Warning!"));
@@ -193,12 +193,12 @@ void TestBackupCommands::invoiceAndItemRestores()
     QCOMPARE(numbers(f.app), expected);
     QVERIFY(f.app.reopenStore());
     QCOMPARE(numbers(f.app), expected);
-    for (const Record *doc : f.app.managedObjectContext()->all(EntityId::Invoice)) {
+    for (const Record *doc : f.app.store()->all(EntityId::Invoice)) {
         QCOMPARE(doc->toMany(Invoice::items).size(), 1);
         QVERIFY(doc->date(Invoice::date).isValid());
     }
 
-    Store *store = f.app.managedObjectContext();
+    Store *store = f.app.store();
     for (const char *title : {"Design work", "Hosting"})
         store->insert(EntityId::RecentItem)->setText(RecentItem::title, QString::fromLatin1(title));
     const QString items = f.home.path() + QStringLiteral("/all.taboitems");
@@ -207,7 +207,7 @@ void TestBackupCommands::invoiceAndItemRestores()
     QVERIFY(f.backups.restoreItemBackup(items, &f.error));
     QVERIFY(f.app.reopenStore());
     QStringList titles;
-    for (const Record *r : f.app.managedObjectContext()->all(EntityId::RecentItem))
+    for (const Record *r : f.app.store()->all(EntityId::RecentItem))
         titles << r->text(RecentItem::title);
     titles.sort();
     QCOMPARE(titles, (QStringList{"Design work", "Hosting"}));
@@ -228,7 +228,7 @@ void TestBackupCommands::badInvoiceBackupsChangeNothing()
         QVERIFY(!f.backups.restoreInvoiceBackup(dir + file, &f.error));
         QVERIFY(f.ui.lastAlertText().startsWith(QStringLiteral("The file “%1” is not a Tabo invoice backup. ").arg(file)));
         QCOMPARE(numbers(f.app), before);
-        QCOMPARE(f.app.documentList().arranged().size(), 3);
+        QCOMPARE(f.app.documentList().shown().size(), 3);
     }
     QVERIFY(f.app.reopenStore());
     QCOMPARE(numbers(f.app), before);
@@ -287,8 +287,8 @@ void TestBackupCommands::savePanelsRefuseOurFiles()
             const qsizetype errors = f.ui.errors.size();
             QVERIFY(!command());
             QCOMPARE(f.ui.errors.size(), errors + 1);
-            QVERIFY2(f.ui.errors.last().description.contains(QStringLiteral("Tabo never writes")),
-                     qPrintable(f.ui.errors.last().description));
+            QVERIFY2(f.ui.errors.last().text.contains(QStringLiteral("Tabo never writes")),
+                     qPrintable(f.ui.errors.last().text));
         }
     }
     QVERIFY(QFileInfo(link).isSymLink());
@@ -338,7 +338,7 @@ void TestBackupCommands::killedRestoreLeavesOldOrNewData()
         addInvoices(app, QStringLiteral("A"), 400);
         dataA = numbers(app);
         QVERIFY(app.backups().writeCompleteBackup(home.path() + QStringLiteral("/A.mbdb"), &error));
-        Store *store = app.managedObjectContext();
+        Store *store = app.store();
         for (Record *r : QList<Record *>(store->all(EntityId::Invoice)))
             store->remove(r);
         addInvoices(app, QStringLiteral("B"), 300);

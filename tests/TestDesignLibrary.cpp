@@ -21,7 +21,7 @@ namespace {
 struct Fixture : test::ControllerFixture
 {
     DesignLibrary &lib = app.designs();
-    Store &store = *app.managedObjectContext();
+    Store &store = *app.store();
 
     QString file(const QString &name) const { return home.path() + QLatin1Char('/') + name; }
     QList<Record *> defaults() const
@@ -86,7 +86,7 @@ private Q_SLOTS:
         {
             Preferences prefs(home.configFile());
             AppController app(prefs, ui);
-            QVERIFY(app.managedObjectContext());
+            QVERIFY(app.store());
         }
         Preferences prefs(home.configFile());
         AppController app(prefs, ui);
@@ -174,7 +174,7 @@ private Q_SLOTS:
         QVERIFY(!f.lib.importDesign());
         QVERIFY(!f.lib.importDesign());
         QCOMPARE(f.ui.errors.size(), 2);
-        QVERIFY(f.ui.errors.first().description.contains(QStringLiteral("garbage.design")));
+        QVERIFY(f.ui.errors.first().text.contains(QStringLiteral("garbage.design")));
         QVERIFY(f.lib.designs().isEmpty());
         QVERIFY(!f.store.hasChanges());
     }

@@ -32,7 +32,7 @@ struct Fixture : test::ControllerFixture
 
     Record *line(Record *doc, double price)
     {
-        Record *item = app.managedObjectContext()->insert(EntityId::Item);
+        Record *item = app.store()->insert(EntityId::Item);
         item->setNum(Item::baseAmount, price);
         item->setNum(Item::unitCount, 1);
         item->setToOne(Item::invoice, doc);
@@ -88,7 +88,7 @@ void TestDocumentCommands::deleteRefusalsConfirmationsAndCounter()
                                                           "Cancel: the next invoice will be numbered RE-13.")),
              qPrintable(f.ui.lastAlertText()));
     QVERIFY(!f.app.currentInvoice());
-    QCOMPARE(f.app.managedObjectContext()->count(EntityId::Invoice), 2);
+    QCOMPARE(f.app.store()->count(EntityId::Invoice), 2);
     QCOMPARE(f.prefs.raw(QStringLiteral("invCount")), QVariant(QStringLiteral("11")));
     // The next invoice gets the number it would have had before the deletion.
     QCOMPARE(f.app.addInvoice()->text(Invoice::number), QStringLiteral("RE-14"));
@@ -181,7 +181,7 @@ void TestDocumentCommands::convertQuote()
     QCOMPARE(quote->date(Invoice::due), f.clock.now().addDays(14));
     QCOMPARE(quote->text(Invoice::title), QStringLiteral("Invoice"));
     QCOMPARE(quote->text(Invoice::footer), QString());
-    QVERIFY(!f.app.managedObjectContext()->hasChanges());
+    QVERIFY(!f.app.store()->hasChanges());
 }
 
 void TestDocumentCommands::duplicate()

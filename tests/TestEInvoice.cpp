@@ -165,6 +165,7 @@ private Q_SLOTS:
     void everyCentExactInvoiceIsAnEInvoice();
     void paymentCode();
     void facturXCarriesTheXml();
+    void pdfAndXmlListLinesAlike();
     void readsReceivedInvoices();
     void refusesBadReceivedFiles();
 };
@@ -431,7 +432,10 @@ void TestEInvoice::everyCentExactInvoiceIsAnEInvoice()
         QStringList paths;
         for (int i = 0; i < toPrint.size(); ++i)
             paths << QStringLiteral("%1/%2-%3.pdf").arg(dir).arg(language).arg(i);
-        QVERIFY(f.app.outputs().renderDocumentsToFiles(toPrint, paths).isEmpty());
+        QList<RenderRequest> requests;
+        for (const Record *doc : std::as_const(toPrint))
+            requests << f.app.outputs().request(*doc);
+        QVERIFY(f.app.outputs().renderToFiles(requests, paths).isEmpty());
         for (int i = 0; i < toPrint.size(); ++i) {
             QProcess text;
             text.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), paths[i], QStringLiteral("-")});
@@ -475,6 +479,46 @@ void TestEInvoice::paymentCode()
     f.prefs.setString(P::prefsCurrencyCode, QStringLiteral("EUR"));
     f.prefs.remove(P::prefsIBAN);
     QVERIFY(PaymentQr::payload(*doc, f.prefs).isEmpty());
+}
+
+void TestEInvoice::pdfAndXmlListLinesAlike()
+{
+    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+        QSKIP("pdftotext (poppler-utils) is missing; the printed order cannot be read.");
+    Seller f;
+    f.prefs.setString(P::prefsCurrencyCode, QStringLiteral("EUR"));
+    f.prefs.setInteger(P::itemSortOrder, 0); // by title, not the order of entry
+    Record *doc = f.invoice();
+    doc->setText(Invoice::number, QStringLiteral("RE-8"));
+    const QStringList entered{QStringLiteral("Zuschnitt"), QStringLiteral("Anfahrt"), QStringLiteral("Montage")};
+    for (const QString &title : entered)
+        f.line(title, QStringLiteral("10"), QStringLiteral("1"), 1);
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("RE-8.pdf"));
+    QVERIFY(f.app.einvoices().exportFacturX(*doc, path));
+
+    const auto order = [&entered](const QString &text) {
+        QList<std::pair<qsizetype, QString>> found;
+        for (const QString &title : entered)
+            found.append({text.indexOf(title), title});
+        std::sort(found.begin(), found.end());
+        QStringList titles;
+        for (const auto &[at, title] : found)
+            titles << (at < 0 ? QStringLiteral("(missing) ") + title : title);
+        return titles;
+    };
+    const QStringList byTitle{QStringLiteral("Anfahrt"), QStringLiteral("Montage"), QStringLiteral("Zuschnitt")};
+    QProcess text;
+    text.start(QStringLiteral("pdftotext"), {path, QStringLiteral("-")});
+    QVERIFY(text.waitForFinished(30000));
+    QCOMPARE(order(QString::fromUtf8(text.readAllStandardOutput())), byTitle);
+    QPDF pdf;
+    pdf.processFile(path.toLocal8Bit().constData());
+    auto attachment = QPDFEmbeddedFileDocumentHelper(pdf).getEmbeddedFile("factur-x.xml");
+    QVERIFY(attachment);
+    const std::shared_ptr<Buffer> data = attachment->getEmbeddedFileStream().getStreamData();
+    const QString xml = QString::fromUtf8(reinterpret_cast<const char *>(data->getBuffer()), qsizetype(data->getSize()));
+    QCOMPARE(order(xml), byTitle);
 }
 
 void TestEInvoice::facturXCarriesTheXml()

@@ -24,7 +24,7 @@ namespace {
 struct Fixture : test::ControllerFixture
 {
     FileCommands &files = app.files();
-    Store &store = *app.managedObjectContext();
+    Store &store = *app.store();
 
     QString file(const QString &name) const { return home.path() + QLatin1Char('/') + name; }
 

@@ -29,7 +29,7 @@ struct Fixture : test::ControllerFixture
     {
         return items.addItem({title, {}, {}, sku, {}, price, QStringLiteral("1"), true, tax2, false}, &error);
     }
-    const QList<Record *> &all(EntityId e) { return app.managedObjectContext()->all(e); }
+    const QList<Record *> &all(EntityId e) { return app.store()->all(e); }
 };
 
 } // namespace
@@ -56,7 +56,7 @@ void TestItemCommands::newLinesAndCatalogue()
     QCOMPARE(line->num(Item::baseAmount), double(100.1f));
     QCOMPARE(line->num(Item::tax1Percent), double(0.19f));
     QCOMPARE(f.doc->num(Invoice::amount), 119.12); // recalculated and saved
-    QVERIFY(!f.app.managedObjectContext()->hasChanges());
+    QVERIFY(!f.app.store()->hasChanges());
     // The catalogue entry takes the enabled taxes, not the line's boxes.
     const Record *entry = f.all(EntityId::RecentItem).value(0);
     QVERIFY(entry->boolean(RecentItem::isTax1Applied) && !entry->boolean(RecentItem::isTax2Applied));
@@ -82,7 +82,7 @@ void TestItemCommands::badNumbersAreRefused()
     QCOMPARE(f.error, QStringLiteral("The price “abc” is not a number."));
     QVERIFY(!f.add(QStringLiteral("Consulting"), QString()));
     QVERIFY(f.doc->toMany(Invoice::items).isEmpty() && f.all(EntityId::RecentItem).isEmpty());
-    QCOMPARE(f.app.managedObjectContext()->count(EntityId::Item), 0);
+    QCOMPARE(f.app.store()->count(EntityId::Item), 0);
 
     double v = 0;
     QLocale::setDefault(QLocale::c());
@@ -233,7 +233,7 @@ void TestItemCommands::catalogueUpkeep()
     QVERIFY(!f.items.editCatalogueEntry(entry, QStringLiteral("uniqueID"), QStringLiteral("x"), &f.error));
     QVERIFY(f.items.editCatalogueEntry(entry, QStringLiteral("isTax2Applied"), true, &f.error));
     QVERIFY(f.items.editCatalogueEntry(entry, QStringLiteral("unit"), QStringLiteral("h"), &f.error));
-    QVERIFY(!f.app.managedObjectContext()->hasChanges());
+    QVERIFY(!f.app.store()->hasChanges());
     QCOMPARE(line->num(Item::baseAmount), 100.0);
 
     // Deleting asks, with Cancel the default.

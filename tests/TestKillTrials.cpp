@@ -67,7 +67,7 @@ QString checkStore(const QString &path)
     AppController app(prefs, ui);
     QRandomGenerator random(seed);
     QString error;
-    app.managedObjectContext(); // open, as in the window, before a move is asked for
+    app.store(); // open, as in the window, before a move is asked for
     for (int i = 0;; ++i) {
         switch (random.bounded(6)) {
         case 0:
@@ -147,7 +147,7 @@ void TestKillTrials::killedAnywhereLosesNothingCommitted()
         test::FakeInteraction ui;
         Preferences prefs;
         AppController app(prefs, ui);
-        QVERIFY2(app.managedObjectContext(), qPrintable(ui.errors.isEmpty() ? QString() : ui.errors.first().message()));
+        QVERIFY2(app.store(), qPrintable(ui.errors.isEmpty() ? QString() : ui.errors.first().message()));
         QVERIFY(ui.errors.isEmpty());
         documents = int(app.documentList().all().size());
         const QString storeUsed = app.storeURL();

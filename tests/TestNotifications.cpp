@@ -164,7 +164,7 @@ void TestNotifications::deliversOnceAcrossProcessesAndAtTheNextStart()
     QVERIFY(!f.app.closeStore());
     clock.set(test::utc(2099, 6, 21));
     AppController next(f.prefs, f.ui);
-    next.managedObjectContext();
+    next.store();
     next.notifications().startDelivering();
     QCOMPARE(shown(f.log).size(), 2);
     QVERIFY(next.notifications().scheduled(true).isEmpty());
@@ -187,16 +187,16 @@ void TestNotifications::clickFiltersToTheInvoice()
     QTRY_COMPARE(forward.size(), 1);
     QCOMPARE(f.app.filterTag(), 0u); // the list waits for the window to come forward
     QTRY_COMPARE_WITH_TIMEOUT(f.app.filterTag(), 99u, 5000);
-    QCOMPARE(f.app.documentList().arranged(), QList<Record *>{a});
+    QCOMPARE(f.app.documentList().shown(), QList<Record *>{a});
     QCOMPARE(f.app.currentInvoice(), a);
     QVERIFY(f.app.filterGlows());
 
     // "LIKE": "*" and "?" are wildcards; a deleted invoice leaves the list empty.
     const QString id = a->text(Invoice::uniqueID);
     f.app.filterForInvoice(id.left(3) + QStringLiteral("?") + id.mid(4, 5) + QStringLiteral("*"));
-    QCOMPARE(f.app.documentList().arranged(), QList<Record *>{a});
+    QCOMPARE(f.app.documentList().shown(), QList<Record *>{a});
     f.app.filterForInvoice(QStringLiteral("no-such-invoice"));
-    QVERIFY(f.app.documentList().arranged().isEmpty());
+    QVERIFY(f.app.documentList().shown().isEmpty());
     QCOMPARE(f.app.currentInvoice(), nullptr);
 }
 

@@ -48,7 +48,7 @@ struct Fixture : test::ControllerFixture
     explicit Fixture(bool designs = true)
     {
         Clock::setInstance(&clock);
-        app.managedObjectContext();
+        app.store();
         if (designs)
             app.designs().loadTemplates();
         prefs.setString(P::prefsName, QStringLiteral("Acme Studio"));
@@ -140,13 +140,13 @@ private Q_SLOTS:
         QSignalSpy current(&f.app, &AppController::currentInvoiceChanged);
         QTemporaryDir dir;
         const QStringList paths{dir.filePath(QStringLiteral("a.pdf")), dir.filePath(QStringLiteral("b.pdf"))};
-        QVERIFY(f.out.renderDocumentsToFiles({f.doc, other}, paths).isEmpty());
+        QVERIFY(f.out.renderToFiles({f.out.request(*f.doc), f.out.request(*other)}, paths).isEmpty());
         QCOMPARE(f.app.currentInvoice(), f.doc);
         QCOMPARE(current.size(), 0);
         QVERIFY(pdfText(paths[0]).contains(QStringLiteral("Erika Muster")));
         QVERIFY(pdfText(paths[1]).contains(QStringLiteral("Hans Beispiel")));
         QVERIFY(!pdfText(paths[1]).contains(QStringLiteral("Erika Muster")));
-        QVERIFY(f.out.invoiceHTMLString(*other).contains(QStringLiteral("Hans Beispiel")));
+        QVERIFY(f.out.invoiceHTMLString(f.out.request(*other)).contains(QStringLiteral("Hans Beispiel")));
         QCOMPARE(f.app.currentInvoice(), f.doc);
 
         // Several pages are numbered and name the document; one page is not.
@@ -159,7 +159,7 @@ private Q_SLOTS:
                                            QStringLiteral("1"), false, false, false},
                                           &error));
         other->setText(Invoice::number, QStringLiteral("RE-7"));
-        QVERIFY(f.out.renderDocumentToFile(*other, paths[1]));
+        QVERIFY(f.out.renderToFile(f.out.request(*other), paths[1]));
         const QString text = pdfText(paths[1]);
         const QString count = QString::number(text.count(QStringLiteral("RE-7 · Seite ")));
         QVERIFY2(count.toInt() >= 2 && text.contains(QStringLiteral("RE-7 · Seite %1 von %1").arg(count)),
@@ -231,8 +231,7 @@ private Q_SLOTS:
         QCOMPARE(designs.size(), 13);
         for (const Record *design : designs) {
             const QString title = design->text(Design::title);
-            f.out.setDesignOverride(design);
-            QVERIFY2(f.out.renderDocumentToFile(*f.doc, pdf), qPrintable(title));
+            QVERIFY2(f.out.renderToFile(f.out.request(*f.doc, {}, design), pdf), qPrintable(title));
             QVERIFY2(pages() == 1, qPrintable(title));
             const QString png = f.home.path() + QStringLiteral("/page");
             tool(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("200"), QStringLiteral("-png"),
@@ -249,26 +248,22 @@ private Q_SLOTS:
                                   &error);
         QCOMPARE(f.doc->toMany(Invoice::items).size(), 40);
         for (const Record *design : designs) {
-            f.out.setDesignOverride(design);
-            QVERIFY(f.out.renderDocumentToFile(*f.doc, pdf));
+            QVERIFY(f.out.renderToFile(f.out.request(*f.doc, {}, design), pdf));
             QVERIFY2(pages() >= 2 && pages() <= 6, qPrintable(design->text(Design::title) + QString::number(pages())));
         }
-        f.out.setDesignOverride(nullptr);
         QVERIFY(f.ui.alerts.isEmpty());
 
         // A design that lays out far more pages than 40 lines can fill is
         // refused by name, and no PDF is left.
-        Record *runaway = f.app.managedObjectContext()->insert(EntityId::Design);
+        Record *runaway = f.app.store()->insert(EntityId::Design);
         runaway->setText(Design::title, QStringLiteral("Tall"));
         runaway->setText(Design::invoice, QStringLiteral("<html><body>%ITEMSLIST%<div style=\"height:150000mm\"></div></body></html>"));
         runaway->setText(Design::item, QStringLiteral("<p>%ITEMSTITLE%</p>"));
         runaway->setText(Design::css, QStringLiteral("p{}"));
-        f.out.setDesignOverride(runaway);
-        QVERIFY(!f.out.renderDocumentToFile(*f.doc, pdf));
-        f.out.setDesignOverride(nullptr);
+        QVERIFY(!f.out.renderToFile(f.out.request(*f.doc, {}, runaway), pdf));
         QVERIFY(!QFile::exists(pdf));
-        QVERIFY2(f.ui.errors.value(0).description.startsWith(QStringLiteral("The design “Tall” laid the document out on")),
-                 qPrintable(f.ui.errors.value(0).description));
+        QVERIFY2(f.ui.errors.value(0).text.startsWith(QStringLiteral("The design “Tall” laid the document out on")),
+                 qPrintable(f.ui.errors.value(0).text));
     }
 
     void paperAndMargins()

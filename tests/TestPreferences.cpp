@@ -39,6 +39,7 @@ private Q_SLOTS:
     void syntaxColourFallback();
     void setFromTextParsesByType();
     void valuesPersist();
+    void migrationsRunOnceEach();
     void staleLockIsClearedLiveLockKept();
     void damagedFileIsLeftAndRestored();
 };
@@ -254,6 +255,31 @@ void TestPreferences::valuesPersist()
     QCOMPARE(prefs.data(P::prefsLogo), QByteArray("\x89PNG\0\1", 6));
 }
 
+void TestPreferences::migrationsRunOnceEach()
+{
+    test::TempHome home;
+    {
+        // Settings an earlier version wrote: the cloud flags beside real ones.
+        P prefs(home.configFile());
+        for (const char *name : {"isiCloudAvailable", "ubiquityStoreManagerALLOWED", "USMCloudEnabledKey"})
+            prefs.setRaw(QLatin1String(name), true);
+        prefs.setInteger(P::invDefaultDueDate, 21);
+    }
+    {
+        P prefs(home.configFile());
+        QCOMPARE(prefs.migrate(), 1);
+        QCOMPARE(prefs.integer(P::settingsVersion), qint64(1));
+    }
+    P prefs(home.configFile());
+    for (const char *name : {"isiCloudAvailable", "ubiquityStoreManagerALLOWED", "USMCloudEnabledKey"})
+        QVERIFY2(!prefs.raw(QLatin1String(name)).isValid(), name);
+    QCOMPARE(prefs.integer(P::invDefaultDueDate), qint64(21));
+    // Done once: a key of the same name written later stays.
+    prefs.setRaw(QStringLiteral("isiCloudAvailable"), false);
+    QCOMPARE(prefs.migrate(), 0);
+    QVERIFY(prefs.raw(QStringLiteral("isiCloudAvailable")).isValid());
+}
+
 void TestPreferences::staleLockIsClearedLiveLockKept()
 {
     test::TempHome home;
@@ -303,7 +329,7 @@ void TestPreferences::staleLockIsClearedLiveLockKept()
         timer.start();
         P held(home.configFile());
         QVERIFY(held.loadError());
-        QVERIFY2(held.loadError().description.contains(QString::number(pid)), qPrintable(held.loadError().description));
+        QVERIFY2(held.loadError().text.contains(QString::number(pid)), qPrintable(held.loadError().text));
         QVERIFY(timer.elapsed() < 10000);
         held.setString(P::prefsName, QStringLiteral("Not stored"));
         QVERIFY(held.syncChecked());
@@ -333,7 +359,7 @@ void TestPreferences::damagedFileIsLeftAndRestored()
     {
         P damaged(home.configFile());
         QVERIFY(damaged.loadError());
-        QVERIFY(damaged.loadError().description.contains(QStringLiteral("damaged")));
+        QVERIFY(damaged.loadError().text.contains(QStringLiteral("damaged")));
         damaged.setInteger(P::invCount, 5); // in memory only
         QVERIFY(damaged.syncChecked());
     }

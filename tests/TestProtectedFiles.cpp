@@ -57,7 +57,7 @@ void TestProtectedFiles::ourFilesByAnyPath()
           links + QStringLiteral("/hard.pdf"), links + QStringLiteral("/../") + QDir(home.path()).relativeFilePath(store)}) {
         const Error e = ProtectedFiles::check(target);
         QVERIFY2(e, qPrintable(target));
-        QVERIFY2(e.description.contains(target), qPrintable(e.description));
+        QVERIFY2(e.text.contains(target), qPrintable(e.text));
     }
     for (const QString &fine : QStringList{home.path() + QStringLiteral("/Tabo.mbdb.pdf"), links + QStringLiteral("/invoice.pdf"),
                                 home.dataDir() + QStringLiteral("/Invoice.pdf")})

@@ -80,7 +80,7 @@ private Q_SLOTS:
 void TestSharedStore::documentsCreatedAtOnceAreUnique()
 {
     Fixture f;
-    QVERIFY(f.app.managedObjectContext());
+    QVERIFY(f.app.store());
     // Two command lines and this controller create documents at the same time.
     QList<QProcess *> children;
     for (int c = 0; c < 2; ++c) {
@@ -128,7 +128,7 @@ void TestSharedStore::otherProcessChangesAreSeenAndConflictsAsked()
     QCOMPARE(cli({QStringLiteral("set"), id, QStringLiteral("title"), QStringLiteral("From the terminal")}), 0);
     QCOMPARE(cli({QStringLiteral("new"), QStringLiteral("invoice")}), 0);
     doc->setText(Invoice::subject, QStringLiteral("From the window"));
-    QVERIFY(!f.app.saveContext());
+    QVERIFY(!f.app.save());
     QCOMPARE(doc->text(Invoice::title), QStringLiteral("From the terminal"));
     QCOMPARE(f.app.documentList().all().size(), 2);
     QCOMPARE(f.app.summary().invoiceCountForNumber, 2.0);
@@ -140,7 +140,7 @@ void TestSharedStore::otherProcessChangesAreSeenAndConflictsAsked()
     doc->setText(Invoice::title, QStringLiteral("Mine"));
     QCOMPARE(cli({QStringLiteral("set"), id, QStringLiteral("title"), QStringLiteral("Theirs")}), 0);
     f.ui.answers = {0};
-    QVERIFY(!f.app.saveContext());
+    QVERIFY(!f.app.save());
     QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Changed Elsewhere"));
     QVERIFY(f.ui.lastAlertText().contains(doc->text(Invoice::number)));
     QString shown;
@@ -151,16 +151,16 @@ void TestSharedStore::otherProcessChangesAreSeenAndConflictsAsked()
     doc->setText(Invoice::title, QStringLiteral("Mine again"));
     QCOMPARE(cli({QStringLiteral("set"), id, QStringLiteral("title"), QStringLiteral("Theirs again")}), 0);
     f.ui.answers = {1};
-    QVERIFY(f.app.saveContext());
+    QVERIFY(f.app.save());
     QCOMPARE(doc->text(Invoice::title), QStringLiteral("Theirs again"));
-    QVERIFY(!f.app.managedObjectContext()->hasChanges());
+    QVERIFY(!f.app.store()->hasChanges());
     QCOMPARE(firstRow(f.storePath(), "SELECT title FROM Invoice ORDER BY id LIMIT 1"), QStringLiteral("Theirs again"));
 
     // Deleted elsewhere while edited here: kept, written again whole.
     QCOMPARE(cli({QStringLiteral("delete"), id, QStringLiteral("--yes")}), 0);
     doc->setText(Invoice::notes, QStringLiteral("still wanted"));
     f.ui.answers = {0};
-    QVERIFY(!f.app.saveContext());
+    QVERIFY(!f.app.save());
     QCOMPARE(firstRow(f.storePath(), "SELECT notes || '|' || title FROM Invoice WHERE uniqueID IN "
                                      "(SELECT uniqueID FROM Invoice WHERE notes = 'still wanted')"),
              QStringLiteral("still wanted|Theirs again"));
@@ -182,14 +182,14 @@ void TestSharedStore::commandsMergeWhatClashes()
                   QStringLiteral("quantity=1")}),
              0);
     // Here, unsaved and not yet aware of the other line.
-    Record *line = f.app.managedObjectContext()->insert(EntityId::Item);
+    Record *line = f.app.store()->insert(EntityId::Item);
     line->setText(Item::title, QStringLiteral("Here too"));
     line->setNum(Item::baseAmount, 20);
     line->setNum(Item::unitCount, 1);
     line->setToOne(Item::invoice, doc);
     f.app.calculateInvoice(doc);
     QCOMPARE(doc->num(Invoice::amount), 30.0);
-    QVERIFY(!f.app.saveContext());
+    QVERIFY(!f.app.save());
     QVERIFY(f.ui.alerts.isEmpty());
     QCOMPARE(doc->toMany(Invoice::items).size(), 3);
     QCOMPARE(doc->num(Invoice::amount), 35.0);
@@ -373,7 +373,7 @@ void TestSharedStore::damagedAndEmptyFilesAreNeverWritten()
         backup.write("<?xml version=\"1.0\"?><plist version=\"1.0\"><array/></plist>");
         backup.close();
         ui.answers = {1};
-        QVERIFY(!app.managedObjectContext());
+        QVERIFY(!app.store());
         QVERIFY(ui.lastAlertText().contains(QStringLiteral("is empty (0 bytes)")));
         QCOMPARE(ui.alerts.last().buttons.first(), QStringLiteral("Restore Automatic Backup"));
         QCOMPARE(QFileInfo(store).size(), 0);

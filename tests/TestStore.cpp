@@ -237,7 +237,7 @@ void TestStore::refusesForeignAndDamagedFiles()
     const Error e = store.open();
     QVERIFY2(e.isError(), qPrintable(kind));
     QVERIFY(!store.isOpen());
-    QVERIFY(!e.description.isEmpty());
+    QVERIFY(!e.text.isEmpty());
     QCOMPARE(fileBytes(path), before);
 }
 

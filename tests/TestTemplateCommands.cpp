@@ -38,7 +38,7 @@ struct Fixture : test::ControllerFixture
                                     {"shippingAmount", 10}, {"discountKind", 1}, {"discountPercent", 0.05}};
         for (auto it = values.cbegin(); it != values.cend(); ++it)
             doc->setValue(it.key(), it.value());
-        Record *item = app.managedObjectContext()->insert(EntityId::Item);
+        Record *item = app.store()->insert(EntityId::Item);
         item->setText(Item::title, QStringLiteral("Support"));
         item->setNum(Item::baseAmount, 200);
         item->setNum(Item::unitCount, 1);
@@ -95,7 +95,7 @@ void TestTemplateCommands::fillingFromTemplate()
     b->setText(Invoice::customerName, QStringLiteral("Bob"));
     const Date date = b->date(Invoice::date);
     QVERIFY(f.templates.selectTemplate(t));
-    QVERIFY(!f.app.managedObjectContext()->hasChanges());
+    QVERIFY(!f.app.store()->hasChanges());
     Record *bLine = b->toMany(Invoice::items).value(0);
     QVERIFY(bLine && bLine != tLine);
     QCOMPARE(bLine->text(Item::title), QStringLiteral("Support plus"));
@@ -145,7 +145,7 @@ void TestTemplateCommands::refusalsAndList()
     // Deleting takes the template's own lines along, not the document's.
     f.templates.deleteTemplate(f.templates.findTemplate(QStringLiteral("monthly")));
     QCOMPARE(f.templates.templates().size(), 2);
-    QCOMPARE(f.app.managedObjectContext()->count(EntityId::Item), 3);
+    QCOMPARE(f.app.store()->count(EntityId::Item), 3);
     QCOMPARE(doc->toMany(Invoice::items).size(), 1);
 }
 

@@ -42,10 +42,10 @@ struct Fixture : test::ControllerFixture
         QCOMPARE(state(), after);
         stack.undo();
         QCOMPARE(state(), before);
-        QVERIFY(!app.managedObjectContext()->hasChanges());
+        QVERIFY(!app.store()->hasChanges());
         stack.redo();
         QCOMPARE(state(), after);
-        QVERIFY(!app.managedObjectContext()->hasChanges());
+        QVERIFY(!app.store()->hasChanges());
     }
     QString lines()
     {

@@ -1,50 +1,57 @@
-# Fails when a source file includes from a layer above its own.
-# cmake -DROOT=<src folder> -P layers.cmake
-#
-# Each folder of src/ has a rank; a file may include from its own folder and
-# from folders of a lower rank. The two programs share a rank, so neither
-# includes the other; the design generator sits beside the core's lowest
-# folder and may use the model only.
-set(rank_base 0)
-set(rank_prefs 1)
-set(rank_domain 2)
-set(rank_store 3)
-set(rank_render 4)
-set(rank_designs 4)
-set(rank_editing 4)
-set(rank_reports 4)
-set(rank_einvoice 4)
-set(rank_app 5)
-set(rank_cli 6)
-set(rank_gui 6)
+# Fails when a file includes from a folder that its row of the layer table
+# does not name, or sits in a source folder the table does not know.
+# cmake -DROOT=<project folder> -P layers.cmake   (the table: ROOT/layers.txt)
+
+cmake_minimum_required(VERSION 3.25)
 
 if(NOT ROOT)
-  message(FATAL_ERROR "Usage: cmake -DROOT=<src folder> -P layers.cmake")
+  message(FATAL_ERROR "Usage: cmake -DROOT=<project folder> -P layers.cmake")
 endif()
 get_filename_component(ROOT "${ROOT}" ABSOLUTE BASE_DIR "$ENV{PWD}")
-file(GLOB_RECURSE files RELATIVE ${ROOT} ${ROOT}/*.h ${ROOT}/*.cpp)
-set(problems 0)
-foreach(file ${files})
-  string(REGEX MATCH "^[^/]+" folder "${file}")
-  if(NOT DEFINED rank_${folder})
-    message(NOTICE "${file}: the folder “${folder}” has no layer; give it one in tests/layers.cmake")
-    math(EXPR problems "${problems} + 1")
-    continue()
+file(STRINGS ${ROOT}/layers.txt rows REGEX "^[^#]")
+
+set(rows_seen "")
+set(known "")
+foreach(row ${rows})
+  string(REGEX REPLACE "[ \t]+" ";" fields "${row}")
+  list(POP_FRONT fields folder)
+  get_filename_component(name "${folder}" NAME)
+  list(APPEND rows_seen "${folder}")
+  set(allowed_${folder} "${name};${fields}")
+  # Only the source folders are checked; any other first component is a
+  # library's (<plist/plist.h>) or a test's own helper folder.
+  if(folder MATCHES "^src/")
+    list(APPEND known "${name}")
   endif()
-  file(STRINGS ${ROOT}/${file} includes REGEX "^[ \t]*#[ \t]*include[ \t]*\"[A-Za-z_]+/")
-  foreach(line ${includes})
-    string(REGEX REPLACE "^[ \t]*#[ \t]*include[ \t]*\"([A-Za-z_]+)/.*" "\\1" target "${line}")
-    if(target STREQUAL folder OR NOT DEFINED rank_${target})
-      continue()
-    endif()
-    if(NOT rank_${target} LESS rank_${folder})
-      message(NOTICE "${file} includes “${target}/”, a layer above or beside its own (${folder})")
-      math(EXPR problems "${problems} + 1")
-    endif()
+endforeach()
+
+set(problems 0)
+# Every source folder has a row.
+file(GLOB src_folders LIST_DIRECTORIES true RELATIVE ${ROOT} ${ROOT}/src/*)
+foreach(folder ${src_folders})
+  if(IS_DIRECTORY ${ROOT}/${folder} AND NOT folder IN_LIST rows_seen)
+    message(NOTICE "${folder} has no row in layers.txt")
+    math(EXPR problems "${problems} + 1")
+  endif()
+endforeach()
+
+set(count 0)
+foreach(folder ${rows_seen})
+  file(GLOB_RECURSE files RELATIVE ${ROOT} ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.cpp)
+  foreach(file ${files})
+    math(EXPR count "${count} + 1")
+    # Quoted and angled alike: a project header is a project header.
+    file(STRINGS ${ROOT}/${file} includes REGEX "^[ \t]*#[ \t]*include[ \t]*[\"<][A-Za-z_]+/")
+    foreach(line ${includes})
+      string(REGEX REPLACE "^[ \t]*#[ \t]*include[ \t]*[\"<]([A-Za-z_]+)/.*" "\\1" target "${line}")
+      if(target IN_LIST known AND NOT target IN_LIST allowed_${folder})
+        message(NOTICE "${file} includes “${target}/”, which layers.txt does not allow for ${folder}")
+        math(EXPR problems "${problems} + 1")
+      endif()
+    endforeach()
   endforeach()
 endforeach()
-list(LENGTH files count)
 if(problems GREATER 0)
   message(FATAL_ERROR "${problems} include(s) against the layers, in ${count} files")
 endif()
-message(STATUS "${count} files, every include points down")
+message(STATUS "${count} files, every include as layers.txt allows")

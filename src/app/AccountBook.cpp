@@ -132,7 +132,7 @@ bool AccountBook::writePdf(const QString &path, bool forPrint)
         return false;
     }
     m_app.calculateDatabase();
-    PrinterDocument book(items(m_app.documentList().arranged()));
+    PrinterDocument book(items(m_app.documentList().shown()));
     book.topMargin = 60;
     book.bottomMargin = 40;
     book.footerView = PrinterTextView(

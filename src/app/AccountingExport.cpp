@@ -71,9 +71,9 @@ QVariantMap summaryLine(const QVariantMap &invoice)
 
 void AccountingExport::sendToVorlux(int sendToTag)
 {
-    m_app.managedObjectContext();
+    m_app.store();
     QList<Record *> invoices;
-    for (Record *r : m_app.documentList().arranged())
+    for (Record *r : m_app.documentList().shown())
         if (r->integer(Invoice::kind) == 1 && !r->isNull(Invoice::date))
             invoices.append(r);
     // The list is newest first: the range covers every invoice shown.
@@ -100,7 +100,7 @@ void AccountingExport::doTheFilter()
     if (begin.isValid() && end.isValid()) {
         const qint64 from = milliseconds(begin);
         const qint64 to = milliseconds(end);
-        for (Record *r : m_app.documentList().arranged()) {
+        for (Record *r : m_app.documentList().shown()) {
             if (r->isNull(Invoice::date) || !matchesKind(*r, kind))
                 continue;
             const qint64 at = milliseconds(r->date(Invoice::date));
@@ -120,7 +120,7 @@ QVariantList AccountingExport::entries() const
     for (Record *r : m_selection)
         if (live.contains(r))
             selected.append(r);
-    if (Store *store = m_app.managedObjectContext())
+    if (Store *store = m_app.store())
         store->loadFully(selected);
 
     const bool summary = m_app.prefs().integer(P::prefsVorluxExportItemsKind) == 0;

@@ -95,14 +95,14 @@ QString AppController::storeFilePath() const
     return applicationFilesDirectory() + QLatin1Char('/') + kStoreFileName;
 }
 
-Store *AppController::managedObjectContext()
+Store *AppController::store()
 {
     if (m_store || m_storeTried)
         return m_store.get();
     m_storeTried = true;
     openStore();
     if (!m_store && !m_terminating)
-        m_ui.presentError(Error{Error::kAppDomain, 9999, QStringLiteral("Failed to initialize the store"),
+        m_ui.presentError(Error{Error::Tabo, 9999, QStringLiteral("Failed to initialize the store"),
                                 QStringLiteral("There was an error building up the data file.")});
     return m_store.get();
 }
@@ -134,12 +134,12 @@ void AppController::openStore()
     const QString folder = applicationFilesDirectory();
     const QFileInfo folderInfo(folder);
     if (!folderInfo.exists()) {
-        m_ui.presentError(Error{Error::kAppDomain, 260,
+        m_ui.presentError(Error{Error::Tabo, 260,
                                 QStringLiteral("The folder “%1” could not be created.").arg(folder), {}});
         return;
     }
     if (!folderInfo.isDir()) {
-        m_ui.presentError(Error{Error::kAppDomain, 101,
+        m_ui.presentError(Error{Error::Tabo, 101,
                                 QStringLiteral("Expected a folder to store application data, found a file (%1).").arg(folder),
                                 {}});
         return;
@@ -152,7 +152,7 @@ void AppController::openStore()
     m_storeURL = storeFilePath();
     auto store = std::make_unique<Store>(m_storeURL);
     if (const Error e = store->open()) {
-        if (e.domain == kStoreDomain && e.code == Store::kEmptyFile && offerAutomaticBackup(e))
+        if (e.source == Error::Store && e.code == Store::kEmptyFile && offerAutomaticBackup(e))
             return;
         m_ui.presentError(e);
         return;
@@ -191,7 +191,7 @@ bool AppController::offerAutomaticBackup(const Error &empty)
     const QString kept = m_storeURL + QStringLiteral(".empty");
     QFile::remove(kept);
     if (!QFile::rename(m_storeURL, kept)) {
-        m_ui.presentError(Error{Error::kAppDomain, 6, QStringLiteral("“%1” could not be renamed.").arg(m_storeURL), {}});
+        m_ui.presentError(Error{Error::Tabo, 6, QStringLiteral("“%1” could not be renamed.").arg(m_storeURL), {}});
         return true;
     }
     m_storeURL.clear();
@@ -201,7 +201,7 @@ bool AppController::offerAutomaticBackup(const Error &empty)
     return true;
 }
 
-Error AppController::saveContext()
+Error AppController::save()
 {
     if (!m_store)
         return {};
@@ -210,7 +210,7 @@ Error AppController::saveContext()
     // A command of its own (the command line) made its change on purpose: a
     // clash with another program's save is settled by taking in what that
     // one wrote, recalculating the documents both touched, and saving again.
-    for (int attempt = 0; m_mergeConflicts && attempt < 5 && e.domain == kStoreDomain && e.code == Store::kConflict;
+    for (int attempt = 0; m_mergeConflicts && attempt < 5 && e.source == Error::Store && e.code == Store::kConflict;
          ++attempt) {
         QSet<Record *> documents;
         for (Record *r : m_store->conflicts())
@@ -222,7 +222,7 @@ Error AppController::saveContext()
             calculateInvoice(doc);
         e = m_store->save([this] { renumberPending(); });
     }
-    if (e.domain == kStoreDomain && e.code == Store::kConflict) {
+    if (e.source == Error::Store && e.code == Store::kConflict) {
         if (!resolveConflicts())
             return e;
         e = m_store->save([this] { renumberPending(); });
@@ -356,7 +356,7 @@ void AppController::renumberPending()
 
 Error AppController::setNumberCounter(P::Key counter, qint64 value)
 {
-    if (Store *store = managedObjectContext())
+    if (Store *store = this->store())
         if (Error e = store->write([&](sqlite3 *db) { return NumberCounters::write(db, Preferences::info(counter).name, value); }))
             return e;
     m_prefs.setString(counter, QString::number(value));
@@ -366,7 +366,7 @@ Error AppController::setNumberCounter(P::Key counter, qint64 value)
 Error AppController::raiseNumberCounter(P::Key counter)
 {
     qint64 value = m_prefs.integer(counter) + 1;
-    if (Store *store = managedObjectContext()) {
+    if (Store *store = this->store()) {
         const Error e = store->write([&](sqlite3 *db) {
             value = NumberCounters::read(db, Preferences::info(counter).name).value_or(m_prefs.integer(counter)) + 1;
             return NumberCounters::write(db, Preferences::info(counter).name, value);
@@ -380,19 +380,16 @@ Error AppController::raiseNumberCounter(P::Key counter)
 
 void AppController::saveAction()
 {
-    saveContext();
+    save();
 }
 
-void AppController::awakeFromNib()
+void AppController::prepare()
 {
     if (!m_prefs.boolean(P::firstCenter)) {
         m_prefs.setBool(P::isFirstInvoiceEverCreated, true);
         m_prefs.setBool(P::firstCenter, true);
     }
     applicationFilesDirectory();
-    // Cloud storage is not offered on this platform.
-    m_prefs.setBool(P::isiCloudAvailable, false);
-    m_prefs.setBool(P::ubiquityStoreManagerALLOWED, true);
     createBackupPath();
     m_pdfPath = applicationFilesDirectory() + QStringLiteral("/Invoice.pdf");
     m_pdfEmailPath = applicationFilesDirectory() + QStringLiteral("/PDFInvoice.pdf");
@@ -414,7 +411,7 @@ void AppController::createBackupPath()
     m_backupPath = Locations::automaticBackupFile();
 }
 
-void AppController::applicationDidFinishLaunching()
+void AppController::start()
 {
     m_prefs.setBool(P::isTerminatedFine, false);
     runOneTimeUpgrades();
@@ -423,6 +420,7 @@ void AppController::applicationDidFinishLaunching()
 
 void AppController::runOneTimeUpgrades()
 {
+    m_prefs.migrate();
     if (!m_prefs.boolean(P::update_1_3)) {
         m_prefs.setInteger(P::itemSortOrder, 1);
         m_prefs.setBool(P::update_1_3, true);
@@ -442,7 +440,7 @@ bool AppController::needsFirstStartAssistant() const
 
 bool AppController::firstAssiTabAction(qint64 languageDefaults)
 {
-    if (!m_prefs.boolean(P::isFirstStoreLoadEverDone) && managedObjectContext()) {
+    if (!m_prefs.boolean(P::isFirstStoreLoadEverDone) && store()) {
         m_designs->loadTemplates();
         m_prefs.setBool(P::isFirstStoreLoadEverDone, true);
     }
@@ -497,15 +495,15 @@ bool AppController::recomposeFooters()
     return true;
 }
 
-AppController::TerminateReply AppController::applicationShouldTerminate()
+AppController::QuitReply AppController::askToQuit()
 {
     if (!m_store) {
         m_prefs.setBool(P::isTerminatedFine, true);
         m_prefs.sync();
-        return TerminateReply::Now;
+        return QuitReply::Now;
     }
     m_prefs.setInteger(P::fetchedObjectsCount, m_store->count(EntityId::Invoice));
-    TerminateReply reply = TerminateReply::Now;
+    QuitReply reply = QuitReply::Now;
     if (!m_store->hasChanges()) {
         m_prefs.setBool(P::isTerminatedFine, true);
     } else if (const Error e = m_store->save()) {
@@ -516,7 +514,7 @@ AppController::TerminateReply AppController::applicationShouldTerminate()
             {QStringLiteral("Quit anyway"), QStringLiteral("Cancel")});
         const bool quit = answer == 0;
         m_prefs.setBool(P::isTerminatedFine, quit);
-        reply = quit ? TerminateReply::Now : TerminateReply::Cancel;
+        reply = quit ? QuitReply::Now : QuitReply::Cancel;
     } else {
         m_prefs.setBool(P::isTerminatedFine, true);
     }
@@ -524,7 +522,7 @@ AppController::TerminateReply AppController::applicationShouldTerminate()
     return reply;
 }
 
-void AppController::applicationWillTerminate()
+void AppController::quit()
 {
     m_prefs.sync();
 }
@@ -553,11 +551,11 @@ bool AppController::customPathChanged()
         return fail(e);
     const QString folder = QFileInfo(target).absolutePath();
     if (!QFileInfo(folder).isDir())
-        return fail(Error{Error::kAppDomain, 4, QStringLiteral("The folder “%1” does not exist.").arg(folder), {}});
+        return fail(Error{Error::Tabo, 4, QStringLiteral("The folder “%1” does not exist.").arg(folder), {}});
     // The target holds the old file or the complete copy at every moment,
     // never a half-written one.
     if (const Error e = StoreFile::writeCopy(*m_store, target))
-        return fail(Error{Error::kAppDomain, 5, QStringLiteral("The database could not be moved to “%1”.").arg(folder),
+        return fail(Error{Error::Tabo, 5, QStringLiteral("The database could not be moved to “%1”.").arg(folder),
                           e.message()});
     QFile::setPermissions(target, QFileInfo(m_storeURL).permissions());
     m_prefs.sync();
@@ -569,7 +567,7 @@ bool AppController::customPathChanged()
     Q_EMIT currentInvoiceChanged(nullptr);
     Q_EMIT listChanged();
     Q_EMIT summaryChanged();
-    return managedObjectContext() != nullptr;
+    return store() != nullptr;
 }
 
 bool AppController::chooseCustomDatabasePath(bool use)
@@ -642,7 +640,7 @@ bool AppController::reopenStore()
 {
     closeStore();
     m_storeTried = false;
-    return managedObjectContext() != nullptr;
+    return store() != nullptr;
 }
 
 void AppController::restartApp()
@@ -653,7 +651,7 @@ void AppController::restartApp()
                {QStringLiteral("OK")});
 }
 
-bool AppController::applicationOpenFile(const QString &)
+bool AppController::openFileFromOutside(const QString &)
 {
     m_ui.alert(QStringLiteral("Tabo, Tabo Documents, and the Tabo Database"),
                QStringLiteral("In order to avoid duplicate entries, hiccups, and to keep the database intact - "
@@ -668,10 +666,10 @@ void AppController::setFilterTag(unsigned tag)
     Q_EMIT filterImageChanged(filterGlows());
 }
 
-void AppController::setFilterPredicate()
+void AppController::applyFilter()
 {
-    m_list.setFilterPredicate(now());
-    arrangedAnew();
+    m_list.applyFilter(now());
+    showAnew();
 }
 
 ReportFigures AppController::generateReport()
@@ -685,7 +683,7 @@ ReportFigures AppController::generateReport()
 ReportFigures AppController::generateReport(const Report::Range &range)
 {
     calculateDatabase();
-    return Report::compute(m_list.arranged(), range);
+    return Report::compute(m_list.shown(), range);
 }
 
 QString AppController::reportPage(const ReportFigures &figures) const
@@ -705,10 +703,10 @@ void AppController::setSearchText(const QString &text)
     if (ItemCommands::parseNumber(text, &amount, QLocale(m_prefs.documentRegion())))
         search.amount = amount;
     m_list.setSearch(search);
-    arrangedAnew();
+    showAnew();
 }
 
-void AppController::arrangedAnew()
+void AppController::showAnew()
 {
     // The editor shows the list's selection: what the list hides, it drops.
     if (m_current && !m_list.shows(m_current))
@@ -721,7 +719,7 @@ bool AppController::openFilterPopover()
 {
     if (m_list.filterTag() != 0) {
         setFilterTag(0);
-        setFilterPredicate();
+        applyFilter();
         return false;
     }
     return true;
@@ -730,18 +728,18 @@ bool AppController::openFilterPopover()
 void AppController::selectFilterAction(unsigned tag)
 {
     setFilterTag(tag);
-    setFilterPredicate();
+    applyFilter();
 }
 
 void AppController::filterForInvoice(const QString &uniqueID)
 {
-    if (!managedObjectContext())
+    if (!store())
         return;
     m_list.setPredicate(ListFilter::uniqueIdLike(uniqueID));
     m_list.rearrange();
-    const QList<Record *> &shown = m_list.arranged();
+    const QList<Record *> &shown = m_list.shown();
     setCurrentInvoice(shown.isEmpty() ? nullptr : shown.first());
-    arrangedAnew();
+    showAnew();
     setFilterTag(DocumentList::kInvoiceFilterTag);
 }
 
@@ -784,7 +782,7 @@ Record *AppController::addQuote()
 
 Record *AppController::newDocument(bool invoice)
 {
-    Store *store = managedObjectContext();
+    Store *store = this->store();
     if (!store)
         return nullptr;
     m_prefs.setBool(P::isFirstInvoiceEverCreated, true);
@@ -852,7 +850,7 @@ void AppController::documentCreated(Record *document)
     Q_EMIT listChanged();
     calculateDatabase();
     setCurrentInvoice(document);
-    saveContext();
+    save();
 }
 
 void AppController::documentChanged(Record *document)
@@ -864,7 +862,7 @@ void AppController::documentChanged(Record *document)
     m_list.rearrange();
     Q_EMIT listChanged();
     calculateDatabase();
-    saveContext();
+    save();
 }
 
 bool AppController::setDocumentValue(Record *document, int attr, const QVariant &value, const QVariant &startedFrom)
@@ -949,7 +947,7 @@ QString AppController::convertedInvoiceNumberString() const
 
 QString AppController::clientNumberString()
 {
-    Store *store = managedObjectContext();
+    Store *store = this->store();
     return Numbering::clientNumberString(m_prefs, store ? store->count(EntityId::Address) : 0, now());
 }
 
@@ -967,7 +965,7 @@ Record *AppController::findDocument(const QString &idOrNumber)
 QList<Record *> AppController::findDocuments(const QString &idOrNumber)
 {
     QList<Record *> found;
-    if (!managedObjectContext() || idOrNumber.isEmpty())
+    if (!store() || idOrNumber.isEmpty())
         return found;
     for (Record *r : m_list.all())
         if (r->text(Invoice::uniqueID) == idOrNumber)

@@ -58,14 +58,14 @@ public:
     // Opened on first use (the window asks for it as it fills its lists), so
     // that the first-start assistant and the upgrade prompt come first.
     // nullptr when there is none; the reason has been presented once.
-    Store *managedObjectContext();
+    Store *store();
     bool hasStore() const { return m_store != nullptr; }
     bool isTerminating() const { return m_terminating; }
 
     // Saves what changed; a failure is presented and returned. When another
     // program changed the same records meanwhile the person chooses between
     // their edit and the stored one.
-    Error saveContext();
+    Error save();
     // Takes in what other programs committed to the store since we last
     // looked (the window calls it on activation and when idle).
     void syncWithStore();
@@ -76,15 +76,15 @@ public:
     // which the window's first actions rely on. The second marks the session
     // as running (a crash leaves it so) and applies the one-time settings
     // updates of earlier versions.
-    void awakeFromNib();
+    void prepare();
     // The one-time upgrade steps of the settings; run before any command
     // reads or writes a setting, so a value set afterwards is never undone.
     void runOneTimeUpgrades();
-    void applicationDidFinishLaunching();
+    void start();
 
-    enum class TerminateReply { Now, Cancel };
-    TerminateReply applicationShouldTerminate();
-    void applicationWillTerminate();
+    enum class QuitReply { Now, Cancel };
+    QuitReply askToQuit();
+    void quit();
 
     // Moves the store to the folder now named by the preferences, which the
     // caller sets without syncing them: they are written once the copy is in
@@ -131,7 +131,7 @@ public:
     QString pdfEmailPath() const;
     void createBackupPath();
     // Files handed to us from outside are refused: always false.
-    bool applicationOpenFile(const QString &path);
+    bool openFileFromOutside(const QString &path);
 
     // ---- Document list, filter and summary ----
     DocumentList &documentList() { return m_list; }
@@ -141,7 +141,7 @@ public:
     // The search field over the list, combined with the filter; the
     // summary follows what is shown.
     void setSearchText(const QString &text);
-    void setFilterPredicate();
+    void applyFilter();
     // The report over what the list shows, after a summary pass; the range
     // from the preferences when `useReportDateRange` is on.
     ReportFigures generateReport();
@@ -243,7 +243,7 @@ Q_SIGNALS:
     void terminateRequested();
 
 private:
-    void arrangedAnew();
+    void showAnew();
     bool confirmDueDate(const Record &document, const QVariant &due);
     Record *newDocument(bool invoice);
     void installPendingTabo2Template();

@@ -32,7 +32,7 @@ const QString kCancel = QStringLiteral("Cancel");
 // damaged store would replace the one good copy the person is told to restore.
 Store *checkedStore(AppController &app, QString *error)
 {
-    Store *store = app.managedObjectContext();
+    Store *store = app.store();
     if (!store) {
         *error = QStringLiteral("There is no database to back up.");
         return nullptr;
@@ -61,7 +61,7 @@ bool writeRecords(AppController &app, EntityId entity, const QString &path, QStr
     Store *store = checkedStore(app, error);
     if (!store)
         return false;
-    if (const Error e = app.saveContext()) {
+    if (const Error e = app.save()) {
         *error = e.message();
         return false;
     }
@@ -172,17 +172,17 @@ bool restoreRecords(AppController &app, EntityId entity, const QString &path, co
         return false;
     }
 
-    Store *store = app.managedObjectContext();
+    Store *store = app.store();
     if (!store) {
         *error = QStringLiteral("There is no database to restore into.");
         return false;
     }
-    if (const Error e = app.saveContext()) {
+    if (const Error e = app.save()) {
         *error = e.message();
         return false;
     }
     const bool documents = entity == EntityId::Invoice;
-    const QList<Record *> shown = documents ? app.documentList().arranged() : store->all(entity);
+    const QList<Record *> shown = documents ? app.documentList().shown() : store->all(entity);
     if (documents && shown.contains(app.currentInvoice()))
         app.setCurrentInvoice(nullptr);
     for (Record *r : shown)
@@ -214,7 +214,7 @@ bool restoreRecords(AppController &app, EntityId entity, const QString &path, co
 // opened (damaged, empty), which nobody can be working on, is replaced as a file.
 Error swapIn(AppController &app, StoreFile &copy)
 {
-    Store *store = app.hasStore() ? app.managedObjectContext() : nullptr;
+    Store *store = app.hasStore() ? app.store() : nullptr;
     if (store && !store->isDamaged()) {
         StoreFile::pauseForTest();
         if (Error e = store->replaceContentFrom(copy.path()))
@@ -229,7 +229,7 @@ Error swapIn(AppController &app, StoreFile &copy)
 
 bool BackupCommands::backupCompleteTaboData()
 {
-    if (!m_app.managedObjectContext() || m_app.saveContext())
+    if (!m_app.store() || m_app.save())
         return false;
     Interaction::FileRequest request;
     request.title = QStringLiteral("Backup Tabo Database");
@@ -245,19 +245,19 @@ bool BackupCommands::backupCompleteTaboData()
 
 bool BackupCommands::writeCompleteBackup(const QString &chosenPath, QString *error)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store) {
         *error = QStringLiteral("There is no database to back up.");
         return false;
     }
-    if (const Error e = m_app.saveContext()) {
+    if (const Error e = m_app.save()) {
         *error = e.message();
         return false;
     }
     const QFileInfo chosen(chosenPath);
     const QString target = chosen.absolutePath() + QLatin1Char('/') + chosen.completeBaseName() + QStringLiteral(".tabo2db");
     if (const Error refused = ProtectedFiles::check(target)) {
-        *error = refused.description;
+        *error = refused.text;
         return false;
     }
     if (!checkedStore(m_app, error))
@@ -292,7 +292,7 @@ bool BackupCommands::restoreCompleteBackup(const QString &backupPath, QString *e
 {
     // Opened first so that an interrupted earlier restore is settled; a store
     // that does not open at all can still be replaced.
-    m_app.managedObjectContext();
+    m_app.store();
     const QString storePath = m_app.storeFilePath();
     const QString name = QFileInfo(backupPath).fileName();
     const auto fail = [&](const QString &text) {
@@ -319,7 +319,7 @@ bool BackupCommands::restoreCompleteBackup(const QString &backupPath, QString *e
     }
     StoreFile::pauseForTest();
     if (m_app.hasStore()) {
-        if (const Error e = m_app.saveContext()) {
+        if (const Error e = m_app.save()) {
             *error = e.message();
             return false;
         }
@@ -332,7 +332,7 @@ bool BackupCommands::restoreCompleteBackup(const QString &backupPath, QString *e
 
 bool BackupCommands::backupTaboData()
 {
-    if (!m_app.managedObjectContext() || m_app.saveContext())
+    if (!m_app.store() || m_app.save())
         return false;
     Interaction::FileRequest request;
     request.title = QStringLiteral("Backup Tabo Invoices");
@@ -366,7 +366,7 @@ bool BackupCommands::restoreTaboData()
 
 bool BackupCommands::backupItems()
 {
-    if (!m_app.managedObjectContext() || m_app.saveContext())
+    if (!m_app.store() || m_app.save())
         return false;
     Interaction::FileRequest request;
     request.title = QStringLiteral("Backup Tabo Items");
@@ -426,12 +426,11 @@ bool BackupCommands::createBackup()
         prefs.setBool(P::isDatabase2Migrated, true);
         return false;
     }
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store)
         return false;
     // An unexpected change of the count must not overwrite the last good backup.
-    if (store->count(EntityId::Invoice) != prefs.integer(P::fetchedObjectsCount)
-        && !prefs.boolean(P::USMCloudEnabledKey)) {
+    if (store->count(EntityId::Invoice) != prefs.integer(P::fetchedObjectsCount)) {
         if (prefs.boolean(P::justMigratedFrommFree))
             prefs.setBool(P::justMigratedFrommFree, false);
         return false;
@@ -464,8 +463,8 @@ bool BackupCommands::doTheNewBackup(QString *error)
         QFile::rename(generations[i - 1], generations[i]);
     }
     if (const Error e = ProtectedFiles::writeAtomically(path, data, ProtectedFiles::Writer::AutomaticBackup)) {
-        *error = e.description;
-        qWarning().noquote() << QStringLiteral("Unable to write %1: %2").arg(path, e.description);
+        *error = e.text;
+        qWarning().noquote() << QStringLiteral("Unable to write %1: %2").arg(path, e.text);
         return false;
     }
     return true;
@@ -503,7 +502,7 @@ bool BackupCommands::restoreAutomaticallyFromSandbox()
     qInfo().noquote() << QStringLiteral("restoreAutomaticallyFromSandbox '%1'.").arg(storePath);
     const auto fail = [this](const QString &description, const QString &reason) {
         if (!description.isEmpty())
-            m_app.ui().presentError(Error{Error::kAppDomain, 1, description, reason});
+            m_app.ui().presentError(Error{Error::Tabo, 1, description, reason});
         m_app.ui().alert(kError,
                          QStringLiteral("Could not restore Tabo database automatically. Please do this by hand. In "
                                         "case of problems, simply contact the Pemra support."),
@@ -511,7 +510,7 @@ bool BackupCommands::restoreAutomaticallyFromSandbox()
         return false;
     };
 
-    m_app.managedObjectContext();
+    m_app.store();
     StoreFile copy(storePath);
     const Error copied = copy.path().isEmpty()
                              ? Error::file(QStringLiteral("No working copy could be made beside the database."))
@@ -521,7 +520,7 @@ bool BackupCommands::restoreAutomaticallyFromSandbox()
     if (const Error e = copy.check())
         return fail(QStringLiteral("The database “%1” cannot be used.").arg(source),
                     e.message().replace(copy.path(), source));
-    if (m_app.hasStore() && m_app.saveContext())
+    if (m_app.hasStore() && m_app.save())
         return fail({}, {}); // the save error has been presented
     if (const Error e = swapIn(m_app, copy))
         return fail(QStringLiteral("The database “%1” could not be replaced.").arg(storePath), e.message());

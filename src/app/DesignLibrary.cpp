@@ -44,7 +44,7 @@ bool lessByTitleThenCreation(const Record *a, const Record *b)
 
 Error fileError(int code, const QString &description, const QString &reason)
 {
-    return Error{Error::kAppDomain, code, description, reason};
+    return Error{Error::Tabo, code, description, reason};
 }
 
 } // namespace
@@ -56,7 +56,7 @@ DesignLibrary::DesignLibrary(AppController &app)
 
 QList<Record *> DesignLibrary::designs() const
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store)
         return {};
     QList<Record *> list = store->all(EntityId::Design);
@@ -66,7 +66,7 @@ QList<Record *> DesignLibrary::designs() const
 
 Record *DesignLibrary::currentDesign() const
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store)
         return nullptr;
     // The store's list keeps no promised order; creation order is the id.
@@ -88,7 +88,7 @@ QStringList DesignLibrary::firstBuiltInNames()
 
 Record *DesignLibrary::createDesignFromResource(const QString &name)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store)
         return nullptr;
     const Result<QVariantMap> dictionary = readDesignFile(readResource(name + QLatin1Char('.') + kExtension));
@@ -102,13 +102,13 @@ Record *DesignLibrary::createDesignFromResource(const QString &name)
 
 void DesignLibrary::loadTemplates()
 {
-    if (!m_app.managedObjectContext())
+    if (!m_app.store())
         return;
     for (const QString &name : firstBuiltInNames()) {
         if (Record *design = createDesignFromResource(name))
             design->setBool(Design::isDefault, name == kFirstDefault);
     }
-    m_app.saveContext();
+    m_app.save();
 }
 
 void DesignLibrary::loadTabo2Template()
@@ -120,12 +120,12 @@ void DesignLibrary::loadTabo2Template()
     // Other defaults stay: the earliest one keeps rendering until the person
     // chooses.
     design->setBool(Design::isDefault, true);
-    m_app.saveContext();
+    m_app.save();
 }
 
 Record *DesignLibrary::addDesign()
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store)
         return nullptr;
     Record *design = store->insert(EntityId::Design);
@@ -135,7 +135,7 @@ Record *DesignLibrary::addDesign()
     design->setText(Design::item, defaultResourceText(QStringLiteral("Item")));
     design->setText(Design::css, defaultResourceText(QStringLiteral("CSS")));
     design->setBool(Design::isDefault, false);
-    m_app.saveContext();
+    m_app.save();
     setSelectedDesignIndex(int(designs().indexOf(design)));
     return design;
 }
@@ -149,7 +149,7 @@ void DesignLibrary::setDesignText(Record *design, int attr, const QString &text)
 
 bool DesignLibrary::deleteDesign(Record *design)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store || !design || design->isDeleted())
         return false;
     const int answer = m_app.ui().alert(
@@ -160,7 +160,7 @@ bool DesignLibrary::deleteDesign(Record *design)
         return false;
     const int index = int(designs().indexOf(design));
     store->remove(design);
-    m_app.saveContext();
+    m_app.save();
     // The list selects the row that moved into the deleted one's place.
     const int remaining = int(designs().size());
     setSelectedDesignIndex(std::max(0, std::min(index, remaining - 1)));
@@ -174,12 +174,12 @@ void DesignLibrary::makeDefaultDesign(Record *design)
     for (Record *other : designs())
         other->setBool(Design::isDefault, false);
     design->setBool(Design::isDefault, true);
-    m_app.saveContext();
+    m_app.save();
 }
 
 Record *DesignLibrary::importDesign()
 {
-    if (!m_app.managedObjectContext())
+    if (!m_app.store())
         return nullptr; // the missing store has been reported already
     Interaction::FileRequest request;
     request.title = QStringLiteral("Import Tabo Design");
@@ -198,7 +198,7 @@ Record *DesignLibrary::importDesign()
 
 Record *DesignLibrary::importDesignFile(const QString &path, QString *error)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store) {
         if (error)
             *error = QStringLiteral("There is no store to import into.");
@@ -223,7 +223,7 @@ Record *DesignLibrary::importDesignFile(const QString &path, QString *error)
     design->setBool(Design::isDefault, false);
     // The same file imported twice gets a second ID, so an ID names one design.
     ensureOwnUniqueId(*design, Design::uniqueID, designs());
-    m_app.saveContext();
+    m_app.save();
     setSelectedDesignIndex(int(designs().indexOf(design)));
     return design;
 }
@@ -267,7 +267,7 @@ bool DesignLibrary::exportDesignFile(const Record *design, const QString &path, 
     }
     if (const Error e = ProtectedFiles::writeAtomically(path, data)) {
         if (error)
-            *error = e.description;
+            *error = e.text;
         return false;
     }
     return true;

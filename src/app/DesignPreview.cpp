@@ -141,7 +141,7 @@ void DesignPreview::render()
 void DesignPreview::generatePreview(const Record *design)
 {
     m_app.prefs().setBool(P::isMainPreviewAction, false);
-    m_app.saveContext();
+    m_app.save();
     const QString path = m_app.pdfPath();
     const bool ok = m_app.outputs().renderHtmlToFile(sampleHtml(design), path);
     if (!ok) {

@@ -32,7 +32,7 @@ QString prefText(const Preferences &prefs, P::Key key)
 Record *DocumentCommands::duplicateInvoice(bool toTheCent)
 {
     Record *source = m_app.currentInvoice();
-    if (!source || !m_app.managedObjectContext())
+    if (!source || !m_app.store())
         return nullptr;
     Preferences &prefs = m_app.prefs();
     m_app.syncWithStore();
@@ -173,7 +173,7 @@ bool DocumentCommands::convertQuoteToInvoice()
 bool DocumentCommands::deleteInvoice()
 {
     Record *doc = m_app.currentInvoice();
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!doc || !store)
         return false;
     Interaction &ui = m_app.ui();
@@ -207,7 +207,7 @@ bool DocumentCommands::deleteInvoice()
     m_app.setFilterTag(0);
     store->remove(doc);
     m_app.documentRemoved(doc);
-    m_app.saveContext();
+    m_app.save();
 
     // Numbers come from the count of documents, which the deletion lowered:
     // the two next numbers say what each answer means.
@@ -263,6 +263,35 @@ bool DocumentCommands::isCurrentInvoiceSent() const
 {
     const Record *doc = m_app.currentInvoice();
     return doc && doc->integer(Invoice::status) != 0;
+}
+
+QList<Record *> DocumentCommands::addressBook() const
+{
+    Store *store = m_app.store();
+    if (!store)
+        return {};
+    QList<Record *> entries = store->all(EntityId::Address);
+    std::stable_sort(entries.begin(), entries.end(), [](const Record *a, const Record *b) {
+        return b->date(Address::date) < a->date(Address::date);
+    });
+    return entries;
+}
+
+void DocumentCommands::useAddress(Record &document, AddressFields fields)
+{
+    Store *store = m_app.store();
+    if (!store)
+        return;
+    const Preferences &prefs = m_app.prefs();
+    Contacts::completeAddress(fields, Contacts::countryCode(prefs.string(Preferences::prefsCountryCode)));
+    Contacts::selectAddress(*store, document, fields, prefs.integer(Preferences::clientNamePatternTag));
+    m_app.documentChanged(&document);
+}
+
+void DocumentCommands::loadFully(const QList<Record *> &records)
+{
+    if (Store *store = m_app.store())
+        store->loadFully(records);
 }
 
 } // namespace tabo

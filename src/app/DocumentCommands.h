@@ -1,5 +1,8 @@
 #pragma once
 
+#include "domain/Contacts.h"
+
+#include <QList>
 #include <QString>
 
 namespace tabo {
@@ -31,6 +34,14 @@ public:
     Record *cancelInvoice();
     // The current document is marked as sent: its status is not 0 (Created).
     bool isCurrentInvoiceSent() const;
+
+    // The address book, last used first.
+    QList<Record *> addressBook() const;
+    // An address for `document`: whichever of the block and the parts is
+    // given makes the other; the book remembers it (`selectAddress`).
+    void useAddress(Record &document, AddressFields fields);
+    // Reads every text of `records` at once (for output of whole records).
+    void loadFully(const QList<Record *> &records);
 
     // "Invoice RE-2026-3 for Kunde GmbH, 238,00 €": the document in one line.
     QString describe(const Record &document) const;

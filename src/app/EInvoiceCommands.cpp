@@ -4,6 +4,7 @@
 #include "app/DocumentCommands.h"
 #include "app/Interaction.h"
 #include "app/OutputCommands.h"
+#include "domain/LineOrder.h"
 #include "domain/Record.h"
 #include "einvoice/FacturX.h"
 #include "einvoice/Reader.h"
@@ -18,10 +19,15 @@
 
 namespace tabo {
 
-einvoice::Mapping EInvoiceCommands::map(Record &document) const
+einvoice::Mapping EInvoiceCommands::map(Record &document)
+{
+    return map(document, orderedLines(document, m_app.prefs().integer(Preferences::itemSortOrder)));
+}
+
+einvoice::Mapping EInvoiceCommands::map(Record &document, const QList<Record *> &lines)
 {
     m_app.calculateInvoice(&document);
-    return einvoice::fromDocument(document, m_app.prefs());
+    return einvoice::fromDocument(document, lines, m_app.prefs());
 }
 
 QString EInvoiceCommands::problemsText(const einvoice::Mapping &mapping)
@@ -114,14 +120,19 @@ QStringList EInvoiceCommands::outputFormLabels()
 
 bool EInvoiceCommands::exportFacturX(Record &document, const QString &path)
 {
-    const einvoice::Mapping mapping = map(document);
-    if (!checked(mapping, document))
-        return false;
+    const RenderRequest request = m_app.outputs().request(document);
+    const einvoice::Mapping mapping = map(document, request.lines);
+    return checked(mapping, document) && exportFacturX(request, mapping, path);
+}
+
+bool EInvoiceCommands::exportFacturX(const RenderRequest &request, const einvoice::Mapping &mapping,
+                                     const QString &path)
+{
     QTemporaryDir scratch;
     const QString printed = scratch.filePath(QStringLiteral("printed.pdf"));
-    if (!scratch.isValid() || !m_app.outputs().renderDocumentToFile(document, printed))
+    if (!scratch.isValid() || !m_app.outputs().renderToFile(request, printed))
         return false; // the renderer has said why
-    return writeFacturX(document, mapping, printed, path);
+    return writeFacturX(*request.document, mapping, printed, path);
 }
 
 bool EInvoiceCommands::facturXFromPrinted(Record &document, const QString &printedPdf, const QString &path)

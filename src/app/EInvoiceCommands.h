@@ -1,6 +1,7 @@
 #pragma once
 
 #include "einvoice/CiiWriter.h"
+#include "render/PageRenderer.h"
 
 #include <QString>
 
@@ -16,8 +17,10 @@ class EInvoiceCommands
 public:
     explicit EInvoiceCommands(AppController &app) : m_app(app) {}
 
-    // The document as the standard sees it, calculated afresh first.
-    einvoice::Mapping map(Record &document) const;
+    // The document as the standard sees it, calculated afresh first, its
+    // lines in `lines`' order (by default the order they print in).
+    einvoice::Mapping map(Record &document);
+    einvoice::Mapping map(Record &document, const QList<Record *> &lines);
     enum class Form { XRechnungCii, XRechnungUbl };
     // Writes the e-invoice of `document` to `path`. Nothing is written
     // while something is missing or cannot be stated: the person is told
@@ -27,6 +30,9 @@ public:
     // The printed invoice (the design in force) made a Factur-X / ZUGFeRD
     // PDF with its EN 16931 e-invoice inside, at `path`.
     bool exportFacturX(Record &document, const QString &path);
+    // The same for a document mapped already with the request's lines: the
+    // request's page is printed, the mapping goes inside.
+    bool exportFacturX(const RenderRequest &request, const einvoice::Mapping &mapping, const QString &path);
     // The same from a PDF of the document printed already (the export
     // sheet's): nothing is printed twice.
     bool facturXFromPrinted(Record &document, const QString &printedPdf, const QString &path);

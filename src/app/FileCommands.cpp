@@ -31,7 +31,7 @@ bool writeAtomically(const QString &path, const QByteArray &data, QString *error
 {
     if (const Error e = ProtectedFiles::writeAtomically(path, data)) {
         if (error)
-            *error = e.description;
+            *error = e.text;
         return false;
     }
     return true;
@@ -120,7 +120,7 @@ bool FileCommands::exportTaboDataXML()
 
 bool FileCommands::exportAsInvoiceFile()
 {
-    m_app.saveContext();
+    m_app.save();
     Interaction::FileRequest request;
     request.title = QStringLiteral("Export As Invoices Dump");
     request.extensions = {QStringLiteral("invdump")};
@@ -132,19 +132,19 @@ bool FileCommands::exportAsInvoiceFile()
 
 bool FileCommands::writeItemsXml(bool arrangedOnly, const QString &path, QString *error)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store) {
         if (error)
             *error = QStringLiteral("There is no database.");
         return false;
     }
-    const QList<Record *> &records = arrangedOnly ? m_app.documentList().arranged() : store->all(EntityId::Invoice);
+    const QList<Record *> &records = arrangedOnly ? m_app.documentList().shown() : store->all(EntityId::Invoice);
     return plist::writeFile(path, dictionaries(*store, records), plist::Format::Xml, error);
 }
 
 bool FileCommands::writeInvoiceDump(const QString &path, QString *error)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store) {
         if (error)
             *error = QStringLiteral("There is no database.");
@@ -180,7 +180,7 @@ Record *FileCommands::importInvoice()
     if (path.isEmpty())
         return nullptr;
     Record *invoice = importInvoiceFile(path, nullptr);
-    if (!invoice && m_app.managedObjectContext())
+    if (!invoice && m_app.store())
         ui.alert(QStringLiteral("Error!"),
                  QStringLiteral("The file “%1” is not a Tabo document.").arg(QFileInfo(path).fileName()),
                  {QStringLiteral("OK")});
@@ -189,7 +189,7 @@ Record *FileCommands::importInvoice()
 
 Record *FileCommands::importInvoiceFile(const QString &path, QString *error)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store) {
         if (error)
             *error = QStringLiteral("There is no database.");

@@ -8,6 +8,8 @@
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
+#include "domain/LineOrder.h"
+#include "domain/TaxTables.h"
 
 #include <QCollator>
 #include <QHash>
@@ -21,19 +23,21 @@ namespace tabo {
 
 namespace {
 
+using namespace taxes;
+
+// Lists for people: case aside, "Item 9" before "Item 10".
+void sortByTitle(QList<Record *> &entries, int title)
+{
+    QCollator collator;
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    collator.setNumericMode(true);
+    std::stable_sort(entries.begin(), entries.end(), [&](const Record *a, const Record *b) {
+        return collator.compare(a->text(title), b->text(title)) < 0;
+    });
+}
+
 using P = Preferences;
 
-constexpr P::Key kTaxTitle[3] = {P::tax1Title, P::tax2Title, P::tax3Title};
-constexpr P::Key kTaxRate[3] = {P::tax1Rate, P::tax2Rate, P::tax3Rate};
-constexpr P::Key kTaxEnabled[3] = {P::tax1Enabled, P::tax2Enabled, P::tax3Enabled};
-constexpr int kItemApplied[3] = {Item::isTax1Applied, Item::isTax2Applied, Item::isTax3Applied};
-constexpr int kItemTitle[3] = {Item::tax1Title, Item::tax2Title, Item::tax3Title};
-constexpr int kItemPercent[3] = {Item::tax1Percent, Item::tax2Percent, Item::tax3Percent};
-constexpr int kRecentApplied[3] = {RecentItem::isTax1Applied, RecentItem::isTax2Applied, RecentItem::isTax3Applied};
-constexpr int kShippingTax[3] = {Invoice::isShippingTax1Enabled, Invoice::isShippingTax2Enabled,
-                                 Invoice::isShippingTax3Enabled};
-constexpr int kRecentShippingTax[3] = {RecentShipping::isTax1Enabled, RecentShipping::isTax2Enabled,
-                                       RecentShipping::isTax3Enabled};
 
 const QString kSentText = QStringLiteral(
     "The selected invoice is marked as already sent. If you really need to make changes, please set its status back "
@@ -173,7 +177,7 @@ ItemFields ItemCommands::newItemFields() const
 
 QList<Record *> ItemCommands::catalogue(const QString &search) const
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store)
         return {};
     QList<Record *> entries;
@@ -188,18 +192,24 @@ QList<Record *> ItemCommands::catalogue(const QString &search) const
             continue;
         entries << entry;
     }
-    QCollator collator;
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    collator.setNumericMode(true);
-    std::stable_sort(entries.begin(), entries.end(), [&](const Record *a, const Record *b) {
-        return collator.compare(a->text(RecentItem::title), b->text(RecentItem::title)) < 0;
-    });
+    sortByTitle(entries, RecentItem::title);
+    return entries;
+}
+
+QList<Record *> ItemCommands::rememberedShippings() const
+{
+    Store *store = m_app.store();
+    if (!store)
+        return {};
+    QList<Record *> entries = store->all(EntityId::RecentShipping);
+    entries.removeIf([](const Record *r) { return r->isDeleted(); });
+    sortByTitle(entries, RecentShipping::title);
     return entries;
 }
 
 bool ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const QVariant &value, QString *error)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store || !entry || entry->isDeleted())
         return false;
     static const QStringList editable = {QStringLiteral("title"),         QStringLiteral("subtitle"),
@@ -231,13 +241,13 @@ bool ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const Q
     } else {
         entry->setText(attr, value.toString());
     }
-    m_app.saveContext();
+    m_app.save();
     return true;
 }
 
 bool ItemCommands::deleteCatalogueEntries(const QList<Record *> &entries)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store || entries.isEmpty())
         return false;
     const QString what = entries.size() == 1 ? QStringLiteral("“%1”").arg(entries.first()->text(RecentItem::title))
@@ -251,14 +261,14 @@ bool ItemCommands::deleteCatalogueEntries(const QList<Record *> &entries)
         return false;
     for (Record *entry : entries)
         store->remove(entry);
-    m_app.saveContext();
+    m_app.save();
     return true;
 }
 
 Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
 {
     Record *doc = m_app.currentInvoice();
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!doc || !store) {
         setError(error, QStringLiteral("There is no document to add the line to."));
         return nullptr;
@@ -327,7 +337,7 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
     // line's boxes: an entry is meant for any later document.
     for (int k = 0; k < 3; ++k)
         entry->setBool(kRecentApplied[k], prefs.boolean(kTaxEnabled[k]));
-    m_app.saveContext();
+    m_app.save();
     return item;
 }
 
@@ -354,7 +364,7 @@ ItemFields ItemCommands::addItemRecent(const Record &recentItem) const
 
 bool ItemCommands::deleteItem(Record *item)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!item || !store)
         return false;
     Record *doc = documentOf(*item);
@@ -376,8 +386,19 @@ bool ItemCommands::deleteItem(Record *item)
     if (doc)
         m_app.documentChanged(doc);
     else
-        m_app.saveContext();
+        m_app.save();
     return true;
+}
+
+void ItemCommands::withdrawItem(Record *item)
+{
+    Store *store = m_app.store();
+    if (!item || !store)
+        return;
+    Record *doc = documentOf(*item);
+    store->remove(item);
+    if (doc)
+        m_app.documentChanged(doc);
 }
 
 bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &value, QString *error)
@@ -424,14 +445,14 @@ bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &va
     if (doc)
         m_app.documentChanged(doc);
     else
-        m_app.saveContext();
+        m_app.save();
     return true;
 }
 
 bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *error)
 {
     Record *doc = m_app.currentInvoice();
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!doc || !store) {
         setError(error, QStringLiteral("There is no document to add the shipping to."));
         return false;
@@ -465,7 +486,7 @@ bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *e
     for (int k = 0; k < 3; ++k)
         entry->setBool(kRecentShippingTax[k], taxes[k]);
     entry->setNum(RecentShipping::amount, amount);
-    m_app.saveContext();
+    m_app.save();
     return true;
 }
 
@@ -552,34 +573,7 @@ DiscountFields ItemCommands::discountFields() const
 
 QList<Record *> ItemCommands::sortedItems(const Record &document) const
 {
-    const int rel = document.desc().relationIndex(u"items");
-    if (rel < 0)
-        return {};
-    QList<Record *> lines = document.toMany(rel);
-    // Record ids grow with every insertion, so they give the order of entry.
-    const auto byEntry = [](const Record *a, const Record *b) { return a->id() < b->id(); };
-    // `itemSortOrder`: 0 title A–Z, 1 order of entry (what a first launch
-    // sets), 2 newest entry first, 3 highest amount first; anything else is
-    // the order of entry. Ties keep the order of entry.
-    std::sort(lines.begin(), lines.end(), byEntry);
-    switch (m_app.prefs().integer(P::itemSortOrder)) {
-    case 0:
-        std::stable_sort(lines.begin(), lines.end(), [](const Record *a, const Record *b) {
-            return a->text(Item::title).compare(b->text(Item::title), Qt::CaseInsensitive) < 0;
-        });
-        break;
-    case 2:
-        std::reverse(lines.begin(), lines.end());
-        break;
-    case 3:
-        std::stable_sort(lines.begin(), lines.end(), [](const Record *a, const Record *b) {
-            return a->num(Item::amount) > b->num(Item::amount);
-        });
-        break;
-    default:
-        break;
-    }
-    return lines;
+    return orderedLines(document, m_app.prefs().integer(P::itemSortOrder));
 }
 
 } // namespace tabo

@@ -70,6 +70,8 @@ public:
     // The catalogue, by title; `search` (case aside) narrows it to entries
     // whose title, article number or unit contains it.
     QList<Record *> catalogue(const QString &search = {}) const;
+    // The remembered shipping lines, by title.
+    QList<Record *> rememberedShippings() const;
     // One field of a catalogue entry by key (title, subtitle, unit, sku,
     // note, baseAmount, isTax1Applied..3), as typed; false with *error set.
     bool editCatalogueEntry(Record *entry, const QString &key, const QVariant &value, QString *error);
@@ -80,6 +82,9 @@ public:
     // deleteItem: refused for a sent document, asks first. False when
     // nothing was deleted.
     bool deleteItem(Record *item);
+    // Takes back a line this same command just added (a later step of it
+    // was refused): no question, the document recalculated.
+    void withdrawItem(Record *item);
     // Editing a line: one attribute by key (value parsed by its type), then
     // calculateInvoice: and a save. False when refused, with *error set, or
     // empty when the refusal was already shown as an alert (a sent document).

@@ -95,9 +95,9 @@ Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice
 {
     if (!invoice)
         invoice = m_app.currentInvoice();
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!invoice || !store)
-        return Error{Error::kAppDomain, 1, QStringLiteral("There is no invoice to remind of."), {}};
+        return Error{Error::Tabo, 1, QStringLiteral("There is no invoice to remind of."), {}};
     ScheduledNotification n;
     n.uniqueID = invoice->text(Invoice::uniqueID);
     n.title = draft.title;
@@ -119,13 +119,13 @@ Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice
 
 QList<ScheduledNotification> NotificationCommands::scheduled(bool pendingOnly)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     return store ? NotificationSchedule(*store).list(pendingOnly) : QList<ScheduledNotification>();
 }
 
 bool NotificationCommands::cancel(qint64 id)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store)
         return false;
     Error e;
@@ -135,14 +135,14 @@ bool NotificationCommands::cancel(qint64 id)
         return true;
     }
     if (!e)
-        e = Error{Error::kAppDomain, 1, QStringLiteral("There is no notification %1.").arg(id), {}};
+        e = Error{Error::Tabo, 1, QStringLiteral("There is no notification %1.").arg(id), {}};
     m_app.ui().presentError(e);
     return false;
 }
 
 int NotificationCommands::deliverDue(Error *error)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store)
         return 0;
     NotificationSchedule schedule(*store);
@@ -153,7 +153,7 @@ int NotificationCommands::deliverDue(Error *error)
     if (next && !(now() < *next)) {
         const QString reason = unavailableReason();
         if (!reason.isEmpty()) {
-            e = Error{Error::kAppDomain, 2, reason, QStringLiteral("The notifications stay scheduled.")};
+            e = Error{Error::Tabo, 2, reason, QStringLiteral("The notifications stay scheduled.")};
         } else {
             const QList<ScheduledNotification> due = schedule.claimDue(now(), &e);
             const QList<qint64> shown = due.isEmpty() ? QList<qint64>() : notifier().show(due);
@@ -163,7 +163,7 @@ int NotificationCommands::deliverDue(Error *error)
                     refused << n.id;
             if (!refused.isEmpty()) {
                 schedule.unclaim(refused);
-                e = Error{Error::kAppDomain, 3,
+                e = Error{Error::Tabo, 3,
                           QStringLiteral("The notification service did not show %1 of the reminders.").arg(refused.size()),
                           QStringLiteral("They stay scheduled.")};
             }
@@ -201,7 +201,7 @@ void NotificationCommands::armTimer()
     if (!m_delivering)
         return;
     qint64 wait = kRecheckMs;
-    if (Store *store = m_app.managedObjectContext())
+    if (Store *store = m_app.store())
         if (const std::optional<Date> next = NotificationSchedule(*store).nextDate())
             wait = std::clamp(qint64((next->referenceSeconds() - now().referenceSeconds()) * 1000), qint64(0), kRecheckMs);
     m_timer.start(std::chrono::milliseconds(wait));

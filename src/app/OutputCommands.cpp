@@ -6,7 +6,7 @@
 #include "app/EInvoiceCommands.h"
 #include "app/Interaction.h"
 #include "app/UndoHistory.h"
-#include "app/ItemCommands.h"
+#include "domain/LineOrder.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "prefs/ProtectedFiles.h"
@@ -50,7 +50,7 @@ bool copyPdf(const QString &from, const QString &to, QString *error)
         return false;
     }
     if (const Error e = ProtectedFiles::writeAtomically(to, source.readAll())) {
-        *error = e.description;
+        *error = e.text;
         return false;
     }
     return true;
@@ -72,26 +72,20 @@ OutputCommands::~OutputCommands()
     m_engine.reset();
 }
 
-const Record *OutputCommands::renderDesign() const
+RenderRequest OutputCommands::request(const Record &document, const LetterMode &letter, const Record *design) const
 {
-    return m_designOverride ? m_designOverride : m_app.designs().currentDesign();
+    RenderRequest r;
+    r.document = &document;
+    r.design = design ? design : m_app.designs().currentDesign();
+    r.letter = letter;
+    r.page = pageSetupFor(document);
+    r.lines = orderedLines(document, m_app.prefs().integer(P::itemSortOrder));
+    return r;
 }
 
-QString OutputCommands::invoiceHTMLString(const Record &document) const
+QString OutputCommands::invoiceHTMLString(const RenderRequest &r) const
 {
-    return invoiceHTMLString(document, renderDesign());
-}
-
-QString OutputCommands::invoiceHTMLString(const Record &document, const Record *design, bool onScreen) const
-{
-    LetterMode mode = m_mode;
-    mode.onScreen = onScreen;
-    return m_renderer->invoiceHTMLString(design, document, m_app.items().sortedItems(document), mode);
-}
-
-QString OutputCommands::itemsList(const Record &document) const
-{
-    return m_renderer->itemsList(renderDesign(), document, m_app.items().sortedItems(document));
+    return m_renderer->invoiceHTMLString(r.design, *r.document, r.lines, r.letter);
 }
 
 QString OutputCommands::jobTitle(const Record &invoice) const
@@ -122,7 +116,7 @@ void OutputCommands::generatePreview()
     m_mode.isReminderAction = false;
     m_mode.isSlipAction = false;
     m_app.prefs().setBool(P::isMainPreviewAction, true);
-    renderInto(Target::Preview, renderDesign());
+    renderInto(Target::Preview, m_app.designs().currentDesign());
 }
 
 LetterTexts OutputCommands::openReminderSheet() const
@@ -145,7 +139,7 @@ void OutputCommands::generateReminder(const LetterTexts &texts)
     m_mode.isSlipAction = false;
     m_mode.reminder = texts;
     m_app.prefs().setBool(P::isMainPreviewAction, true);
-    renderInto(Target::Preview, renderDesign());
+    renderInto(Target::Preview, m_app.designs().currentDesign());
 }
 
 void OutputCommands::generateSlip(const LetterTexts &texts)
@@ -154,7 +148,7 @@ void OutputCommands::generateSlip(const LetterTexts &texts)
     m_mode.isReminderAction = false;
     m_mode.slip = texts;
     m_app.prefs().setBool(P::isMainPreviewAction, true);
-    renderInto(Target::Preview, renderDesign());
+    renderInto(Target::Preview, m_app.designs().currentDesign());
 }
 
 QString OutputCommands::exportSheetTitle(int kind)
@@ -187,7 +181,7 @@ bool OutputCommands::openExport(int kind)
 
 void OutputCommands::loadExportPDF()
 {
-    renderInto(Target::Export, renderDesign());
+    renderInto(Target::Export, m_app.designs().currentDesign());
 }
 
 void OutputCommands::cancelExport()
@@ -378,9 +372,12 @@ PageSetup OutputCommands::pageSetupFor(const Record &document) const
     return setup;
 }
 
-bool OutputCommands::renderDocumentToFile(const Record &document, const QString &path)
+bool OutputCommands::renderToFile(const RenderRequest &r, const QString &path)
 {
-    return renderHtmlToFile(invoiceHTMLString(document), path, pageSetupFor(document));
+    if (renderHtmlToFile(invoiceHTMLString(r), path, r.page))
+        return true;
+    reportRunaway(r.design);
+    return false;
 }
 
 bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path)
@@ -399,31 +396,33 @@ bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path, 
     setBusy(+1);
     const bool ok = engine().renderAndWait(html, setup, path) && isPdfFile(path);
     setBusy(-1);
-    if (!ok)
-        reportRunaway(renderDesign());
     return ok;
 }
 
-QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &documents, const QStringList &paths)
+QStringList OutputCommands::renderToFiles(const QList<RenderRequest> &requests, const QStringList &paths)
 {
     if (!canRender())
         return paths;
     QStringList failed;
+    const Record *failedDesign = nullptr;
     QEventLoop loop;
     qsizetype next = 0;
     int inFlight = 0;
     // A few pages ahead keep both engine lanes busy without holding every
     // page of a large batch in memory.
     std::function<void()> feed = [&] {
-        while (inFlight < 4 && next < documents.size()) {
+        while (inFlight < 4 && next < requests.size()) {
             const qsizetype i = next++;
-            const QString html = invoiceHTMLString(*documents.at(i));
+            const QString html = invoiceHTMLString(requests.at(i));
             ++inFlight;
-            engine().render(html, pageSetupFor(*documents.at(i)), paths.at(i), [&, i](bool ok) {
+            engine().render(html, requests.at(i).page, paths.at(i), [&, i](bool ok) {
                 --inFlight;
-                if (!ok || !isPdfFile(paths.at(i)))
+                if (!ok || !isPdfFile(paths.at(i))) {
                     failed << paths.at(i);
-                if (next < documents.size())
+                    if (!failedDesign)
+                        failedDesign = requests.at(i).design;
+                }
+                if (next < requests.size())
                     feed();
                 else if (inFlight == 0)
                     loop.quit();
@@ -436,7 +435,7 @@ QStringList OutputCommands::renderDocumentsToFiles(const QList<Record *> &docume
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     setBusy(-1);
     if (!failed.isEmpty())
-        reportRunaway(renderDesign());
+        reportRunaway(failedDesign);
     return failed;
 }
 
@@ -463,11 +462,13 @@ void OutputCommands::renderInto(Target target, const Record *design)
         failureAlert(target);
         return;
     }
-    const QString html = invoiceHTMLString(*invoice, design, target != Target::Export);
+    LetterMode letter = m_mode;
+    letter.onScreen = target != Target::Export;
+    const RenderRequest r = request(*invoice, letter, design);
     const QString path = m_app.pdfPath();
     m_renderingDesign = design ? design->text(Design::title) : QString();
     setBusy(+1);
-    engine().render(html, pageSetupFor(*invoice), path,
+    engine().render(invoiceHTMLString(r), r.page, path,
                     [this, target, path](bool ok) { finishRender(target, ok && isPdfFile(path)); });
 }
 

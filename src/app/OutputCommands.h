@@ -29,21 +29,21 @@ public:
     explicit OutputCommands(AppController &app);
     ~OutputCommands() override;
 
-    // The page of `document` through the design pages are rendered with (or
-    // `design`), in the current letter mode. Rendering never changes the
-    // current document: a batch or another process's document is rendered
-    // while the window shows its own.
-    QString invoiceHTMLString(const Record &document) const;
-    // `onScreen`: for a preview, which may show the person hints the client
-    // never sees.
-    QString invoiceHTMLString(const Record &document, const Record *design, bool onScreen = false) const;
-    QString itemsList(const Record &document) const;
+    // Everything a rendering of `document` depends on, from the preferences:
+    // the design (`design`, else the library's choice), the letter, the page
+    // setup and the lines in their order.
+    RenderRequest request(const Record &document, const LetterMode &letter = {},
+                          const Record *design = nullptr) const;
+    // The page of a request. Rendering never changes the current document:
+    // a batch or another process's document is rendered while the window
+    // shows its own.
+    QString invoiceHTMLString(const RenderRequest &request) const;
     // "%@ | %@ | %@": company name, document title, document number.
     QString jobTitle(const Record &invoice) const;
     const Formatters &formatters() const { return *m_formatters; }
     const PageRenderer &renderer() const { return *m_renderer; }
 
-    // The letter mode of the next renderings.
+    // The letter the window's preview shows, and so what its export prints.
     const LetterMode &letterMode() const { return m_mode; }
     bool isReminderAction() const { return m_mode.isReminderAction; }
     bool isSlipAction() const { return m_mode.isSlipAction; }
@@ -89,8 +89,8 @@ public:
     // then re-arranges the list and recalculates.
     void markInvoiceAsSent(Record *document);
 
-    // Renders the page of `document` into `path` and waits (command line).
-    bool renderDocumentToFile(const Record &document, const QString &path);
+    // Renders the request's page into `path` and waits (command line).
+    bool renderToFile(const RenderRequest &request, const QString &path);
     // Renders any page into `path` and waits (the design preview of the
     // command line).
     bool renderHtmlToFile(const QString &html, const QString &path);
@@ -99,21 +99,12 @@ public:
     // preferences ask for it), or copied to a file the person chooses.
     bool printPdf(const QString &path, const QString &jobTitle);
     bool savePdfAs(const QString &path, const QString &panelTitle, const QString &suggestedName);
-    // Paper and margins, and the line numbering the document's pages.
-    PageSetup pageSetupFor(const Record &document) const;
-    // Renders each document into the path of the same index, several at a
+    // Renders each request into the path of the same index, several at a
     // time, and waits; returns the paths that failed.
-    QStringList renderDocumentsToFiles(const QList<Record *> &documents, const QStringList &paths);
+    QStringList renderToFiles(const QList<RenderRequest> &requests, const QStringList &paths);
     // Returns once no rendering is running any more.
     void waitUntilIdle();
 
-    // The letter mode of the next renderings without rendering (command line).
-    void setLetterMode(const LetterMode &mode) { m_mode = mode; }
-    // Renders with this design instead of the library's default until reset
-    // with nullptr; the library itself is not changed.
-    void setDesignOverride(const Record *design) { m_designOverride = design; }
-    // The design pages are rendered with: the override, else the default.
-    const Record *renderDesign() const;
     // The printer a job goes to unless the print dialog picks another
     // (empty: the system's default).
     void setPrinter(const QString &printer) { m_printer = printer; }
@@ -135,6 +126,7 @@ Q_SIGNALS:
 
 private:
     enum class Target { Preview, Export, DesignChoice };
+    PageSetup pageSetupFor(const Record &document) const;
     void renderInto(Target target, const Record *design);
     void finishRender(Target target, bool ok);
     void setBusy(int delta);
@@ -157,7 +149,6 @@ private:
     bool m_busy = false;
     bool m_closing = false;
     int m_running = 0;
-    const Record *m_designOverride = nullptr;
     QString m_printer;
     QString m_renderingDesign; // the title of the design the window renders with
 };

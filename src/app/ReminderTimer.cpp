@@ -96,7 +96,7 @@ Error ReminderTimer::install()
         // Half an installation would look installed and never run.
         QFile::remove(unitPath(QStringLiteral(".timer")));
         QFile::remove(unitPath(QStringLiteral(".service")));
-        e.description = QStringLiteral("The reminder timer could not be installed. ") + e.description;
+        e.text = QStringLiteral("The reminder timer could not be installed. ") + e.text;
     }
     return e;
 }

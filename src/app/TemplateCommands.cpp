@@ -48,7 +48,7 @@ void resetReserved(Record &r)
 Record *TemplateCommands::createNewTemplate(const QString &name, const QString &notes)
 {
     const Record *doc = m_app.currentInvoice();
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!doc || !store)
         return nullptr;
     const Preferences &prefs = m_app.prefs();
@@ -115,14 +115,14 @@ Record *TemplateCommands::createNewTemplate(const QString &name, const QString &
                     Invoice::tax1Amount, Invoice::tax2Amount, Invoice::tax3Amount, Invoice::tax1Percent,
                     Invoice::tax2Percent, Invoice::tax3Percent, Invoice::miscString1, Invoice::miscString2,
                     Invoice::miscString3});
-    m_app.saveContext();
+    m_app.save();
     return tmpl;
 }
 
 bool TemplateCommands::selectTemplate(Record *templateRecord)
 {
     Record *doc = m_app.currentInvoice();
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!doc || !templateRecord || !store)
         return false;
     if (doc->integer(Invoice::status) != 0) {
@@ -162,16 +162,16 @@ bool TemplateCommands::selectTemplate(Record *templateRecord)
 
 void TemplateCommands::deleteTemplate(Record *templateRecord)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!templateRecord || !store)
         return;
     store->remove(templateRecord);
-    m_app.saveContext();
+    m_app.save();
 }
 
 QList<Record *> TemplateCommands::templates() const
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     if (!store)
         return {};
     QList<Record *> list = store->all(EntityId::Template);

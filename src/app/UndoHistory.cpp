@@ -111,7 +111,7 @@ UndoHistory::Snapshot UndoHistory::snapshot(const Record &document) const
 
 void UndoHistory::restore(const Snapshot &snapshot)
 {
-    Store *store = m_app.managedObjectContext();
+    Store *store = m_app.store();
     Record *doc = store ? m_app.findDocument(snapshot.uniqueID) : nullptr;
     if (!doc || doc->isDeleted())
         return;

@@ -5,28 +5,29 @@
 namespace tabo {
 
 // A failure passed on to whoever shows it to the person: the core never
-// presents errors itself.
+// presents errors itself. An empty Error is success.
 struct Error
 {
-    QString domain;
-    int code = 0;
-    QString description;
-    QString failureReason;
+    // Where it arose, for the few callers that react to one kind of failure
+    // (a store conflict, an empty store file); `code` tells them which.
+    enum Source { None, Tabo, File, Store, Print };
 
-    bool isError() const { return code != 0 || !description.isEmpty(); }
+    Source source = None;
+    int code = 0;
+    // The sentence the person reads ("The changes could not be saved.").
+    QString text;
+    // Why, or what to do; shown under the sentence and kept in logs.
+    QString detail;
+
+    bool isError() const { return code != 0 || !text.isEmpty(); }
     explicit operator bool() const { return isError(); }
 
     // One line for logs and the command line.
-    QString message() const
-    {
-        return failureReason.isEmpty() ? description : description + QLatin1Char(' ') + failureReason;
-    }
+    QString message() const { return detail.isEmpty() ? text : text + QLatin1Char(' ') + detail; }
 
-    static inline const QString kAppDomain = QStringLiteral("YOUR_ERROR_DOMAIN");
     // Files Tabo reads and writes itself (stores, copies, design files): the
-    // description says what happened to which file.
-    static inline const QString kFileDomain = QStringLiteral("TaboFile");
-    static Error file(const QString &description) { return Error{kFileDomain, 1, description, {}}; }
+    // text says what happened to which file.
+    static Error file(const QString &text) { return Error{File, 1, text, {}}; }
 };
 
 } // namespace tabo

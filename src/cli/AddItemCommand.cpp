@@ -7,7 +7,6 @@
 #include "cli/Session.h"
 #include "domain/Record.h"
 #include "domain/UnitCodes.h"
-#include "store/Store.h"
 
 #include <QCommandLineParser>
 
@@ -99,8 +98,7 @@ int AddItemCommand::execute(const QStringList &args)
         const int shown = m_session.ui().messagesShown();
         if (!items.editItem(item, key, value, &error)) {
             // Half a line is worse than none.
-            m_session.store()->remove(item);
-            app.documentChanged(doc);
+            items.withdrawItem(item);
             // A refusal has been shown as an alert already.
             return m_session.ui().messagesShown() > shown ? kExitFailure : failure(error);
         }

@@ -1,11 +1,11 @@
 #include "cli/AddressCommand.h"
 
 #include "app/AppController.h"
+#include "app/DocumentCommands.h"
 #include "cli/Console.h"
 #include "cli/Session.h"
 #include "domain/Contacts.h"
 #include "prefs/Preferences.h"
-#include "store/Store.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
@@ -21,7 +21,7 @@ const QStringList kKeys{QStringLiteral("address"),       QStringLiteral("clientN
 
 const QStringList &allKeys()
 {
-    static const QStringList keys = kKeys + QStringList(Contacts::kBuyerKeys.begin(), Contacts::kBuyerKeys.end());
+    static const QStringList keys = kKeys + QStringList(Buyer::kKeys.begin(), Buyer::kKeys.end());
     return keys;
 }
 
@@ -102,12 +102,8 @@ int AddressCommand::execute(const QStringList &args)
         return kExitFailure;
     for (const auto &[key, value] : std::as_const(values))
         *field(fields, key) = value;
-    AppController &app = m_session.controller();
     // Whichever of the text and the parts is given makes the other.
-    Contacts::completeAddress(fields, Contacts::countryCode(m_session.prefs().string(Preferences::prefsCountryCode)));
-    Contacts::selectAddress(*m_session.store(), *doc, fields,
-                            m_session.prefs().integer(Preferences::clientNamePatternTag));
-    app.documentChanged(doc);
+    m_session.controller().documents().useAddress(*doc, fields);
     return m_session.ui().errorPresented() ? kExitFailure : kExitOk;
 }
 

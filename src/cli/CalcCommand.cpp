@@ -24,7 +24,7 @@ int CalcCommand::execute(const QStringList &args)
     if (!doc)
         return kExitFailure;
     m_session.controller().calculateInvoice(doc);
-    return m_session.controller().saveContext() ? kExitFailure : kExitOk;
+    return m_session.controller().save() ? kExitFailure : kExitOk;
 }
 
 } // namespace tabo::cli

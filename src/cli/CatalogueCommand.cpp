@@ -1,13 +1,13 @@
 #include "cli/CatalogueCommand.h"
 
 #include "app/AppController.h"
+#include "app/DocumentCommands.h"
 #include "app/ItemCommands.h"
 #include "cli/AttributeText.h"
 #include "cli/Console.h"
 #include "cli/JsonWriter.h"
 #include "cli/Session.h"
 #include "domain/Record.h"
-#include "store/Store.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
@@ -119,16 +119,12 @@ int CatalogueCommand::execute(const QStringList &args)
         return usageError(QStringLiteral("Unknown catalogue “%1”.").arg(what));
     if (pos.size() > 1)
         return usageError();
-    Store *store = m_session.store();
-    if (!store)
+    if (!m_session.store())
         return kExitFailure;
 
-    QList<Record *> entries = store->all(articles ? EntityId::RecentItem : EntityId::RecentShipping);
-    store->loadFully(entries);
-    const int title = articles ? int(RecentItem::title) : int(RecentShipping::title);
-    std::stable_sort(entries.begin(), entries.end(), [title](const Record *a, const Record *b) {
-        return a->text(title).localeAwareCompare(b->text(title)) < 0;
-    });
+    AppController &app = m_session.controller();
+    const QList<Record *> entries = articles ? app.items().catalogue() : app.items().rememberedShippings();
+    app.documents().loadFully(entries);
     QStringList lines;
     for (const Record *e : std::as_const(entries)) {
         if (parser.isSet(json))

@@ -43,7 +43,7 @@ void CliInteraction::presentError(const Error &error)
 {
     // The controller follows a failed open with a generic "no store" error;
     // on a terminal the first, specific reason is the one line worth showing.
-    if (m_errorPresented && error.code == 9999 && error.domain == Error::kAppDomain)
+    if (m_errorPresented && error.code == 9999 && error.source == Error::Tabo)
         return;
     m_errorPresented = true;
     ++m_messages;

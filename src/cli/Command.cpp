@@ -113,7 +113,7 @@ void Command::arrangeList(const QCommandLineParser &parser, unsigned tag)
 {
     AppController &app = m_session.controller();
     app.setFilterTag(tag);
-    app.setFilterPredicate();
+    app.applyFilter();
     // Only commands that offer --search can have it given.
     if (parser.optionNames().contains(QStringLiteral("search")))
         app.setSearchText(parser.value(QStringLiteral("search")));

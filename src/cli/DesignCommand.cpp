@@ -133,7 +133,7 @@ int DesignCommand::add(const QString &title)
     // The window starts editing the title here; the command line takes it as an argument.
     if (!title.isEmpty()) {
         design->setText(Design::title, title);
-        if (m_session.controller().saveContext())
+        if (m_session.controller().save())
             return kExitFailure;
     }
     printOut(design->text(Design::uniqueID));
@@ -156,7 +156,7 @@ int DesignCommand::makeDefault(const QString &title)
     if (!design)
         return error.isEmpty() ? kExitFailure : failure(error);
     m_session.controller().designs().makeDefaultDesign(design);
-    return m_session.controller().saveContext() ? kExitFailure : kExitOk;
+    return m_session.controller().save() ? kExitFailure : kExitOk;
 }
 
 int DesignCommand::importFile(const QString &path)
@@ -167,7 +167,7 @@ int DesignCommand::importFile(const QString &path)
     Record *design = m_session.controller().designs().importDesignFile(path, &error);
     if (!design)
         return failure(error.isEmpty() ? QStringLiteral("“%1” is not a design file.").arg(path) : error);
-    if (m_session.controller().saveContext())
+    if (m_session.controller().save())
         return kExitFailure;
     printOut(design->text(Design::title));
     return kExitOk;
@@ -219,7 +219,7 @@ int DesignCommand::getTexts(const QString &title, const TextFiles &files)
         if (path.isEmpty())
             continue;
         if (const Error e = ProtectedFiles::writeAtomically(path, design->text(attr).toUtf8()))
-            return failure(e.description);
+            return failure(e.text);
     }
     return kExitOk;
 }
@@ -251,7 +251,7 @@ int DesignCommand::setTexts(const QString &title, const TextFiles &files)
         if (!parts[i].first.isEmpty())
             m_session.controller().designs().setDesignText(design, parts[i].second, texts[i]);
     }
-    return m_session.controller().saveContext() ? kExitFailure : kExitOk;
+    return m_session.controller().save() ? kExitFailure : kExitOk;
 }
 
 } // namespace tabo::cli

@@ -59,7 +59,7 @@ int EInvoiceCommand::received(const QString &sub, const QStringList &args)
     const QString page = einvoice::viewPage(received);
     if (parser.isSet(html)) {
         if (const Error e = ProtectedFiles::writeAtomically(parser.value(html), page.toUtf8()))
-            return failure(e.description);
+            return failure(e.text);
         return kExitOk;
     }
     if (!m_session.controller().outputs().renderHtmlToFile(page, parser.value(pdf)))
@@ -92,11 +92,21 @@ int EInvoiceCommand::execute(const QStringList &args)
     if (sub == QLatin1String("export") && int(parser.isSet(cii)) + int(parser.isSet(ubl)) + int(parser.isSet(facturx)) != 1)
         return usageError(QStringLiteral("Say which and where: --xrechnung-cii FILE, --xrechnung-ubl FILE or "
                                          "--facturx FILE.pdf."));
-    Record *doc = m_session.select(parser.positionalArguments().constFirst());
+    // Exporting does not make the document the current one.
+    Record *doc = m_session.document(parser.positionalArguments().constFirst());
     if (!doc)
         return kExitFailure;
+    const Record *chosen = nullptr;
+    if (parser.isSet(facturx) && parser.isSet(design)) {
+        QString error;
+        chosen = OutputRun::design(m_session, parser.value(design), &error);
+        if (!chosen)
+            return failure(error);
+    }
     EInvoiceCommands &commands = m_session.controller().einvoices();
-    const einvoice::Mapping mapping = commands.map(*doc);
+    // One request gives the page and the XML the same lines in the same order.
+    const RenderRequest request = m_session.controller().outputs().request(*doc, {}, chosen);
+    const einvoice::Mapping mapping = commands.map(*doc, request.lines);
     // The one action that helps a classic document, in this program's words.
     const QString advice = mapping.toTheCentHelps
         ? QStringLiteral(" tabo-cli duplicate %1 --to-the-cent makes a copy calculated to the cent; tabo-cli prefs "
@@ -114,16 +124,8 @@ int EInvoiceCommand::execute(const QStringList &args)
     if (!mapping.ok())
         return failure(QStringLiteral("The e-invoice cannot be written yet: ") + mapping.problems().join(QStringLiteral("; "))
                        + advice);
-    if (parser.isSet(facturx)) {
-        if (parser.isSet(design)) {
-            QString error;
-            const Record *chosen = OutputRun::design(m_session, parser.value(design), &error);
-            if (!chosen)
-                return failure(error);
-            m_session.controller().outputs().setDesignOverride(chosen);
-        }
-        return commands.exportFacturX(*doc, parser.value(facturx)) ? kExitOk : kExitFailure;
-    }
+    if (parser.isSet(facturx))
+        return commands.exportFacturX(request, mapping, parser.value(facturx)) ? kExitOk : kExitFailure;
     const bool asCii = parser.isSet(cii);
     return commands.writeXml(mapping, parser.value(asCii ? cii : ubl),
                              asCii ? EInvoiceCommands::Form::XRechnungCii : EInvoiceCommands::Form::XRechnungUbl)

@@ -32,7 +32,7 @@ int ExportXmlCommand::execute(const QStringList &args)
     AppController &app = m_session.controller();
     if (parser.isSet(filter)) {
         app.setFilterTag(tag);
-        app.setFilterPredicate();
+        app.applyFilter();
     }
     QString error;
     if (!app.files().writeItemsXml(parser.isSet(filter), parser.positionalArguments().constFirst(), &error))

@@ -1,12 +1,12 @@
 #include "cli/ListCommand.h"
 
 #include "app/AppController.h"
+#include "app/DocumentCommands.h"
 #include "cli/AttributeText.h"
 #include "cli/Console.h"
 #include "cli/JsonWriter.h"
 #include "cli/Session.h"
 #include "domain/Record.h"
-#include "store/Store.h"
 
 #include <QCommandLineParser>
 
@@ -37,17 +37,16 @@ int ListCommand::execute(const QStringList &args)
     unsigned tag = 0;
     if (!filterTag(parser, &tag, &code))
         return code;
-    Store *store = m_session.store();
-    if (!store)
+    if (!m_session.store())
         return kExitFailure;
 
     arrangeList(parser, tag);
     AppController &app = m_session.controller();
-    const QList<Record *> &docs = app.documentList().arranged();
+    const QList<Record *> &docs = app.documentList().shown();
     const Summary &s = app.summary();
     QStringList lines;
     if (parser.isSet(json)) {
-        store->loadFully(docs);
+        app.documents().loadFully(docs);
         for (const Record *doc : docs)
             lines << JsonWriter::record(*doc);
         printOut(QStringLiteral("{\"documents\": [") + (lines.isEmpty() ? QString() : QStringLiteral("\n"))

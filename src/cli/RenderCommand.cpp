@@ -75,7 +75,6 @@ int RenderCommand::execute(const QStringList &args)
         const Record *chosen = OutputRun::design(m_session, parser.value(design), &error);
         if (!chosen)
             return failure(error);
-        outputs.setDesignOverride(chosen);
         used = chosen;
     } else if (!outputs.checkDesignsAvailable()) {
         return kExitFailure;
@@ -95,13 +94,12 @@ int RenderCommand::execute(const QStringList &args)
         mode.reminder = outputs.openReminderSheet();
     if (mode.isSlipAction)
         mode.slip = outputs.openSlipSheet();
-    outputs.setLetterMode(mode);
 
     QList<Record *> documents;
     if (parser.isSet(all)) {
         app.setFilterTag(tag);
-        app.setFilterPredicate();
-        documents = app.documentList().arranged();
+        app.applyFilter();
+        documents = app.documentList().shown();
     } else {
         // Every ID is checked before anything is written.
         for (const QString &id : ids) {
@@ -111,35 +109,39 @@ int RenderCommand::execute(const QStringList &args)
             documents << doc;
         }
     }
+    QList<RenderRequest> requests;
+    for (const Record *doc : std::as_const(documents))
+        requests << outputs.request(*doc, mode, used);
     if (parser.isSet(html))
-        return writeHtml(documents.constFirst(), parser.value(html));
+        return writeHtml(requests.constFirst(), parser.value(html));
     if (parser.isSet(pdf))
-        return writePdf(documents.constFirst(), parser.value(pdf));
-    return writeFolder(documents, parser.value(out));
+        return writePdf(requests.constFirst(), parser.value(pdf));
+    return writeFolder(requests, parser.value(out));
 }
 
-int RenderCommand::writeHtml(Record *document, const QString &path)
+int RenderCommand::writeHtml(const RenderRequest &request, const QString &path)
 {
     if (const Error e = ProtectedFiles::writeAtomically(
-            path, m_session.controller().outputs().invoiceHTMLString(*document).toUtf8()))
-        return failure(e.description);
+            path, m_session.controller().outputs().invoiceHTMLString(request).toUtf8()))
+        return failure(e.text);
     return kExitOk;
 }
 
-int RenderCommand::writePdf(Record *document, const QString &path)
+int RenderCommand::writePdf(const RenderRequest &request, const QString &path)
 {
-    if (!m_session.controller().outputs().renderDocumentToFile(*document, path))
+    if (!m_session.controller().outputs().renderToFile(request, path))
         return failure(QStringLiteral("The PDF file “%1” could not be created.").arg(path));
     return kExitOk;
 }
 
-int RenderCommand::writeFolder(const QList<Record *> &documents, const QString &dir)
+int RenderCommand::writeFolder(const QList<RenderRequest> &requests, const QString &dir)
 {
     if (!QDir().mkpath(dir))
         return failure(QStringLiteral("The folder “%1” could not be created.").arg(dir));
     QSet<QString> taken;
     QStringList paths;
-    for (Record *doc : documents) {
+    for (const RenderRequest &request : requests) {
+        const Record *doc = request.document;
         const QString base = safeFileName(doc->text(Invoice::number), doc->text(Invoice::uniqueID));
         QString name = base;
         // Numbers need not be unique (a quote and an invoice, an edited pattern).
@@ -148,7 +150,7 @@ int RenderCommand::writeFolder(const QList<Record *> &documents, const QString &
         taken.insert(name.toLower());
         paths << QDir(dir).filePath(name + QStringLiteral(".pdf"));
     }
-    const QStringList failed = m_session.controller().outputs().renderDocumentsToFiles(documents, paths);
+    const QStringList failed = m_session.controller().outputs().renderToFiles(requests, paths);
     for (const QString &path : paths)
         if (!failed.contains(path))
             printOut(path);

@@ -1,12 +1,9 @@
 #pragma once
 
 #include "cli/Command.h"
+#include "render/PageRenderer.h"
 
 #include <QList>
-
-namespace tabo {
-class Record;
-}
 
 namespace tabo::cli {
 
@@ -24,9 +21,9 @@ public:
     static QString safeFileName(const QString &number, const QString &fallback);
 
 private:
-    int writeHtml(Record *document, const QString &path);
-    int writePdf(Record *document, const QString &path);
-    int writeFolder(const QList<Record *> &documents, const QString &dir);
+    int writeHtml(const RenderRequest &request, const QString &path);
+    int writePdf(const RenderRequest &request, const QString &path);
+    int writeFolder(const QList<RenderRequest> &requests, const QString &dir);
 };
 
 } // namespace tabo::cli

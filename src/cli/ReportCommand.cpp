@@ -70,7 +70,7 @@ int ReportCommand::execute(const QStringList &args)
     }
     if (parser.isSet(html)) {
         if (const Error e = ProtectedFiles::writeAtomically(parser.value(html), app.reportPage(figures).toUtf8()))
-            return failure(e.description);
+            return failure(e.text);
         return kExitOk;
     }
     if (parser.isSet(json)) {

@@ -34,9 +34,9 @@ Store *Session::store()
         m_launched = true;
         // The window steps of the launch do not apply; the one-time upgrades
         // do, since the calculation reads the flags they set.
-        controller().applicationDidFinishLaunching();
+        controller().start();
     }
-    Store *store = controller().managedObjectContext();
+    Store *store = controller().store();
     if (!store && !m_ui.errorPresented() && !m_ui.refused())
         printError(QStringLiteral("The database could not be opened."));
     return store;
@@ -74,9 +74,9 @@ Record *Session::select(const QString &idOrNumber)
 int Session::finish(int exitCode)
 {
     if (m_launched) {
-        if (controller().applicationShouldTerminate() == AppController::TerminateReply::Cancel)
+        if (controller().askToQuit() == AppController::QuitReply::Cancel)
             exitCode = kExitFailure;
-        controller().applicationWillTerminate();
+        controller().quit();
     }
     // Whatever was presented or refused is a failure, even if the command
     // itself went on.

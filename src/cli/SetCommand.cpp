@@ -44,7 +44,7 @@ int SetCommand::execute(const QStringList &args)
                            .arg(pos.at(2)));
     if (!AttributeText::assign(*doc, key, pos.at(2), &reason))
         return failure(reason);
-    return m_session.controller().saveContext() ? kExitFailure : kExitOk;
+    return m_session.controller().save() ? kExitFailure : kExitOk;
 }
 
 } // namespace tabo::cli

@@ -110,7 +110,7 @@ int TemplateCommand::save(const QString &id, const QString &name, const QString 
                 prefs.remove(kGroupKeys[g]);
         }
     }
-    if (!made || m_session.controller().saveContext())
+    if (!made || m_session.controller().save())
         return kExitFailure;
     return kExitOk;
 }
@@ -156,7 +156,7 @@ int TemplateCommand::remove(const QString &name)
     if (!t)
         return failure(QStringLiteral("No template named “%1”.").arg(name));
     templates.deleteTemplate(t);
-    return m_session.controller().saveContext() ? kExitFailure : kExitOk;
+    return m_session.controller().save() ? kExitFailure : kExitOk;
 }
 
 } // namespace tabo::cli

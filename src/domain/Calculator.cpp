@@ -3,6 +3,7 @@
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
+#include "domain/TaxTables.h"
 
 #include <algorithm>
 #include <charconv>
@@ -12,6 +13,8 @@
 namespace tabo {
 
 namespace {
+
+using namespace taxes;
 
 // "%.Nf" and back, without the C library's locale: to_chars/from_chars always
 // use the C conventions, so a German LC_NUMERIC cannot turn "19.00" into 19.
@@ -31,15 +34,6 @@ double roundFixed(double x)
     std::from_chars(buf, end, v, std::chars_format::fixed);
     return v;
 }
-
-// Index triples for "tax k" of an item and of a document.
-constexpr int kItemApplied[3] = {Item::isTax1Applied, Item::isTax2Applied, Item::isTax3Applied};
-constexpr int kItemPercent[3] = {Item::tax1Percent, Item::tax2Percent, Item::tax3Percent};
-constexpr int kItemTaxAmount[3] = {Item::tax1Amount, Item::tax2Amount, Item::tax3Amount};
-constexpr int kDocPercent[3] = {Invoice::tax1Percent, Invoice::tax2Percent, Invoice::tax3Percent};
-constexpr int kDocTaxAmount[3] = {Invoice::tax1Amount, Invoice::tax2Amount, Invoice::tax3Amount};
-constexpr int kShippingTax[3] = {Invoice::isShippingTax1Enabled, Invoice::isShippingTax2Enabled,
-                                 Invoice::isShippingTax3Enabled};
 
 // The line net every path shares: unit price and quantity each rounded to
 // three decimals, the product itself not rounded.

@@ -29,6 +29,40 @@ QString Contact::displayName() const
     return organization.isEmpty() ? email : organization;
 }
 
+const std::array<QString, Buyer::kCount> Buyer::kKeys{
+    QStringLiteral("company"),     QStringLiteral("street"),         QStringLiteral("postcode"),
+    QStringLiteral("city"),        QStringLiteral("countryCode"),    QStringLiteral("buyerReference"),
+    QStringLiteral("electronicAddress")};
+
+namespace {
+constexpr QString Buyer::*kBuyerParts[Buyer::kCount] = {&Buyer::company,     &Buyer::street,
+                                                       &Buyer::postcode,    &Buyer::city,
+                                                       &Buyer::countryCode, &Buyer::buyerReference,
+                                                       &Buyer::electronicAddress};
+} // namespace
+
+QString &Buyer::operator[](std::size_t i)
+{
+    return this->*kBuyerParts[i];
+}
+
+const QString &Buyer::operator[](std::size_t i) const
+{
+    return this->*kBuyerParts[i];
+}
+
+bool Buyer::hasNoAddress() const
+{
+    return std::all_of(std::begin(kBuyerParts), std::begin(kBuyerParts) + 5,
+                       [this](QString Buyer::*part) { return (this->*part).trimmed().isEmpty(); });
+}
+
+bool Buyer::isEmpty() const
+{
+    return std::all_of(std::begin(kBuyerParts), std::end(kBuyerParts),
+                       [this](QString Buyer::*part) { return (this->*part).isEmpty(); });
+}
+
 namespace Contacts {
 
 namespace {
@@ -395,31 +429,26 @@ bool fieldsFromContact(const Preferences &prefs, const Contact &contact, Address
     fields->firstName = contact.firstName;
     fields->lastName = contact.lastName;
     const QString person = QString(contact.firstName + QLatin1Char(' ') + contact.lastName).trimmed();
-    fields->buyer[0] = contact.organization.isEmpty() ? person : contact.organization;
-    fields->buyer[1] = contact.street;
-    fields->buyer[2] = contact.zip;
-    fields->buyer[3] = contact.city;
-    fields->buyer[4] = countryCode(contact.country);
+    fields->buyer.company = contact.organization.isEmpty() ? person : contact.organization;
+    fields->buyer.street = contact.street;
+    fields->buyer.postcode = contact.zip;
+    fields->buyer.city = contact.city;
+    fields->buyer.countryCode = countryCode(contact.country);
     return true;
 }
 
-const std::array<QString, 7> kBuyerKeys{QStringLiteral("company"),     QStringLiteral("street"),
-                                        QStringLiteral("postcode"),    QStringLiteral("city"),
-                                        QStringLiteral("countryCode"), QStringLiteral("buyerReference"),
-                                        QStringLiteral("electronicAddress")};
-
-std::array<QString, 7> buyerOf(const Record &record)
+Buyer buyerOf(const Record &record)
 {
-    std::array<QString, 7> buyer;
-    for (std::size_t i = 0; i < buyer.size(); ++i)
-        buyer[i] = record.value(kBuyerKeys[i]).toString();
+    Buyer buyer;
+    for (std::size_t i = 0; i < Buyer::kCount; ++i)
+        buyer[i] = record.value(Buyer::kKeys[i]).toString();
     return buyer;
 }
 
-void setBuyer(Record &record, const std::array<QString, 7> &buyer)
+void setBuyer(Record &record, const Buyer &buyer)
 {
-    for (std::size_t i = 0; i < buyer.size(); ++i)
-        record.setValue(kBuyerKeys[i], buyer[i].trimmed());
+    for (std::size_t i = 0; i < Buyer::kCount; ++i)
+        record.setValue(Buyer::kKeys[i], buyer[i].trimmed());
 }
 
 QString countryCode(const QString &country)
@@ -476,7 +505,7 @@ Record *selectAddress(RecordOwner &store, Record &document, const AddressFields 
     for (Record *known : store.all(EntityId::Address)) {
         if (known->text(Address::address) == fields.address) {
             // The parts given now complete what was remembered with the text.
-            if (std::any_of(fields.buyer.begin(), fields.buyer.end(), [](const QString &v) { return !v.isEmpty(); }))
+            if (!fields.buyer.isEmpty())
                 setBuyer(*known, fields.buyer);
             return nullptr;
         }
@@ -506,15 +535,15 @@ bool cityFirst(const QString &countryCode)
 
 } // namespace
 
-QString composeAddress(const std::array<QString, 7> &buyer, const QString &homeCountry)
+QString composeAddress(const Buyer &buyer, const QString &homeCountry)
 {
     QStringList lines;
-    for (const QString &part : {buyer[0], buyer[1]})
+    for (const QString &part : {buyer.company, buyer.street})
         if (!part.trimmed().isEmpty())
             lines << part.trimmed();
-    const QString postcode = buyer[2].trimmed();
-    const QString city = buyer[3].trimmed();
-    const QString country = buyer[4].trimmed().toUpper();
+    const QString postcode = buyer.postcode.trimmed();
+    const QString city = buyer.city.trimmed();
+    const QString country = buyer.countryCode.trimmed().toUpper();
     const QString home = homeCountry.trimmed().toUpper();
     const QString place = cityFirst(country.isEmpty() ? home : country)
         ? QString(city + QLatin1Char(' ') + postcode).trimmed()
@@ -528,7 +557,7 @@ QString composeAddress(const std::array<QString, 7> &buyer, const QString &homeC
     return lines.join(QLatin1Char('\n'));
 }
 
-std::array<QString, 7> partsOfAddress(const QString &block, std::array<QString, 7> known)
+Buyer partsOfAddress(const QString &block, Buyer known)
 {
     QStringList lines;
     for (const QString &line : block.split(QLatin1Char('\n')))
@@ -540,7 +569,7 @@ std::array<QString, 7> partsOfAddress(const QString &block, std::array<QString, 
     if (lines.size() > 1) {
         const QString code = countryCode(lines.last());
         if (!code.isEmpty() && !lines.last().contains(QRegularExpression(QStringLiteral("[0-9]")))) {
-            known[4] = code;
+            known.countryCode = code;
             lines.removeLast();
         }
     }
@@ -553,30 +582,29 @@ std::array<QString, 7> partsOfAddress(const QString &block, std::array<QString, 
         QRegularExpressionMatch m = postcodeFirst.match(lines[i]);
         bool found = m.hasMatch();
         if (found) {
-            known[2] = m.captured(1);
-            known[3] = m.captured(2).trimmed();
+            known.postcode = m.captured(1);
+            known.city = m.captured(2).trimmed();
         } else if (m = postcodeLast.match(lines[i]); m.hasMatch()) {
-            known[2] = m.captured(2);
-            known[3] = m.captured(1).trimmed();
-            if (known[4].isEmpty() && known[3].contains(QRegularExpression(QStringLiteral(", ?[A-Z]{2}$"))))
-                known[4] = QStringLiteral("US");
+            known.postcode = m.captured(2);
+            known.city = m.captured(1).trimmed();
+            if (known.countryCode.isEmpty() && known.city.contains(QRegularExpression(QStringLiteral(", ?[A-Z]{2}$"))))
+                known.countryCode = QStringLiteral("US");
             found = true;
         }
         if (!found)
             continue;
         // The street is the line above; the company the first line.
-        known[0] = lines.first();
-        known[1] = i >= 2 ? lines[i - 1] : QString();
+        known.company = lines.first();
+        known.street = i >= 2 ? lines[i - 1] : QString();
         return known;
     }
-    known[0] = lines.first();
+    known.company = lines.first();
     return known;
 }
 
 void completeAddress(AddressFields &fields, const QString &homeCountry)
 {
-    const bool noParts = std::all_of(fields.buyer.begin(), fields.buyer.begin() + 5,
-                                     [](const QString &v) { return v.trimmed().isEmpty(); });
+    const bool noParts = fields.buyer.hasNoAddress();
     if (fields.address.trimmed().isEmpty() && !noParts)
         fields.address = composeAddress(fields.buyer, homeCountry);
     else if (noParts && !fields.address.trimmed().isEmpty())

@@ -27,6 +27,30 @@ struct Contact
     QString displayName() const;
 };
 
+// What e-invoices need of the buyer beyond the address text, kept alike by
+// documents and remembered addresses under the attribute names `kKeys`.
+struct Buyer
+{
+    QString company;
+    QString street;
+    QString postcode;
+    QString city;
+    QString countryCode;
+    QString buyerReference; // a public authority's Leitweg-ID
+    QString electronicAddress;
+
+    static constexpr std::size_t kCount = 7;
+    // The attribute names, in the order of the members.
+    static const std::array<QString, kCount> kKeys;
+    // By position, for the forms and the command line that walk every part.
+    QString &operator[](std::size_t i);
+    const QString &operator[](std::size_t i) const;
+    // None of the parts of the postal address is filled in.
+    bool hasNoAddress() const;
+    bool isEmpty() const;
+    bool operator==(const Buyer &) const = default;
+};
+
 // The address popover's fields.
 struct AddressFields
 {
@@ -37,18 +61,14 @@ struct AddressFields
     QString customerTitle;
     QString firstName;
     QString lastName;
-    // What e-invoices need beyond the address text, by kBuyerKeys.
-    std::array<QString, 7> buyer;
+    Buyer buyer;
 };
 
 namespace Contacts {
 
-// The buyer's parts, named alike in documents and remembered addresses:
-// company, street, postcode, city, countryCode, buyerReference,
-// electronicAddress.
-extern const std::array<QString, 7> kBuyerKeys;
-std::array<QString, 7> buyerOf(const Record &record);
-void setBuyer(Record &record, const std::array<QString, 7> &buyer);
+// The buyer's parts of a document or a remembered address.
+Buyer buyerOf(const Record &record);
+void setBuyer(Record &record, const Buyer &buyer);
 // An ISO 3166-1 code for a country as written ("Deutschland", "France",
 // "de"); empty when unknown.
 QString countryCode(const QString &country);
@@ -78,11 +98,11 @@ Record *selectAddress(RecordOwner &store, Record &document, const AddressFields 
 // The printed address block from its parts, in the order the country's post
 // reads it ("20095 Hamburg", "Springfield, IL 62704"); the country is named
 // only when it is not `homeCountry` (an ISO code).
-QString composeAddress(const std::array<QString, 7> &buyer, const QString &homeCountry);
+QString composeAddress(const Buyer &buyer, const QString &homeCountry);
 // The parts of a typed or pasted address block: company, street, postcode,
 // city and country; the other parts, and what the block does not say, stay
 // as in `known`.
-std::array<QString, 7> partsOfAddress(const QString &block, std::array<QString, 7> known = {});
+Buyer partsOfAddress(const QString &block, Buyer known = {});
 // One address: the block is composed from the parts when it is empty, and
 // the parts are read from the block when they are.
 void completeAddress(AddressFields &fields, const QString &homeCountry);

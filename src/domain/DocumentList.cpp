@@ -39,11 +39,11 @@ void DocumentList::reload(RecordOwner *store)
 void DocumentList::clear()
 {
     m_all.clear();
-    m_arranged.clear();
+    m_shown.clear();
     m_summary = {};
 }
 
-void DocumentList::setFilterPredicate(Date now)
+void DocumentList::applyFilter(Date now)
 {
     if (m_filterTag != kInvoiceFilterTag)
         m_predicate = ListFilter::forTag(m_filterTag, now);
@@ -65,7 +65,7 @@ void DocumentList::add(Record *document)
 void DocumentList::remove(Record *document)
 {
     m_all.removeOne(document);
-    m_arranged.removeOne(document);
+    m_shown.removeOne(document);
 }
 
 void DocumentList::rearrange()
@@ -85,7 +85,7 @@ void DocumentList::setSearch(const Search &search)
     // Typing on narrows what is shown: only the rows shown can still match
     // (an amount is matched whole, so a search with one starts over).
     if (!previous.isEmpty() && !m_search.amount && m_search.text.startsWith(previous, Qt::CaseInsensitive)) {
-        m_arranged.removeIf([this](const Record *r) { return !m_search.matches(*r); });
+        m_shown.removeIf([this](const Record *r) { return !m_search.matches(*r); });
         return;
     }
     applyPredicate();
@@ -112,7 +112,7 @@ bool DocumentList::shows(const Record *document) const
 {
     if (!document)
         return false;
-    // The arranged contents are a subset in the same order; the test is the
+    // What is shown is a subset in the same order; the test is the
     // cheaper way to ask.
     return (m_predicate.isEmpty() || m_predicate.matches(*document)) && m_search.matches(*document)
            && m_all.contains(document);
@@ -121,13 +121,13 @@ bool DocumentList::shows(const Record *document) const
 void DocumentList::applyPredicate()
 {
     if (m_predicate.isEmpty() && m_search.isEmpty()) {
-        m_arranged = m_all;
+        m_shown = m_all;
         return;
     }
-    m_arranged.clear();
+    m_shown.clear();
     for (Record *r : std::as_const(m_all))
         if ((m_predicate.isEmpty() || m_predicate.matches(*r)) && m_search.matches(*r))
-            m_arranged.append(r);
+            m_shown.append(r);
 }
 
 } // namespace tabo

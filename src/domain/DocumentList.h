@@ -15,8 +15,8 @@ class Record;
 class RecordOwner;
 
 // All documents of the store, newest first, and the filtered view of them
-// that the main window shows (the "arranged contents"). The summary figures
-// are computed over the arranged contents.
+// that the main window shows (`shown()`). The summary figures
+// are computed over what is shown.
 class DocumentList
 {
 public:
@@ -27,16 +27,16 @@ public:
     void clear();
 
     const QList<Record *> &all() const { return m_all; }
-    const QList<Record *> &arranged() const { return m_arranged; }
+    const QList<Record *> &shown() const { return m_shown; }
 
     // The tag of a filter to one invoice (from a notification): outside the
     // person's own filters, and kept when the predicate is rebuilt.
     static constexpr unsigned kInvoiceFilterTag = 99;
     unsigned filterTag() const { return m_filterTag; }
-    // Only the tag: the predicate stays until setFilterPredicate runs.
+    // Only the tag: the predicate stays until applyFilter runs.
     void setFilterTag(unsigned tag) { m_filterTag = tag; }
     // Builds the predicate for the current tag at `now` and re-arranges.
-    void setFilterPredicate(Date now);
+    void applyFilter(Date now);
     void setPredicate(const ListFilter &filter);
     const ListFilter &predicate() const { return m_predicate; }
 
@@ -53,7 +53,7 @@ public:
     };
     void setSearch(const Search &search);
     const Search &search() const { return m_search; }
-    // Whether the arranged contents show `document`.
+    // Whether the list shows `document`.
     bool shows(const Record *document) const;
 
     // Adds a new document, keeping the date order; whether it shows depends on
@@ -63,14 +63,14 @@ public:
     // Re-sorts (after a date changed) and re-applies the predicate.
     void rearrange();
 
-    Summary calculateDatabase(Date now) { return m_summary = Calculator::calculateDatabase(m_arranged, now); }
+    Summary calculateDatabase(Date now) { return m_summary = Calculator::calculateDatabase(m_shown, now); }
     const Summary &summary() const { return m_summary; }
 
 private:
     void applyPredicate();
 
     QList<Record *> m_all; // date descending
-    QList<Record *> m_arranged;
+    QList<Record *> m_shown;
     ListFilter m_predicate;
     Search m_search;
     unsigned m_filterTag = 0;

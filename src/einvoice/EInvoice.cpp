@@ -5,6 +5,7 @@
 #include "domain/Record.h"
 #include "domain/UnitCodes.h"
 #include "prefs/Preferences.h"
+#include "domain/TaxTables.h"
 
 #include <QRegularExpression>
 
@@ -17,6 +18,8 @@ namespace tabo::einvoice {
 using P = Preferences;
 
 namespace {
+
+using namespace taxes;
 
 // Sums to the cent are kept in whole cents: adding doubles would let 0.1 + 0.2
 // differ from what the standard's rules add up.
@@ -35,14 +38,6 @@ QDate localDay(const Record &doc, int attr)
     return doc.isNull(attr) ? QDate() : doc.date(attr).toDateTime().toLocalTime().date();
 }
 
-constexpr P::Key kCategory[3] = {P::tax1Category, P::tax2Category, P::tax3Category};
-constexpr P::Key kReason[3] = {P::tax1ExemptionReason, P::tax2ExemptionReason, P::tax3ExemptionReason};
-constexpr P::Key kTitle[3] = {P::tax1Title, P::tax2Title, P::tax3Title};
-constexpr int kItemApplied[3] = {Item::isTax1Applied, Item::isTax2Applied, Item::isTax3Applied};
-constexpr int kDocPercent[3] = {Invoice::tax1Percent, Invoice::tax2Percent, Invoice::tax3Percent};
-constexpr int kDocTaxAmount[3] = {Invoice::tax1Amount, Invoice::tax2Amount, Invoice::tax3Amount};
-constexpr int kShippingTax[3] = {Invoice::isShippingTax1Enabled, Invoice::isShippingTax2Enabled,
-                                 Invoice::isShippingTax3Enabled};
 
 const QStringList kCategories{QStringLiteral("S"), QStringLiteral("Z"),  QStringLiteral("E"), QStringLiteral("AE"),
                               QStringLiteral("K"), QStringLiteral("G"), QStringLiteral("O")};
@@ -69,11 +64,11 @@ struct Taxes
     TaxCategory category(int k) const
     {
         TaxCategory c;
-        c.code = prefs.string(kCategory[k]).trimmed().toUpper();
+        c.code = prefs.string(kTaxCategory[k]).trimmed().toUpper();
         if (c.code.isEmpty())
             c.code = QStringLiteral("S");
         c.rate = c.code == QLatin1String("S") ? percent(doc.num(kDocPercent[k])) : 0.0;
-        c.exemptionReason = prefs.string(kReason[k]).trimmed();
+        c.exemptionReason = prefs.string(kTaxReason[k]).trimmed();
         return c;
     }
     TaxCategory untaxed() const { return {QStringLiteral("Z"), 0.0, {}}; }
@@ -81,7 +76,7 @@ struct Taxes
 
 QString taxName(const Preferences &prefs, int k)
 {
-    const QString title = prefs.string(kTitle[k]).trimmed();
+    const QString title = prefs.string(kTaxTitle[k]).trimmed();
     return title.isEmpty() ? QStringLiteral("tax %1").arg(k + 1) : QStringLiteral("“%1”").arg(title);
 }
 
@@ -120,109 +115,176 @@ std::pair<QString, QString> electronicAddress(const QString &typed)
     return {QStringLiteral("EM"), text};
 }
 
-Mapping fromDocument(const Record &doc, const Preferences &prefs)
+namespace {
+
+// The mapping in named steps. Each states what it can in the model and adds
+// to `missing` what the person has to fill in, or to `refusals` what the
+// standard cannot state.
+class Mapper
 {
+public:
+    Mapper(const Record &doc, const QList<Record *> &items, const Preferences &prefs)
+        : m_doc(doc)
+        , m_items(items)
+        , m_prefs(prefs)
+        , m_taxes{doc, prefs}
+        , m_toTheCent(doc.boolean(Invoice::centExactTotals)
+                      && Calculator::canCalculateToTheCent(doc, TaxSettings::from(prefs)))
+    {
+    }
+
+    Mapping run()
+    {
+        if (m_doc.integer(Invoice::kind) == 0)
+            m.refusals << QStringLiteral("A quote is not an invoice: e-invoices are made of invoices.");
+        seller();
+        buyer();
+        document();
+        lines();
+        shipping();
+        if (!m.refusals.isEmpty())
+            return m;
+        if (m_toTheCent)
+            centExactFigures();
+        else
+            classicFigures();
+        vatBreakdown();
+        totals();
+        creditNote();
+        if (cents(inv.payable) > 0 && !inv.dueDate.isValid() && inv.paymentTerms.isEmpty()
+            && inv.typeCode == QLatin1String("380"))
+            m.missing << QStringLiteral("The invoice needs a due date or payment conditions (Dates and status, Texts)");
+        return m;
+    }
+
+private:
+    using Key = std::pair<QString, qint64>; // (category, rate in 1/100 %)
+    static Key key(const TaxCategory &c) { return {c.code, std::llround(c.rate * 100.0)}; }
+    TaxCategory categoryOf(int tabo) const { return tabo >= 0 ? m_taxes.category(tabo) : m_taxes.untaxed(); }
+
+    QString need(const QString &value, const QString &what)
+    {
+        if (value.trimmed().isEmpty())
+            m.missing << what;
+        return value.trimmed();
+    }
+
+    void seller();
+    void buyer();
+    void document();
+    void lines();
+    void shipping();
+    void centExactFigures();
+    void classicFigures();
+    void spreadDiscount(qint64 discountCents);
+    void vatBreakdown();
+    void checkCategory(const TaxBreakdown &t, int tabo, qint64 taxCents);
+    void totals();
+    void creditNote();
+
+    const Record &m_doc;
+    const QList<Record *> &m_items;
+    const Preferences &m_prefs;
+    const Taxes m_taxes;
+    const bool m_toTheCent;
     Mapping m;
     Model &inv = m.invoice;
-    QStringList &missing = m.missing;
-    QStringList &refusals = m.refusals;
-    const auto need = [&missing](const QString &value, const QString &what) {
-        if (value.trimmed().isEmpty())
-            missing << what;
-        return value.trimmed();
-    };
-    const QString company = QStringLiteral(" (Preferences ▸ Company)");
-    const QString client = QStringLiteral(" (Client ▸ Address ▸ E-invoice)");
+    std::map<Key, qint64> m_baseCents; // the basis of each category
+    std::map<Key, int> m_taxOf;        // Tabo's tax k of each category, or -1
+    std::map<Key, qint64> m_taxCents;  // the tax each category charges
+    qint64 m_lineCents = 0;
+    qint64 m_taxTotalCents = 0;
+    qint64 m_printedTotal = 0;
 
-    if (doc.integer(Invoice::kind) == 0)
-        refusals << QStringLiteral("A quote is not an invoice: e-invoices are made of invoices.");
+    static inline const QString kCompany = QStringLiteral(" (Preferences ▸ Company)");
+    static inline const QString kClient = QStringLiteral(" (Client ▸ Address ▸ E-invoice)");
+};
 
-    // The seller.
+void Mapper::seller()
+{
     Party &s = inv.seller;
-    s.name = need(prefs.string(P::prefsName), QStringLiteral("The company's name is missing") + company);
-    s.street = need(prefs.string(P::prefsStreet), QStringLiteral("The company's street is missing") + company);
-    s.postcode = need(prefs.string(P::prefsPostcode), QStringLiteral("The company's postcode is missing") + company);
-    s.city = need(prefs.string(P::prefsCity), QStringLiteral("The company's city is missing") + company);
-    s.countryCode = Contacts::countryCode(prefs.string(P::prefsCountryCode));
-    need(s.countryCode, QStringLiteral("The company's country code (DE, FR …) is missing") + company);
-    s.vatId = prefs.string(P::prefsVATID).simplified().remove(QLatin1Char(' '));
-    s.taxNumber = prefs.string(P::prefsTaxNumber).trimmed();
+    s.name = need(m_prefs.string(P::prefsName), QStringLiteral("The company's name is missing") + kCompany);
+    s.street = need(m_prefs.string(P::prefsStreet), QStringLiteral("The company's street is missing") + kCompany);
+    s.postcode = need(m_prefs.string(P::prefsPostcode), QStringLiteral("The company's postcode is missing") + kCompany);
+    s.city = need(m_prefs.string(P::prefsCity), QStringLiteral("The company's city is missing") + kCompany);
+    s.countryCode = Contacts::countryCode(m_prefs.string(P::prefsCountryCode));
+    need(s.countryCode, QStringLiteral("The company's country code (DE, FR …) is missing") + kCompany);
+    s.vatId = m_prefs.string(P::prefsVATID).simplified().remove(QLatin1Char(' '));
+    s.taxNumber = m_prefs.string(P::prefsTaxNumber).trimmed();
     if (s.vatId.isEmpty() && s.taxNumber.isEmpty())
-        missing << QStringLiteral("The company's VAT ID or tax number is missing") + company;
-    s.contactName = prefs.string(P::prefsContactName).trimmed();
+        m.missing << QStringLiteral("The company's VAT ID or tax number is missing") + kCompany;
+    s.contactName = m_prefs.string(P::prefsContactName).trimmed();
     if (s.contactName.isEmpty())
         s.contactName = s.name;
-    s.contactPhone = need(prefs.string(P::prefsContactPhone), QStringLiteral("The company's phone number is missing") + company);
+    s.contactPhone = need(m_prefs.string(P::prefsContactPhone), QStringLiteral("The company's phone number is missing") + kCompany);
     if (!s.contactPhone.isEmpty() && s.contactPhone.count(QRegularExpression(QStringLiteral("[0-9]"))) < 3)
-        missing << QStringLiteral("The company's phone number needs at least three digits") + company;
-    s.contactEmail = need(prefs.string(P::prefsContactEmail), QStringLiteral("The company's e-mail address is missing") + company);
-    std::tie(s.electronicScheme, s.electronicAddress) = electronicAddress(prefs.string(P::prefsElectronicAddress));
-    if (const QString scheme = prefs.string(P::prefsElectronicAddressScheme).trimmed();
+        m.missing << QStringLiteral("The company's phone number needs at least three digits") + kCompany;
+    s.contactEmail = need(m_prefs.string(P::prefsContactEmail), QStringLiteral("The company's e-mail address is missing") + kCompany);
+    std::tie(s.electronicScheme, s.electronicAddress) = electronicAddress(m_prefs.string(P::prefsElectronicAddress));
+    if (const QString scheme = m_prefs.string(P::prefsElectronicAddressScheme).trimmed();
         !scheme.isEmpty() && !s.electronicAddress.isEmpty())
         s.electronicScheme = scheme;
     if (s.electronicAddress.isEmpty())
         std::tie(s.electronicScheme, s.electronicAddress) = electronicAddress(s.contactEmail);
-    inv.iban = prefs.string(P::prefsIBAN).remove(QRegularExpression(QStringLiteral("\\s"))).toUpper();
-    need(inv.iban, QStringLiteral("The company's IBAN is missing") + company);
-    inv.bic = prefs.string(P::prefsBIC).remove(QRegularExpression(QStringLiteral("\\s"))).toUpper();
-    inv.bankName = prefs.string(P::prefsBankName).trimmed();
-    inv.currency = prefs.string(P::prefsCurrencyCode).trimmed().toUpper();
+    inv.iban = m_prefs.string(P::prefsIBAN).remove(QRegularExpression(QStringLiteral("\\s"))).toUpper();
+    need(inv.iban, QStringLiteral("The company's IBAN is missing") + kCompany);
+    inv.bic = m_prefs.string(P::prefsBIC).remove(QRegularExpression(QStringLiteral("\\s"))).toUpper();
+    inv.bankName = m_prefs.string(P::prefsBankName).trimmed();
+    inv.currency = m_prefs.string(P::prefsCurrencyCode).trimmed().toUpper();
     if (!QRegularExpression(QStringLiteral("^[A-Z]{3}$")).match(inv.currency).hasMatch())
-        missing << QStringLiteral("The currency code (EUR, CHF …) is missing") + company;
+        m.missing << QStringLiteral("The currency code (EUR, CHF …) is missing") + kCompany;
+}
 
-    // The buyer.
+void Mapper::buyer()
+{
     Party &b = inv.buyer;
-    const std::array<QString, 7> buyer = Contacts::buyerOf(doc);
-    b.name = buyer[0].trimmed();
+    const Buyer buyer = Contacts::buyerOf(m_doc);
+    b.name = buyer.company.trimmed();
     if (b.name.isEmpty())
-        b.name = Contacts::clientOf(doc);
-    need(b.name, QStringLiteral("The client's name is missing") + client);
-    b.street = buyer[1].trimmed();
-    b.postcode = need(buyer[2], QStringLiteral("The client's postcode is missing") + client);
-    b.city = need(buyer[3], QStringLiteral("The client's city is missing") + client);
-    b.countryCode = Contacts::countryCode(buyer[4]);
-    need(b.countryCode, QStringLiteral("The client's country code (DE, FR …) is missing") + client);
-    b.vatId = doc.text(Invoice::customerVATID).simplified().remove(QLatin1Char(' '));
-    std::tie(b.electronicScheme, b.electronicAddress) =
-        electronicAddress(buyer[6].trimmed().isEmpty() ? doc.text(Invoice::emailAddress) : buyer[6]);
-    need(b.electronicAddress, QStringLiteral("The client's e-invoice address or e-mail address is missing") + client);
+        b.name = Contacts::clientOf(m_doc);
+    need(b.name, QStringLiteral("The client's name is missing") + kClient);
+    b.street = buyer.street.trimmed();
+    b.postcode = need(buyer.postcode, QStringLiteral("The client's postcode is missing") + kClient);
+    b.city = need(buyer.city, QStringLiteral("The client's city is missing") + kClient);
+    b.countryCode = Contacts::countryCode(buyer.countryCode);
+    need(b.countryCode, QStringLiteral("The client's country code (DE, FR …) is missing") + kClient);
+    b.vatId = m_doc.text(Invoice::customerVATID).simplified().remove(QLatin1Char(' '));
+    std::tie(b.electronicScheme, b.electronicAddress) = electronicAddress(
+        buyer.electronicAddress.trimmed().isEmpty() ? m_doc.text(Invoice::emailAddress) : buyer.electronicAddress);
+    need(b.electronicAddress, QStringLiteral("The client's e-invoice address or e-mail address is missing") + kClient);
     // Public authorities route by their Leitweg-ID; others by what the client
     // knows the invoice by.
-    inv.buyerReference = buyer[5].trimmed();
+    inv.buyerReference = buyer.buyerReference.trimmed();
     if (inv.buyerReference.isEmpty())
-        inv.buyerReference = doc.text(Invoice::clientNumber).trimmed();
+        inv.buyerReference = m_doc.text(Invoice::clientNumber).trimmed();
     if (inv.buyerReference.isEmpty())
-        inv.buyerReference = doc.text(Invoice::number).trimmed();
+        inv.buyerReference = m_doc.text(Invoice::number).trimmed();
+}
 
-    // The document.
-    inv.number = need(doc.text(Invoice::number), QStringLiteral("The invoice has no number (Invoice ▸ Number)"));
-    inv.issueDate = localDay(doc, Invoice::date);
+void Mapper::document()
+{
+    inv.number = need(m_doc.text(Invoice::number), QStringLiteral("The invoice has no number (Invoice ▸ Number)"));
+    inv.issueDate = localDay(m_doc, Invoice::date);
     if (!inv.issueDate.isValid())
-        missing << QStringLiteral("The invoice has no date (Dates and status)");
+        m.missing << QStringLiteral("The invoice has no date (Dates and status)");
     // The date of supply: the dispatch where one is recorded, else the
     // invoice's own date, which is what an invoice without one means.
-    inv.deliveryDate = doc.boolean(Invoice::isDispatched) ? localDay(doc, Invoice::dispatched) : QDate();
+    inv.deliveryDate = m_doc.boolean(Invoice::isDispatched) ? localDay(m_doc, Invoice::dispatched) : QDate();
     if (!inv.deliveryDate.isValid())
         inv.deliveryDate = inv.issueDate;
-    inv.dueDate = localDay(doc, Invoice::due);
+    inv.dueDate = localDay(m_doc, Invoice::due);
     if (inv.dueDate.isValid() && inv.dueDate < inv.issueDate)
         inv.dueDate = {};
-    inv.paymentTerms = doc.text(Invoice::conditions).trimmed();
-    if (const QString subject = doc.text(Invoice::subject).trimmed(); !subject.isEmpty())
+    inv.paymentTerms = m_doc.text(Invoice::conditions).trimmed();
+    if (const QString subject = m_doc.text(Invoice::subject).trimmed(); !subject.isEmpty())
         inv.notes << subject;
+}
 
-    // Lines: one VAT category each.
-    const Taxes taxes{doc, prefs};
-    const bool toTheCent =
-        doc.boolean(Invoice::centExactTotals) && Calculator::canCalculateToTheCent(doc, TaxSettings::from(prefs));
-    QList<Record *> items = doc.toMany(Invoice::items);
-    std::sort(items.begin(), items.end(), [](const Record *a, const Record *x) { return a->id() < x->id(); });
-    std::map<std::pair<QString, qint64>, qint64> baseCents; // (category, rate in 1/100 %) → basis
-    std::map<std::pair<QString, qint64>, int> taxOf;         // → Tabo's tax k, or -1
-    const auto key = [](const TaxCategory &c) { return std::pair(c.code, std::llround(c.rate * 100.0)); };
-    qint64 lineCents = 0;
+// Lines: one VAT category each.
+void Mapper::lines()
+{
     int n = 0;
-    for (const Record *item : std::as_const(items)) {
+    for (const Record *item : m_items) {
         ++n;
         Line line;
         line.id = QString::number(n);
@@ -234,8 +296,8 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
         line.unitCode = UnitCodes::forLine(item->text(Item::unitCode), item->text(Item::unit));
         line.quantity = Calculator::r3(item->num(Item::unitCount));
         // The cent-exact calculation keeps the price as typed, to four decimals.
-        line.price = toTheCent ? Calculator::r4(item->num(Item::baseAmount)) : Calculator::r3(item->num(Item::baseAmount));
-        line.net = toTheCent ? fromCents(Calculator::centExactLineNet(*item)) : fromCents(cents(line.quantity * line.price));
+        line.price = m_toTheCent ? Calculator::r4(item->num(Item::baseAmount)) : Calculator::r3(item->num(Item::baseAmount));
+        line.net = m_toTheCent ? fromCents(Calculator::centExactLineNet(*item)) : fromCents(cents(line.quantity * line.price));
         if (line.price < 0) {
             // The standard's prices are never negative; the sign goes to the quantity.
             line.price = -line.price;
@@ -247,217 +309,253 @@ Mapping fromDocument(const Record &doc, const Preferences &prefs)
                 applied << k;
         const QString named = QStringLiteral("Line %1 “%2”").arg(n).arg(line.name);
         if (applied.size() > 1) {
-            refusals << QStringLiteral("%1 carries %2 and %3; an e-invoice line carries one VAT rate.")
-                            .arg(named, taxName(prefs, applied[0]), taxName(prefs, applied[1]));
+            m.refusals << QStringLiteral("%1 carries %2 and %3; an e-invoice line carries one VAT rate.")
+                              .arg(named, taxName(m_prefs, applied[0]), taxName(m_prefs, applied[1]));
             continue;
         }
         if (!applied.isEmpty()
             && ((applied[0] == 1 && item->boolean(Item::isTax2Compound))
                 || (applied[0] == 2 && item->boolean(Item::isTax3Compound)))) {
-            refusals << QStringLiteral("%1 carries the compound tax %2, which an e-invoice cannot state.")
-                            .arg(named, taxName(prefs, applied[0]));
+            m.refusals << QStringLiteral("%1 carries the compound tax %2, which an e-invoice cannot state.")
+                              .arg(named, taxName(m_prefs, applied[0]));
             continue;
         }
-        line.tax = applied.isEmpty() ? taxes.untaxed() : taxes.category(applied[0]);
+        const int tabo = applied.isEmpty() ? -1 : applied[0];
+        line.tax = categoryOf(tabo);
         inv.lines << line;
-        lineCents += cents(line.net);
-        baseCents[key(line.tax)] += cents(line.net);
-        taxOf.try_emplace(key(line.tax), applied.isEmpty() ? -1 : applied[0]);
+        m_lineCents += cents(line.net);
+        m_baseCents[key(line.tax)] += cents(line.net);
+        m_taxOf.try_emplace(key(line.tax), tabo);
     }
     if (n == 0)
-        missing << QStringLiteral("The invoice has no lines (Items)");
+        m.missing << QStringLiteral("The invoice has no lines (Items)");
+}
 
-    // Shipping: a charge on the whole document.
-    if (doc.boolean(Invoice::isShippingEnabled) && cents(doc.num(Invoice::shippingAmount)) != 0) {
-        AllowanceCharge charge;
-        charge.charge = true;
-        charge.amount = fromCents(cents(doc.num(Invoice::shippingAmount)));
-        charge.reason = doc.text(Invoice::shippingTitle).trimmed();
-        if (charge.reason.isEmpty())
-            charge.reason = QStringLiteral("Shipping");
-        QList<int> applied;
-        for (int k = 0; k < 3; ++k)
-            if (doc.boolean(kShippingTax[k]))
-                applied << k;
-        if (applied.size() > 1) {
-            refusals << QStringLiteral("The shipping carries %1 and %2; an e-invoice charge carries one VAT rate.")
-                            .arg(taxName(prefs, applied[0]), taxName(prefs, applied[1]));
-        } else if (!applied.isEmpty() && applied[0] > 0
-                   && prefs.boolean(applied[0] == 1 ? P::tax2IsCompound : P::tax3IsCompound)) {
-            refusals << QStringLiteral("The shipping carries the compound tax %1, which an e-invoice cannot state.")
-                            .arg(taxName(prefs, applied[0]));
-        } else {
-            charge.tax = applied.isEmpty() ? taxes.untaxed() : taxes.category(applied[0]);
-            inv.allowancesCharges << charge;
-            inv.chargeTotal += charge.amount;
-            baseCents[key(charge.tax)] += cents(charge.amount);
-            taxOf.try_emplace(key(charge.tax), applied.isEmpty() ? -1 : applied[0]);
-        }
+// Shipping: a charge on the whole document.
+void Mapper::shipping()
+{
+    if (!m_doc.boolean(Invoice::isShippingEnabled) || cents(m_doc.num(Invoice::shippingAmount)) == 0)
+        return;
+    AllowanceCharge charge;
+    charge.charge = true;
+    charge.amount = fromCents(cents(m_doc.num(Invoice::shippingAmount)));
+    charge.reason = m_doc.text(Invoice::shippingTitle).trimmed();
+    if (charge.reason.isEmpty())
+        charge.reason = QStringLiteral("Shipping");
+    QList<int> applied;
+    for (int k = 0; k < 3; ++k)
+        if (m_doc.boolean(kShippingTax[k]))
+            applied << k;
+    if (applied.size() > 1) {
+        m.refusals << QStringLiteral("The shipping carries %1 and %2; an e-invoice charge carries one VAT rate.")
+                          .arg(taxName(m_prefs, applied[0]), taxName(m_prefs, applied[1]));
+        return;
     }
-    if (!refusals.isEmpty())
-        return m;
-
-    // What Tabo printed, per tax and in all.
-    const qint64 printedTotal = cents(doc.num(Invoice::amount));
-    std::map<std::pair<QString, qint64>, qint64> keyTaxCents; // the tax each category charges
-    if (toTheCent) {
-        // The calculation's own figures: each rate's part of the discount is
-        // an allowance of that rate, and nothing is left to round.
-        const CentExactTotals totals = Calculator::centExactTotals(doc);
-        baseCents.clear();
-        taxOf.clear();
-        for (const RateShare &r : totals.rates) {
-            const TaxCategory category = r.tax >= 0 ? taxes.category(r.tax) : taxes.untaxed();
-            baseCents[key(category)] += r.taxable();
-            keyTaxCents[key(category)] += r.taxAmount;
-            taxOf.try_emplace(key(category), r.tax);
-            if (r.discount == 0)
-                continue;
-            AllowanceCharge allowance;
-            allowance.amount = fromCents(r.discount);
-            allowance.reason = doc.text(Invoice::discountTitle).trimmed();
-            if (allowance.reason.isEmpty())
-                allowance.reason = QStringLiteral("Discount");
-            allowance.tax = category;
-            inv.allowancesCharges << allowance;
-            inv.allowanceTotal += allowance.amount;
-        }
-    } else {
-        // The classic calculation rounds differently from the standard: its
-        // figures are stated where they can be, the discount inferred from
-        // what the page prints.
-        qint64 printedTax = 0;
-        std::map<int, qint64> taxCents;
-        for (const auto &[k, tabo] : taxOf)
-            if (tabo >= 0 && !taxCents.count(tabo)) {
-                taxCents[tabo] = baseCents[k] != 0 ? cents(doc.num(kDocTaxAmount[tabo])) : 0;
-                printedTax += taxCents[tabo];
-            }
-        for (const auto &[k, tabo] : taxOf)
-            keyTaxCents[k] = tabo >= 0 ? taxCents[tabo] : 0;
-        if (lineCents != cents(doc.num(Invoice::subAmount)))
-            refusals << QStringLiteral("The lines, each to the cent, add up to %1, but the invoice prints a net "
-                                       "amount of %2: the classic calculation does not round each line.")
-                            .arg(amount(fromCents(lineCents)), amount(doc.num(Invoice::subAmount)));
-
-        // The discount: whatever the printed total leaves between the lines,
-        // shipping and taxes, spread over the categories by their share.
-        const qint64 discountCents = lineCents + cents(inv.chargeTotal) + printedTax - printedTotal;
-        if (doc.boolean(Invoice::isDiscountEnabled) && discountCents != 0) {
-            qint64 left = discountCents;
-            qint64 baseSum = 0;
-            for (const auto &[k, c] : baseCents)
-                baseSum += c;
-            auto last = std::prev(baseCents.end());
-            for (auto it = baseCents.begin(); it != baseCents.end(); ++it) {
-                const qint64 share =
-                    it == last ? left : (baseSum ? std::llround(double(discountCents) * it->second / baseSum) : 0);
-                left -= share;
-                if (share == 0)
-                    continue;
-                AllowanceCharge allowance;
-                allowance.amount = fromCents(share);
-                allowance.reason = doc.text(Invoice::discountTitle).trimmed();
-                if (allowance.reason.isEmpty())
-                    allowance.reason = QStringLiteral("Discount");
-                const int tabo = taxOf[it->first];
-                allowance.tax = tabo >= 0 ? taxes.category(tabo) : taxes.untaxed();
-                inv.allowancesCharges << allowance;
-                inv.allowanceTotal += allowance.amount;
-                it->second -= share;
-            }
-        } else if (std::abs(discountCents) <= 2) {
-            // The page rounds the total once and each tax once; the standard
-            // states the difference as rounding.
-            inv.rounding = fromCents(-discountCents);
-        } else if (discountCents != 0) {
-            refusals << QStringLiteral("The invoice prints a total of %1, but its lines, shipping and taxes come to "
-                                       "%2.")
-                            .arg(amount(fromCents(printedTotal)), amount(fromCents(printedTotal + discountCents)));
-        }
-        m.toTheCentHelps = !refusals.isEmpty();
+    if (!applied.isEmpty() && applied[0] > 0
+        && m_prefs.boolean(applied[0] == 1 ? P::tax2IsCompound : P::tax3IsCompound)) {
+        m.refusals << QStringLiteral("The shipping carries the compound tax %1, which an e-invoice cannot state.")
+                          .arg(taxName(m_prefs, applied[0]));
+        return;
     }
+    const int tabo = applied.isEmpty() ? -1 : applied[0];
+    charge.tax = categoryOf(tabo);
+    inv.allowancesCharges << charge;
+    inv.chargeTotal += charge.amount;
+    m_baseCents[key(charge.tax)] += cents(charge.amount);
+    m_taxOf.try_emplace(key(charge.tax), tabo);
+}
 
-    // The VAT breakdown, checked against the standard's rule: tax = basis ×
-    // rate, to the cent, within one currency unit.
-    qint64 taxTotal = 0;
-    for (const auto &[k, basis] : baseCents) {
+// The calculation's own figures: each rate's part of the discount is an
+// allowance of that rate, and nothing is left to round.
+void Mapper::centExactFigures()
+{
+    const CentExactTotals totals = Calculator::centExactTotals(m_doc);
+    m_baseCents.clear();
+    m_taxOf.clear();
+    for (const RateShare &r : totals.rates) {
+        const TaxCategory category = categoryOf(r.tax);
+        m_baseCents[key(category)] += r.taxable();
+        m_taxCents[key(category)] += r.taxAmount;
+        m_taxOf.try_emplace(key(category), r.tax);
+        if (r.discount == 0)
+            continue;
+        AllowanceCharge allowance;
+        allowance.amount = fromCents(r.discount);
+        allowance.reason = m_doc.text(Invoice::discountTitle).trimmed();
+        if (allowance.reason.isEmpty())
+            allowance.reason = QStringLiteral("Discount");
+        allowance.tax = category;
+        inv.allowancesCharges << allowance;
+        inv.allowanceTotal += allowance.amount;
+    }
+}
+
+// The classic calculation rounds differently from the standard: its figures
+// are stated where they can be, the discount inferred from what the page
+// prints.
+void Mapper::classicFigures()
+{
+    m_printedTotal = cents(m_doc.num(Invoice::amount));
+    qint64 printedTax = 0;
+    std::map<int, qint64> byTabo;
+    for (const auto &[k, tabo] : m_taxOf)
+        if (tabo >= 0 && !byTabo.count(tabo)) {
+            byTabo[tabo] = m_baseCents[k] != 0 ? cents(m_doc.num(kDocTaxAmount[tabo])) : 0;
+            printedTax += byTabo[tabo];
+        }
+    for (const auto &[k, tabo] : m_taxOf)
+        m_taxCents[k] = tabo >= 0 ? byTabo[tabo] : 0;
+    if (m_lineCents != cents(m_doc.num(Invoice::subAmount)))
+        m.refusals << QStringLiteral("The lines, each to the cent, add up to %1, but the invoice prints a net "
+                                     "amount of %2: the classic calculation does not round each line.")
+                          .arg(amount(fromCents(m_lineCents)), amount(m_doc.num(Invoice::subAmount)));
+
+    // The discount: whatever the printed total leaves between the lines,
+    // shipping and taxes.
+    const qint64 discountCents = m_lineCents + cents(inv.chargeTotal) + printedTax - m_printedTotal;
+    if (m_doc.boolean(Invoice::isDiscountEnabled) && discountCents != 0) {
+        spreadDiscount(discountCents);
+    } else if (std::abs(discountCents) <= 2) {
+        // The page rounds the total once and each tax once; the standard
+        // states the difference as rounding.
+        inv.rounding = fromCents(-discountCents);
+    } else if (discountCents != 0) {
+        m.refusals << QStringLiteral("The invoice prints a total of %1, but its lines, shipping and taxes come to "
+                                     "%2.")
+                          .arg(amount(fromCents(m_printedTotal)), amount(fromCents(m_printedTotal + discountCents)));
+    }
+    m.toTheCentHelps = !m.refusals.isEmpty();
+}
+
+// A discount the classic page took off, spread over the categories by their
+// share of the basis, the rest to the last.
+void Mapper::spreadDiscount(qint64 discountCents)
+{
+    qint64 left = discountCents;
+    qint64 baseSum = 0;
+    for (const auto &[k, c] : m_baseCents)
+        baseSum += c;
+    const auto last = std::prev(m_baseCents.end());
+    for (auto it = m_baseCents.begin(); it != m_baseCents.end(); ++it) {
+        const qint64 share =
+            it == last ? left : (baseSum ? std::llround(double(discountCents) * it->second / baseSum) : 0);
+        left -= share;
+        if (share == 0)
+            continue;
+        AllowanceCharge allowance;
+        allowance.amount = fromCents(share);
+        allowance.reason = m_doc.text(Invoice::discountTitle).trimmed();
+        if (allowance.reason.isEmpty())
+            allowance.reason = QStringLiteral("Discount");
+        allowance.tax = categoryOf(m_taxOf[it->first]);
+        inv.allowancesCharges << allowance;
+        inv.allowanceTotal += allowance.amount;
+        it->second -= share;
+    }
+}
+
+// The VAT breakdown, checked against the standard's rule: tax = basis ×
+// rate, to the cent, within one currency unit.
+void Mapper::vatBreakdown()
+{
+    for (const auto &[k, basis] : m_baseCents) {
         TaxBreakdown t;
-        const int tabo = taxOf[k];
-        t.category = tabo >= 0 ? taxes.category(tabo) : taxes.untaxed();
+        const int tabo = m_taxOf[k];
+        t.category = categoryOf(tabo);
         t.basis = fromCents(basis);
         // A Tabo tax that became several categories cannot happen: one tax, one category.
-        t.amount = t.category.code == QLatin1String("S") ? fromCents(keyTaxCents[k]) : 0.0;
+        t.amount = t.category.code == QLatin1String("S") ? fromCents(m_taxCents[k]) : 0.0;
         const double rule = std::round(t.basis * t.category.rate) / 100.0;
         if (std::abs(t.amount - rule) > 1.0 + 1e-9) {
-            if (!toTheCent && !inv.allowancesCharges.isEmpty() && doc.boolean(Invoice::isDiscountEnabled)) {
-                refusals << QStringLiteral("The discount: the classic calculation charges the tax at %1 % on the "
-                                           "amount before the discount (%2), an e-invoice on the amount after it "
-                                           "(%3 × %1 % = %4).")
-                                .arg(decimal(t.category.rate), amount(t.amount), amount(t.basis), amount(rule));
+            if (!m_toTheCent && !inv.allowancesCharges.isEmpty() && m_doc.boolean(Invoice::isDiscountEnabled)) {
+                m.refusals << QStringLiteral("The discount: the classic calculation charges the tax at %1 % on the "
+                                             "amount before the discount (%2), an e-invoice on the amount after it "
+                                             "(%3 × %1 % = %4).")
+                                  .arg(decimal(t.category.rate), amount(t.amount), amount(t.basis), amount(rule));
                 m.toTheCentHelps = true;
             } else {
-                refusals << QStringLiteral("The tax at %1 %: the invoice prints %2, but %3 × %1 % is %4. A rate "
-                                           "changed after the lines were added causes this: recalculate the invoice.")
-                                .arg(decimal(t.category.rate), amount(t.amount), amount(t.basis), amount(rule));
+                m.refusals << QStringLiteral("The tax at %1 %: the invoice prints %2, but %3 × %1 % is %4. A rate "
+                                             "changed after the lines were added causes this: recalculate the invoice.")
+                                  .arg(decimal(t.category.rate), amount(t.amount), amount(t.basis), amount(rule));
             }
         }
-        if (tabo >= 0 && t.category.code != QLatin1String("S") && keyTaxCents[k] != 0)
-            refusals << QStringLiteral("%1 is marked as “%2” in the preferences but charges %3.")
-                            .arg(taxName(prefs, tabo), t.category.code, amount(fromCents(keyTaxCents[k])));
-        if (!kCategories.contains(t.category.code))
-            refusals << QStringLiteral("“%1” is not a VAT category (Preferences ▸ Taxes).").arg(t.category.code);
-        else if (needsReason(t.category.code) && t.category.exemptionReason.isEmpty())
-            missing << QStringLiteral("%1 is “%2”, which needs a reason why VAT is not charged (Preferences ▸ Taxes)")
-                           .arg(tabo >= 0 ? taxName(prefs, tabo) : QStringLiteral("A tax"), t.category.code);
-        if (t.category.code == QLatin1String("AE") || t.category.code == QLatin1String("K"))
-            need(b.vatId, QStringLiteral("The client's VAT ID is missing, which reverse charge and intra-community "
-                                         "supplies need (Client ▸ Address)"));
+        checkCategory(t, tabo, m_taxCents[k]);
         inv.taxes << t;
-        taxTotal += cents(t.amount);
+        m_taxTotalCents += cents(t.amount);
     }
     const bool hasO = std::any_of(inv.taxes.begin(), inv.taxes.end(),
                                   [](const TaxBreakdown &t) { return t.category.code == QLatin1String("O"); });
     if (hasO && inv.taxes.size() > 1)
-        refusals << QStringLiteral("Supplies not subject to VAT cannot share an e-invoice with taxed ones.");
+        m.refusals << QStringLiteral("Supplies not subject to VAT cannot share an e-invoice with taxed ones.");
+}
 
-    inv.lineTotal = fromCents(lineCents);
-    inv.taxExclusive = fromCents(lineCents - cents(inv.allowanceTotal) + cents(inv.chargeTotal));
+// What the category of a tax asks for besides its figures.
+void Mapper::checkCategory(const TaxBreakdown &t, int tabo, qint64 taxCents)
+{
+    const QString &code = t.category.code;
+    if (tabo >= 0 && code != QLatin1String("S") && taxCents != 0)
+        m.refusals << QStringLiteral("%1 is marked as “%2” in the preferences but charges %3.")
+                          .arg(taxName(m_prefs, tabo), code, amount(fromCents(taxCents)));
+    if (!kCategories.contains(code))
+        m.refusals << QStringLiteral("“%1” is not a VAT category (Preferences ▸ Taxes).").arg(code);
+    else if (needsReason(code) && t.category.exemptionReason.isEmpty())
+        m.missing << QStringLiteral("%1 is “%2”, which needs a reason why VAT is not charged (Preferences ▸ Taxes)")
+                         .arg(tabo >= 0 ? taxName(m_prefs, tabo) : QStringLiteral("A tax"), code);
+    if (code == QLatin1String("AE") || code == QLatin1String("K"))
+        need(inv.buyer.vatId, QStringLiteral("The client's VAT ID is missing, which reverse charge and "
+                                             "intra-community supplies need (Client ▸ Address)"));
+}
+
+void Mapper::totals()
+{
+    m_printedTotal = cents(m_doc.num(Invoice::amount));
+    const qint64 taxTotal = m_taxTotalCents;
     inv.taxTotal = fromCents(taxTotal);
+    inv.lineTotal = fromCents(m_lineCents);
+    inv.taxExclusive = fromCents(m_lineCents - cents(inv.allowanceTotal) + cents(inv.chargeTotal));
     inv.taxInclusive = fromCents(cents(inv.taxExclusive) + taxTotal);
     const qint64 total = cents(inv.taxInclusive) + cents(inv.rounding);
-    if (total != printedTotal && refusals.isEmpty()) {
-        refusals << QStringLiteral("The invoice prints a total of %1; stated the standard's way it comes to %2.")
-                        .arg(amount(fromCents(printedTotal)), amount(fromCents(total)));
-        m.toTheCentHelps = !toTheCent;
+    if (total != m_printedTotal && m.refusals.isEmpty()) {
+        m.refusals << QStringLiteral("The invoice prints a total of %1; stated the standard's way it comes to %2.")
+                          .arg(amount(fromCents(m_printedTotal)), amount(fromCents(total)));
+        m.toTheCentHelps = !m_toTheCent;
     }
-    const double paid = doc.num(Invoice::paidAmount);
+    const double paid = m_doc.num(Invoice::paidAmount);
     inv.prepaid = std::isfinite(paid) && paid > 0 ? fromCents(std::min(cents(paid), total)) : 0.0;
     inv.payable = fromCents(total - cents(inv.prepaid));
-    if (const QString preceding = doc.text(Invoice::precedingNumber).trimmed(); !preceding.isEmpty()) {
-        // A credit note: the standard states it with its own type and the
-        // amounts of what it takes back, not as an invoice of negative ones.
-        inv.typeCode = QStringLiteral("381");
-        inv.precedingNumber = preceding;
-        inv.precedingDate = QDate::fromString(doc.text(Invoice::precedingDate), Qt::ISODate);
-        for (Line &line : inv.lines) {
-            line.quantity = -line.quantity;
-            line.net = -line.net;
-        }
-        for (AllowanceCharge &ac : inv.allowancesCharges)
-            ac.amount = -ac.amount;
-        for (TaxBreakdown &t : inv.taxes) {
-            t.basis = -t.basis;
-            t.amount = -t.amount;
-        }
-        for (double *v : {&inv.lineTotal, &inv.allowanceTotal, &inv.chargeTotal, &inv.taxExclusive, &inv.taxTotal,
-                          &inv.taxInclusive, &inv.rounding, &inv.prepaid, &inv.payable})
-            *v = -*v;
-        inv.dueDate = {};
+}
+
+// A credit note: the standard states it with its own type and the amounts
+// of what it takes back, not as an invoice of negative ones.
+void Mapper::creditNote()
+{
+    const QString preceding = m_doc.text(Invoice::precedingNumber).trimmed();
+    if (preceding.isEmpty())
+        return;
+    inv.typeCode = QStringLiteral("381");
+    inv.precedingNumber = preceding;
+    inv.precedingDate = QDate::fromString(m_doc.text(Invoice::precedingDate), Qt::ISODate);
+    for (Line &line : inv.lines) {
+        line.quantity = -line.quantity;
+        line.net = -line.net;
     }
-    if (cents(inv.payable) > 0 && !inv.dueDate.isValid() && inv.paymentTerms.isEmpty() && inv.typeCode == QLatin1String("380"))
-        missing << QStringLiteral("The invoice needs a due date or payment conditions (Dates and status, Texts)");
-    return m;
+    for (AllowanceCharge &ac : inv.allowancesCharges)
+        ac.amount = -ac.amount;
+    for (TaxBreakdown &t : inv.taxes) {
+        t.basis = -t.basis;
+        t.amount = -t.amount;
+    }
+    for (double *v : {&inv.lineTotal, &inv.allowanceTotal, &inv.chargeTotal, &inv.taxExclusive, &inv.taxTotal,
+                      &inv.taxInclusive, &inv.rounding, &inv.prepaid, &inv.payable})
+        *v = -*v;
+    inv.dueDate = {};
+}
+
+} // namespace
+
+Mapping fromDocument(const Record &doc, const QList<Record *> &items, const Preferences &prefs)
+{
+    return Mapper(doc, items, prefs).run();
 }
 
 } // namespace tabo::einvoice

@@ -123,8 +123,9 @@ struct Mapping
     QStringList problems() const { return missing + refusals; }
 };
 
-// The document as an e-invoice, with the amounts it prints.
-Mapping fromDocument(const Record &document, const Preferences &prefs);
+// The document as an e-invoice, with the amounts it prints; `lines` are its
+// lines in the order the page prints them.
+Mapping fromDocument(const Record &document, const QList<Record *> &lines, const Preferences &prefs);
 
 // An electronic address as typed ("name@example.org", "0204:991-…",
 // "9930:DE123…") split into scheme and identifier.

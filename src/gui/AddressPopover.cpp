@@ -1,13 +1,13 @@
 #include "gui/AddressPopover.h"
 
 #include "app/AppController.h"
+#include "app/DocumentCommands.h"
 #include "app/Interaction.h"
 #include "domain/Contacts.h"
 #include "domain/Record.h"
 #include "gui/ContactsTab.h"
 #include "gui/PlainTextField.h"
 #include "prefs/Preferences.h"
-#include "store/Store.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -166,14 +166,7 @@ void AddressPopover::loadRememberedFile()
 void AddressPopover::fillRecent()
 {
     m_recent->clear();
-    Store *store = m_app.managedObjectContext();
-    if (!store)
-        return;
-    QList<Record *> entries = store->all(EntityId::Address);
-    std::sort(entries.begin(), entries.end(), [](const Record *a, const Record *b) {
-        return b->date(Address::date) < a->date(Address::date); // last used first
-    });
-    for (Record *entry : std::as_const(entries)) {
+    for (Record *entry : m_app.documents().addressBook()) {
         const QString address = entry->text(Address::address);
         auto *row = new QTreeWidgetItem(m_recent,
             { entry->text(Address::customerName), QString(address).replace(QLatin1Char('\n'), QStringLiteral(", ")) });
@@ -217,13 +210,14 @@ QWidget *AddressPopover::createEInvoicePage()
         tr("Country code:"), tr("Buyer reference:"), tr("E-invoice address:") };
     for (std::size_t i = 0; i < m_buyer.size(); ++i) {
         m_buyer[i] = new QLineEdit(page);
-        m_buyer[i]->setObjectName(QStringLiteral("popover_") + Contacts::kBuyerKeys[i]);
+        m_buyer[i]->setObjectName(QStringLiteral("popover_") + Buyer::kKeys[i]);
         form->addRow(labels[i], m_buyer[i]);
     }
-    m_buyer[4]->setMaxLength(2);
-    m_buyer[4]->setPlaceholderText(tr("DE, FR, AT…"));
-    m_buyer[5]->setPlaceholderText(tr("Leitweg-ID of a public authority"));
-    m_buyer[6]->setPlaceholderText(tr("e-mail or scheme:identifier"));
+    constexpr std::size_t country = 4, reference = 5, electronic = 6;
+    m_buyer[country]->setMaxLength(2);
+    m_buyer[country]->setPlaceholderText(tr("DE, FR, AT…"));
+    m_buyer[reference]->setPlaceholderText(tr("Leitweg-ID of a public authority"));
+    m_buyer[electronic]->setPlaceholderText(tr("e-mail or scheme:identifier"));
     auto *use = new QPushButton(tr("Use Address"), page);
     connect(use, &QPushButton::clicked, this, &AddressPopover::useAddress);
     form->addRow(QString(), use);
@@ -292,17 +286,13 @@ void AddressPopover::useRecent()
 void AddressPopover::useAddress()
 {
     Record *doc = m_app.currentInvoice();
-    Store *store = m_app.managedObjectContext();
-    if (!doc || !store) {
+    if (!doc) {
         hide();
         return;
     }
     // One address: the block typed or pasted fills the e-invoice parts, the
     // parts filled in compose the block.
-    AddressFields chosen = fields();
-    Contacts::completeAddress(chosen, Contacts::countryCode(m_app.prefs().string(P::prefsCountryCode)));
-    Contacts::selectAddress(*store, *doc, chosen, m_app.prefs().integer(P::clientNamePatternTag));
-    m_app.documentChanged(doc);
+    m_app.documents().useAddress(*doc, fields());
     hide();
     Q_EMIT addressUsed();
 }

@@ -159,7 +159,7 @@ Record *DesignPane::selectedDesign() const
 
 void DesignPane::reload()
 {
-    if (!m_app.managedObjectContext())
+    if (!m_app.store())
         return;
     const QList<Record *> designs = m_app.designs().designs();
     const int index = m_app.designs().selectedDesignIndex();
@@ -257,7 +257,7 @@ void DesignPane::livePdfReady(const QString &path)
 void DesignPane::save()
 {
     m_saveTimer.stop();
-    m_app.saveContext();
+    m_app.save();
 }
 
 void DesignPane::saveSelection()

@@ -25,7 +25,7 @@ DocumentTableModel::DocumentTableModel(AppController &app, QObject *parent)
     // The summary pass may turn sent invoices overdue, and a recalculation
     // changes totals: both show in rows that are already there.
     connect(&m_app, &AppController::summaryChanged, this, &DocumentTableModel::refreshFigures);
-    m_app.managedObjectContext();
+    m_app.store();
 }
 
 void DocumentTableModel::reload()
@@ -49,7 +49,7 @@ void DocumentTableModel::applySort()
     m_sorted.clear();
     if (m_sortColumn == DateColumn && m_sortOrder == Qt::DescendingOrder)
         return;
-    const QList<Record *> &rows = m_app.documentList().arranged();
+    const QList<Record *> &rows = m_app.documentList().shown();
     // Keys are made once per row: a comparison must stay cheap for a
     // hundred thousand rows.
     QCollator collator;
@@ -109,7 +109,7 @@ void DocumentTableModel::refreshFigures()
 
 int DocumentTableModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(m_app.documentList().arranged().size());
+    return parent.isValid() ? 0 : int(m_app.documentList().shown().size());
 }
 
 int DocumentTableModel::columnCount(const QModelIndex &parent) const
@@ -119,13 +119,13 @@ int DocumentTableModel::columnCount(const QModelIndex &parent) const
 
 Record *DocumentTableModel::recordAt(int row) const
 {
-    const auto &rows = m_sorted.isEmpty() ? m_app.documentList().arranged() : m_sorted;
+    const auto &rows = m_sorted.isEmpty() ? m_app.documentList().shown() : m_sorted;
     return row >= 0 && row < rows.size() ? rows.at(row) : nullptr;
 }
 
 int DocumentTableModel::rowOf(const Record *document) const
 {
-    const auto &rows = m_sorted.isEmpty() ? m_app.documentList().arranged() : m_sorted;
+    const auto &rows = m_sorted.isEmpty() ? m_app.documentList().shown() : m_sorted;
     return document ? int(rows.indexOf(document)) : -1;
 }
 

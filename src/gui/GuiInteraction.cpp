@@ -165,8 +165,8 @@ void GuiInteraction::presentError(const Error &error)
         return;
     }
     QMessageBox box(
-        QMessageBox::Critical, QGuiApplication::applicationDisplayName(), error.description, QMessageBox::Ok, m_parent);
-    box.setInformativeText(error.failureReason);
+        QMessageBox::Critical, QGuiApplication::applicationDisplayName(), error.text, QMessageBox::Ok, m_parent);
+    box.setInformativeText(error.detail);
     box.exec();
 }
 

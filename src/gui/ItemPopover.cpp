@@ -7,7 +7,6 @@
 #include "gui/Formats.h"
 #include "gui/HintLabel.h"
 #include "prefs/Preferences.h"
-#include "store/Store.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -160,15 +159,8 @@ void ItemPopover::prepare()
 void ItemPopover::fillCatalogue()
 {
     m_catalogue->clear();
-    Store *store = m_app.managedObjectContext();
-    if (!store)
-        return;
-    QList<Record *> entries = store->all(EntityId::RecentItem);
-    std::sort(entries.begin(), entries.end(), [](const Record *a, const Record *b) {
-        return a->text(RecentItem::title).localeAwareCompare(b->text(RecentItem::title)) < 0;
-    });
     const QString currency = m_app.prefs().string(P::prefsCurrency);
-    for (Record *entry : std::as_const(entries)) {
+    for (Record *entry : m_app.items().catalogue()) {
         auto *row = new QTreeWidgetItem(m_catalogue,
             { entry->text(RecentItem::title), entry->text(RecentItem::sku),
                 Formats::money(entry->num(RecentItem::baseAmount), currency) });

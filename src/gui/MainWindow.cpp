@@ -275,7 +275,7 @@ void MainWindow::newDocument(bool invoice)
 void MainWindow::selectNewestDocument()
 {
     // Opening on the latest document shows where the person left off.
-    const auto &shown = m_app.documentList().arranged();
+    const auto &shown = m_app.documentList().shown();
     if (!m_app.currentInvoice() && !shown.isEmpty())
         m_app.setCurrentInvoice(shown.first());
 }
@@ -426,11 +426,11 @@ void MainWindow::closeEvent(QCloseEvent *event)
     if (!m_quitDecided) {
         saveLayout();
         m_editor->commitPending();
-        if (m_app.applicationShouldTerminate() == AppController::TerminateReply::Cancel) {
+        if (m_app.askToQuit() == AppController::QuitReply::Cancel) {
             event->ignore();
             return;
         }
-        m_app.applicationWillTerminate();
+        m_app.quit();
         m_quitDecided = true;
     }
     event->accept();

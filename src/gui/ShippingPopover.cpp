@@ -6,7 +6,6 @@
 #include "gui/Formats.h"
 #include "gui/HintLabel.h"
 #include "prefs/Preferences.h"
-#include "store/Store.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -129,13 +128,7 @@ void ShippingPopover::prepare()
 void ShippingPopover::fillRemembered()
 {
     m_remembered->clear();
-    Store *store = m_app.managedObjectContext();
-    if (!store)
-        return;
-    QList<Record *> entries = store->all(EntityId::RecentShipping);
-    std::sort(entries.begin(), entries.end(), [](const Record *a, const Record *b) {
-        return a->text(RecentShipping::title).localeAwareCompare(b->text(RecentShipping::title)) < 0;
-    });
+    const QList<Record *> entries = m_app.items().rememberedShippings();
     const Record *doc = m_app.currentInvoice();
     const QString currency = doc ? doc->text(Invoice::currency) : QString();
     for (Record *entry : std::as_const(entries)) {

@@ -185,7 +185,7 @@ void TemplatePopover::deleteTemplate()
             { tr("Delete"), tr("Cancel") });
         if (answer == 0) {
             m_app.templates().deleteTemplate(chosen);
-            m_app.saveContext();
+            m_app.save();
             fillTemplates();
         }
     });

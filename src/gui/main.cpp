@@ -146,19 +146,19 @@ int main(int argc, char **argv)
         // Nothing is written over a damaged or held settings file; the kept
         // good copy can take its place.
         const bool kept = QFileInfo(settings->backupFilePath()).isFile();
-        QMessageBox box(QMessageBox::Critical, QStringLiteral("Error!"), refused.description);
+        QMessageBox box(QMessageBox::Critical, QStringLiteral("Error!"), refused.text);
         QPushButton *restore = kept ? box.addButton(QStringLiteral("Restore Last Good Settings"), QMessageBox::AcceptRole) : nullptr;
         box.addButton(QStringLiteral("Quit"), QMessageBox::RejectRole);
         box.exec();
         if (!restore || box.clickedButton() != restore)
             return 1;
         if (const Error e = settings->restoreBackup()) {
-            QMessageBox::critical(nullptr, QStringLiteral("Error!"), e.description);
+            QMessageBox::critical(nullptr, QStringLiteral("Error!"), e.text);
             return 1;
         }
         settings = std::make_unique<Preferences>();
         if (const Error e = settings->loadError()) {
-            QMessageBox::critical(nullptr, QStringLiteral("Error!"), e.description);
+            QMessageBox::critical(nullptr, QStringLiteral("Error!"), e.text);
             return 1;
         }
     }
@@ -172,9 +172,9 @@ int main(int argc, char **argv)
     // start-up steps mark the installation as started once.
     MainWindow window(controller);
     ui.setParentWidget(&window);
-    controller.awakeFromNib();
+    controller.prepare();
     window.show();
-    controller.applicationDidFinishLaunching();
+    controller.start();
     const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
                           || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue)
                           || parser.isSet(screenshotReport) || parser.isSet(screenshotReminder)
@@ -198,7 +198,7 @@ int main(int argc, char **argv)
 
     const QStringList files = parser.positionalArguments();
     for (const QString &file : files)
-        QTimer::singleShot(0, &controller, [&controller, file] { controller.applicationOpenFile(file); });
+        QTimer::singleShot(0, &controller, [&controller, file] { controller.openFileFromOutside(file); });
 
     if (parser.isSet(screenshotSearch))
         window.searchField()->setText(parser.value(screenshotSearch));

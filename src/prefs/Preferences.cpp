@@ -10,6 +10,9 @@
 #include <QStringDecoder>
 #include <QTemporaryDir>
 #include <QDebug>
+
+#include <algorithm>
+#include <iterator>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -647,6 +650,31 @@ int Preferences::completeFromLanguageDefaults()
     if (added)
         sync();
     return added;
+}
+
+void Preferences::removeRaw(const QString &name)
+{
+    m_settings->remove(name);
+}
+
+int Preferences::migrate()
+{
+    using Step = void (*)(Preferences &);
+    static const Step steps[] = {
+        // 1: cloud storage was never offered on Linux; its three flags only
+        // described another platform's store manager.
+        [](Preferences &p) {
+            for (const char *name : {"isiCloudAvailable", "ubiquityStoreManagerALLOWED", "USMCloudEnabledKey"})
+                p.removeRaw(QLatin1String(name));
+        },
+    };
+    constexpr int latest = int(std::size(steps));
+    const int done = int(std::clamp<qint64>(integer(settingsVersion), 0, latest));
+    for (int i = done; i < latest; ++i)
+        steps[i](*this);
+    if (done != latest || integer(settingsVersion) != latest)
+        setInteger(settingsVersion, latest);
+    return latest - done;
 }
 
 void Preferences::setRaw(const QString &name, const QVariant &value)

@@ -98,6 +98,12 @@ public:
     // carry more than the table).
     void setRaw(const QString &name, const QVariant &value);
     QVariant raw(const QString &name) const;
+    void removeRaw(const QString &name);
+
+    // Brings settings written by earlier versions up to this one, one
+    // numbered step at a time (`settingsVersion` counts them); a step never
+    // runs twice. Returns how many ran.
+    int migrate();
 
     // Removes the settings lock file at `lockPath` when no live process
     // holds it; true when it was removed.

@@ -8,6 +8,7 @@
 #include "render/Formatters.h"
 #include "render/PaymentQr.h"
 #include "render/Placeholders.h"
+#include "domain/TaxTables.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -21,6 +22,8 @@
 namespace tabo {
 
 namespace {
+
+using namespace taxes;
 
 using P = Preferences;
 
@@ -98,11 +101,6 @@ constexpr std::size_t kFirstHeading = 4;     // "%LOCSHORTNUMBER%"
 constexpr std::size_t kHeadingsEnd = 11;     // up to "%LOCQUANTITY%"
 static_assert(kRowLabels[kFirstHeading].key == P::locNo && kRowLabels[kHeadingsEnd - 1].key == P::locQuantity);
 
-constexpr P::Key kTaxCategory[3] = {P::tax1Category, P::tax2Category, P::tax3Category};
-constexpr P::Key kTaxReason[3] = {P::tax1ExemptionReason, P::tax2ExemptionReason, P::tax3ExemptionReason};
-constexpr int kItemApplied[3] = {Item::isTax1Applied, Item::isTax2Applied, Item::isTax3Applied};
-constexpr int kShippingTax[3] = {Invoice::isShippingTax1Enabled, Invoice::isShippingTax2Enabled,
-                                 Invoice::isShippingTax3Enabled};
 
 // What the law of each document language calls a reverse charge, and how it
 // names the one who owes the tax; by `languageDefaults`.

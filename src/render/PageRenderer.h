@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/PageSetup.h"
+
 #include <QList>
 #include <QString>
 
@@ -30,6 +32,18 @@ struct LetterMode
     bool onScreen = false;
     LetterTexts reminder;
     LetterTexts slip;
+};
+
+// One rendering of a document, decided in full before it starts; nothing of
+// it stays set anywhere between two renderings. The e-invoice of the same
+// document takes the same `lines`, so the PDF and its XML list them alike.
+struct RenderRequest
+{
+    const Record *document = nullptr;
+    const Record *design = nullptr;
+    LetterMode letter;
+    PageSetup page;
+    QList<Record *> lines; // in the order they print
 };
 
 // Fills a design's page and row templates with a document. Keeps no state

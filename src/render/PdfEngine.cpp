@@ -239,7 +239,7 @@ void PdfEngine::render(const QString &html, const PageSetup &setup, const QStrin
                        std::function<void(bool ok)> done)
 {
     if (const Error refused = ProtectedFiles::check(path)) {
-        qWarning().noquote() << refused.description;
+        qWarning().noquote() << refused.text;
         if (done)
             done(false);
         return;

@@ -31,7 +31,7 @@ Error PrintSystem::printFile(const QString &pdfPath, const PrintRequest &request
     lp.setArguments(lpArguments(pdfPath, request));
     lp.setStandardInputFile(QProcess::nullDevice());
     lp.start();
-    const auto fail = [](const QString &reason) { return Error{kPrintDomain, 1, reason, {}}; };
+    const auto fail = [](const QString &reason) { return Error{Error::Print, 1, reason, {}}; };
     if (!lp.waitForStarted())
         return fail(QStringLiteral("The print system could not be reached: the program \"lp\" was not found."));
     if (!lp.waitForFinished(LpTimeoutMs)) {

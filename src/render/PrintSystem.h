@@ -7,8 +7,6 @@
 
 namespace tabo {
 
-inline const QString kPrintDomain = QStringLiteral("TaboPrint");
-
 // What the print dialog settles: the job goes to `printer` (empty: the
 // system's default) with CUPS options such as "sides=two-sided-long-edge".
 struct PrintRequest

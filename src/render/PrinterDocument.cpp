@@ -260,7 +260,7 @@ const std::vector<PrinterPage> &PrinterDocument::pages()
 bool PrinterDocument::writePdf(const QString &path, const QString &title, const QMarginsF &margins)
 {
     if (const Error refused = ProtectedFiles::check(path)) {
-        qWarning().noquote() << refused.description;
+        qWarning().noquote() << refused.text;
         return false;
     }
     layout();

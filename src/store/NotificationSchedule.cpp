@@ -29,7 +29,7 @@ public:
     void bind(int i, qint64 v) { sqlite3_bind_int64(m_st, i, v); }
     Error error(const QString &what) const
     {
-        return Error{kStoreDomain, m_db ? sqlite3_errcode(m_db) : SQLITE_MISUSE, what,
+        return Error{Error::Store, m_db ? sqlite3_errcode(m_db) : SQLITE_MISUSE, what,
                      m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
     }
 
@@ -67,7 +67,7 @@ const QString kWriteFailed = QStringLiteral("The notification could not be saved
 Error NotificationSchedule::schedule(ScheduledNotification &n)
 {
     if (!n.date.isValid())
-        return Error{kStoreDomain, SQLITE_MISUSE, kWriteFailed, QStringLiteral("It has no date.")};
+        return Error{Error::Store, SQLITE_MISUSE, kWriteFailed, QStringLiteral("It has no date.")};
     return m_store.write([&n](sqlite3 *db) {
         Statement st(db, QStringLiteral("INSERT INTO \"%1\" (\"uniqueID\", \"title\", \"subtitle\", \"text\", \"date\", "
                                         "\"sound\") VALUES (?, ?, ?, ?, ?, ?)"));

@@ -152,7 +152,7 @@ bool writeFile(const QString &path, const QVariant &root, Format format, QString
     if (data.isEmpty())
         return false;
     if (const tabo::Error e = ProtectedFiles::writeAtomically(path, data)) {
-        setError(error, e.description);
+        setError(error, e.text);
         return false;
     }
     return true;

@@ -14,7 +14,7 @@ Error exec(sqlite3 *db, const QString &sql)
 {
     char *msg = nullptr;
     if (sqlite3_exec(db, sql.toUtf8().constData(), nullptr, nullptr, &msg) != SQLITE_OK) {
-        Error e{QStringLiteral("SQLite"), sqlite3_errcode(db),
+        Error e{Error::Store, sqlite3_errcode(db),
                 QString::fromUtf8(msg ? msg : "SQLite error"), sql};
         sqlite3_free(msg);
         return e;

@@ -122,7 +122,7 @@ Store::~Store()
 
 Error Store::damagedError() const
 {
-    return Error{kStoreDomain, SQLITE_CORRUPT,
+    return Error{Error::Store, SQLITE_CORRUPT,
                  QStringLiteral("The database file “%1” is damaged; nothing more is written to it.").arg(m_path),
                  QStringLiteral("Quit Tabo and keep the file for now. ") + kRecovery};
 }
@@ -133,14 +133,14 @@ Error Store::sqlError(const QString &what)
     if ((code & 0xff) == SQLITE_CORRUPT || (code & 0xff) == SQLITE_NOTADB) {
         m_damaged = true; // whatever comes next must not make it worse
         Error e = damagedError();
-        e.description = what + QLatin1Char(' ') + e.description;
+        e.text = what + QLatin1Char(' ') + e.text;
         return e;
     }
     if ((code & 0xff) == SQLITE_BUSY || (code & 0xff) == SQLITE_LOCKED)
-        return Error{kStoreDomain, code, what,
+        return Error{Error::Store, code, what,
                      QStringLiteral("Another program (another Tabo window or tabo-cli) has kept the database busy for "
                                     "10 seconds. Your changes are still here; try again in a moment.")};
-    return Error{kStoreDomain, code, what, m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
+    return Error{Error::Store, code, what, m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
 }
 
 Error Store::checkIntegrity()
@@ -167,23 +167,23 @@ Error Store::open()
     const QFileInfo info(m_path);
     const bool exists = info.exists();
     if (exists && !info.isFile())
-        return Error{kStoreDomain, SQLITE_CANTOPEN,
+        return Error{Error::Store, SQLITE_CANTOPEN,
                      QStringLiteral("The database “%1” is not a file.").arg(m_path), {}};
     bool empty = false;
     if (exists && !looksLikeSqlite(m_path, &empty))
-        return Error{kStoreDomain, SQLITE_NOTADB,
+        return Error{Error::Store, SQLITE_NOTADB,
                      QStringLiteral("The file “%1” is not a Tabo database.").arg(m_path),
                      QStringLiteral("It has been left as it is.")};
     // Only a missing file is a new installation; an empty one is what a full
     // disk or a failed copy leaves, and the data must come from a backup.
     if (exists && empty)
-        return Error{kStoreDomain, kEmptyFile,
+        return Error{Error::Store, kEmptyFile,
                      QStringLiteral("The database file “%1” is empty (0 bytes).").arg(m_path),
                      QStringLiteral("It has been left as it is. ") + kRecovery};
 
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (exists ? 0 : SQLITE_OPEN_CREATE);
     if (sqlite3_open_v2(m_path.toUtf8().constData(), &m_db, flags, nullptr) != SQLITE_OK) {
-        Error e{kStoreDomain, m_db ? sqlite3_errcode(m_db) : SQLITE_CANTOPEN,
+        Error e{Error::Store, m_db ? sqlite3_errcode(m_db) : SQLITE_CANTOPEN,
                 QStringLiteral("The database “%1” could not be opened.").arg(m_path),
                 m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
         sqlite3_close(m_db);
@@ -221,15 +221,15 @@ Error Store::open()
     if (version < 0)
         failure = sqlError(QStringLiteral("The database “%1” could not be read.").arg(m_path));
     else if (version == 0 && tables > 0)
-        failure = Error{kStoreDomain, SQLITE_NOTADB,
+        failure = Error{Error::Store, SQLITE_NOTADB,
                         QStringLiteral("The file “%1” is an SQLite database of another program, not a Tabo database.").arg(m_path),
                         QStringLiteral("It has been left as it is.")};
     else if (version > kSchemaVersion)
-        failure = Error{kStoreDomain, SQLITE_CANTOPEN,
+        failure = Error{Error::Store, SQLITE_CANTOPEN,
                         QStringLiteral("The database “%1” was written by a newer version of Tabo.").arg(m_path),
                         QStringLiteral("Please use that version; the file has been left as it is.")};
     else if (version > 0 && !haveInvoice)
-        failure = Error{kStoreDomain, SQLITE_CORRUPT,
+        failure = Error{Error::Store, SQLITE_CORRUPT,
                         QStringLiteral("The database “%1” is damaged: its document table is missing.").arg(m_path),
                         QStringLiteral("It has been left as it is.")};
     if (failure) {
@@ -258,7 +258,7 @@ Error Store::open()
         if (e) {
             sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
             close();
-            return Error{kStoreDomain, e.code,
+            return Error{Error::Store, e.code,
                          QStringLiteral("The database “%1” could not be updated.").arg(m_path), e.message()};
         }
         sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
@@ -928,7 +928,7 @@ Error Store::save(const std::function<void()> &inTransaction)
     if (m_dirty.isEmpty())
         return {};
     if (!m_db)
-        return Error{Error::kAppDomain, 9999, QStringLiteral("Failed to initialize the store"),
+        return Error{Error::Tabo, 9999, QStringLiteral("Failed to initialize the store"),
                      QStringLiteral("There was an error building up the data file.")};
     if (const Error e = checkIntegrity())
         return e;
@@ -936,7 +936,7 @@ Error Store::save(const std::function<void()> &inTransaction)
         return sqlError(QStringLiteral("The changes could not be saved."));
     const auto fail = [this](const Error &e) {
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
-        return Error{e.domain, e.code, QStringLiteral("The changes could not be saved."), e.message()};
+        return Error{e.source, e.code, QStringLiteral("The changes could not be saved."), e.message()};
     };
     refreshIfChanged();
     if (inTransaction)
@@ -953,7 +953,7 @@ Error Store::save(const std::function<void()> &inTransaction)
     }
     if (!m_conflicts.isEmpty()) {
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
-        return Error{kStoreDomain, kConflict, QStringLiteral("The changes could not be saved."),
+        return Error{Error::Store, kConflict, QStringLiteral("The changes could not be saved."),
                      QStringLiteral("Another program changed the same records after they were read here.")};
     }
     // The journal keeps what the slowest reader may still need; one that
@@ -989,7 +989,7 @@ Error Store::save(const std::function<void()> &inTransaction)
 Error Store::write(const std::function<Error(sqlite3 *)> &body)
 {
     if (!m_db)
-        return Error{kStoreDomain, SQLITE_MISUSE, QStringLiteral("No database is open."), {}};
+        return Error{Error::Store, SQLITE_MISUSE, QStringLiteral("No database is open."), {}};
     if (const Error e = checkIntegrity())
         return e;
     if (sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK)
@@ -1305,19 +1305,19 @@ Error Store::replaceContentFrom(const QString &source)
 {
     const QString what = QStringLiteral("The database could not be replaced.");
     if (!m_db)
-        return Error{kStoreDomain, SQLITE_MISUSE, what, QStringLiteral("No database is open.")};
+        return Error{Error::Store, SQLITE_MISUSE, what, QStringLiteral("No database is open.")};
     if (const Error e = checkIntegrity())
         return e;
     sqlite3 *src = nullptr;
     if (sqlite3_open_v2(QFile::encodeName(source).constData(), &src, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
-        const Error e{kStoreDomain, sqlite3_errcode(src), what, QString::fromUtf8(sqlite3_errmsg(src))};
+        const Error e{Error::Store, sqlite3_errcode(src), what, QString::fromUtf8(sqlite3_errmsg(src))};
         sqlite3_close(src);
         return e;
     }
     // A file in WAL mode only takes pages of its own size.
     if (firstText(src, "PRAGMA page_size") != firstText(m_db, "PRAGMA page_size")) {
         sqlite3_close(src);
-        return Error{kStoreDomain, SQLITE_MISMATCH, what,
+        return Error{Error::Store, SQLITE_MISMATCH, what,
                      QStringLiteral("The backup uses another page size than the database.")};
     }
     // A new generation tells every other process to read the store again
@@ -1326,7 +1326,7 @@ Error Store::replaceContentFrom(const QString &source)
                                  .arg(schema::kStoreTable)
                                  .toUtf8();
     if (sqlite3_exec(src, renew.constData(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-        const Error e{kStoreDomain, sqlite3_errcode(src), what, QString::fromUtf8(sqlite3_errmsg(src))};
+        const Error e{Error::Store, sqlite3_errcode(src), what, QString::fromUtf8(sqlite3_errmsg(src))};
         sqlite3_close(src);
         return e;
     }

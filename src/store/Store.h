@@ -20,9 +20,6 @@ namespace tabo {
 
 class Record;
 
-// The error domain of the store's own failures (conflicts, damage).
-inline const QString kStoreDomain = QStringLiteral("TaboStore");
-
 // The object store: one SQLite file in WAL mode, a table per entity. Records
 // are kept in an identity map; `all(Invoice)` is read at open (list columns
 // only, the remaining texts on first use), the other entities on first use,

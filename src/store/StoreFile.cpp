@@ -48,7 +48,7 @@ Error renameOver(const QString &from, const QString &to)
         return {};
     const Error e = Error::file(QStringLiteral("“%1” could not be renamed to “%2”: %3.")
                                     .arg(from, to, QString::fromLocal8Bit(std::strerror(errno))));
-    qWarning().noquote() << QStringLiteral("Unable to move temporary store: %1").arg(e.description);
+    qWarning().noquote() << QStringLiteral("Unable to move temporary store: %1").arg(e.text);
     return e;
 }
 
@@ -253,7 +253,7 @@ void StoreFile::recoverInterruptedRestore(const QString &storePath)
         removeStoreFiles(previous);
         return;
     }
-    qWarning().noquote() << QStringLiteral("An interrupted restore of “%1” is undone: %2").arg(storePath, problem.description);
+    qWarning().noquote() << QStringLiteral("An interrupted restore of “%1” is undone: %2").arg(storePath, problem.text);
     bringBackPrevious(storePath, true);
 }
 
@@ -384,7 +384,7 @@ Error StoreFile::writeCopy(Store &store, const QString &target)
     if (tempPath.isEmpty()) {
         const Error e = Error::file(
             QStringLiteral("“%1” could not be written: no free name for a working copy beside it.").arg(target));
-        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(e.description);
+        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(e.text);
         return e;
     }
     setPendingCopies(pendingCopies() << tempPath);
@@ -402,7 +402,7 @@ Error StoreFile::writeCopy(Store &store, const QString &target)
     if (rc != SQLITE_DONE) {
         const Error e = Error::file(QStringLiteral("“%1” could not be written: %2.")
                                         .arg(target, QString::fromUtf8(sqlite3_errmsg(store.handle()))));
-        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(e.description);
+        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(e.text);
         QFile::remove(tempPath);
         done();
         return e;
@@ -416,7 +416,7 @@ Error StoreFile::writeCopy(Store &store, const QString &target)
     if (::rename(tempName.constData(), QFile::encodeName(target).constData()) != 0) {
         const Error e = Error::file(
             QStringLiteral("“%1” could not be written: %2.").arg(target, QString::fromLocal8Bit(std::strerror(errno))));
-        qWarning().noquote() << QStringLiteral("Unable to acopyItemAtURL: %1").arg(e.description);
+        qWarning().noquote() << QStringLiteral("Unable to acopyItemAtURL: %1").arg(e.text);
         QFile::remove(tempPath);
         done();
         return e;

@@ -50,9 +50,9 @@ struct Fixture : test::WindowFixture
         prefs.setString(Preferences::tax1Title, QStringLiteral("VAT"));
         prefs.setString(Preferences::prefsCurrency, QStringLiteral("EUR"));
         window = std::make_unique<MainWindow>(app);
-        app.awakeFromNib();
+        app.prepare();
         window->show();
-        app.applicationDidFinishLaunching(); // switches beforeTaxesBool on
+        app.start(); // switches beforeTaxesBool on
     }
     template <class T> T *find(const QString &name) const { return window->findChild<T *>(name); }
     ItemsPage *items() const { return window->editor()->itemsPage(); }
@@ -343,7 +343,7 @@ void TestDocumentEditor::addressFromContactsAndRecents()
     QCOMPARE(f.find<QLineEdit>(QStringLiteral("popoverFirstName"))->text(), QStringLiteral("Grace"));
     f.find<QPushButton>(QStringLiteral("useAddressButton"))->click();
     QCOMPARE(f.app.currentInvoice()->text(Invoice::customerName), QStringLiteral("Grace Hopper"));
-    QCOMPARE(f.app.managedObjectContext()->count(EntityId::Address), 1);
+    QCOMPARE(f.app.store()->count(EntityId::Address), 1);
 }
 
 QTEST_MAIN(TestDocumentEditor)

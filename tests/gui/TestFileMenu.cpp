@@ -31,8 +31,8 @@ struct Fixture : test::WindowFixture
     Fixture()
     {
         window = std::make_unique<MainWindow>(app);
-        app.awakeFromNib();
-        app.applicationDidFinishLaunching();
+        app.prepare();
+        app.start();
     }
 
     // Set behind the editor's back: it must not hold the document meanwhile.

@@ -96,9 +96,9 @@ struct Fixture : test::WindowFixture
     void start()
     {
         window = std::make_unique<MainWindow>(app);
-        app.awakeFromNib();
+        app.prepare();
         window->show();
-        app.applicationDidFinishLaunching();
+        app.start();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
     }
     DocumentTableModel *model() const { return window->documentList()->model(); }
@@ -134,7 +134,7 @@ void TestMainWindow::dialogsAndTestHooks()
     QCOMPARE(ui.alert(QStringLiteral("Warning!"), QStringLiteral("Really?"),
                  { QStringLiteral("First"), QStringLiteral("Second"), QStringLiteral("Cancel") }),
         2);
-    ui.presentError(Error { Error::kAppDomain, 9999, QStringLiteral("Failed"), QStringLiteral("Because.") });
+    ui.presentError(Error { Error::Tabo, 9999, QStringLiteral("Failed"), QStringLiteral("Because.") });
     QCOMPARE(boxes.seen.size(), 2);
     QCOMPARE(boxes.seen[0].text, QStringLiteral("Warning!"));
     QCOMPARE(boxes.seen[0].informativeText, QStringLiteral("Really?"));
@@ -235,7 +235,7 @@ void TestMainWindow::newDocumentsAndFilter()
     table->horizontalHeader()->setSortIndicator(DocumentTableModel::Total, Qt::DescendingOrder);
     QCOMPARE(f.model()->recordAt(0), sent);
     table->horizontalHeader()->setSortIndicator(DocumentTableModel::DateColumn, Qt::DescendingOrder);
-    QCOMPARE(f.model()->recordAt(0), f.app.documentList().arranged().first());
+    QCOMPARE(f.model()->recordAt(0), f.app.documentList().shown().first());
 
     f.window->quitAction()->trigger();
     QVERIFY(!f.window->isVisible());
@@ -345,7 +345,7 @@ void TestMainWindow::pendingEditMeetsAChangeFromTheCommandLine()
     QTRY_COMPARE_WITH_TIMEOUT(doc->text(Invoice::notes), QStringLiteral("Second note"), 8000);
     Q_EMIT subject->editingFinished();
     QCOMPARE(GuiInteraction::lastAlertText(), asked);
-    QVERIFY(!f.app.saveContext());
+    QVERIFY(!f.app.save());
     QProcess show;
     show.start(QStringLiteral(TABO_CLI), {QStringLiteral("show"), id, QStringLiteral("--json")});
     QVERIFY(show.waitForFinished(30000));

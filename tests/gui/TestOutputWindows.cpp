@@ -50,8 +50,8 @@ struct Fixture : test::WindowFixture
         prefs.setBool(Preferences::isTabo2TemplateLoadingDone, true);
         window = std::make_unique<MainWindow>(app);
         ui.setParentWidget(window.get());
-        app.awakeFromNib();
-        app.applicationDidFinishLaunching();
+        app.prepare();
+        app.start();
         if (withDesigns)
             app.designs().loadTemplates();
         // A box nobody answers would hang the test: close it and say so.

@@ -46,7 +46,7 @@ struct Fixture : test::ControllerFixture
         prefs.setBool(P::isTabo2TemplateLoadingDone, true);
         prefs.setInteger(P::languageDefaults, 1);
         prefs.installLanguageDefaults();
-        app.managedObjectContext();
+        app.store();
         app.designs().loadTemplates();
         panel = std::make_unique<QVPreferencePanel>(app, nullptr);
         panel->showPanel();
@@ -296,7 +296,7 @@ void TestPreferencePanel::designButtons()
     list->setCurrentRow(2);
     f.panel->close();
     QCOMPARE(f.prefs.integer(P::selectedDesign), 2);
-    QVERIFY(!f.app.managedObjectContext()->hasChanges());
+    QVERIFY(!f.app.store()->hasChanges());
 }
 
 void TestPreferencePanel::livePreview()
@@ -345,7 +345,7 @@ void TestPreferencePanel::customPathBothAnswers()
     QVERIFY(custom->isChecked());
     QCOMPARE(f.prefs.string(P::customDatabasePath), folder);
     QCOMPARE(f.app.storeURL(), folder + u"/Tabo.mbdb"_s);
-    QCOMPARE(f.app.managedObjectContext()->count(EntityId::Invoice), 1);
+    QCOMPARE(f.app.store()->count(EntityId::Invoice), 1);
     QCOMPARE(f.field<QLineEdit>(u"storePath"_s)->text(), folder + u"/Tabo.mbdb"_s);
 
     // A folder that vanished: the move fails and both keys stay as they were.
