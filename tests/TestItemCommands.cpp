@@ -2,10 +2,14 @@
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
+#include "app/UndoHistory.h"
+#include "app/Workspace.h"
+#include "domain/Calculator.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
 
+#include <QUndoStack>
 #include <QtTest>
 
 using namespace tabo;
@@ -46,6 +50,7 @@ private Q_SLOTS:
     void deleteAndEditLines();
     void shippingAndDiscount();
     void sortOrders();
+    void worksWithoutTheController();
 };
 
 void TestItemCommands::newLinesAndCatalogue()
@@ -129,7 +134,7 @@ void TestItemCommands::taxesOfNewLines()
 
     // A tax no longer charged is not ticked; the first charged one is.
     f.prefs.setBool(P::tax1Enabled, false);
-    ItemCommands fresh(f.app);
+    ItemCommands fresh(f.app, f.app, f.app.undo(), f.prefs, f.ui);
     fields = fresh.newItemFields(); // the newest line of the document stands in
     QVERIFY(!fields.tax1 && !fields.tax2);
     f.items.addItem({QStringLiteral("Tea"), {}, {}, {}, {}, QStringLiteral("3"), QStringLiteral("1"), true, false, false},
@@ -247,4 +252,56 @@ void TestItemCommands::catalogueUpkeep()
 }
 
 QTEST_GUILESS_MAIN(TestItemCommands)
+// A store and a fake person are all a command needs.
+struct BareWorkspace : StoreAccess, CurrentDocument
+{
+    explicit BareWorkspace(const QString &path) : file(path) { QVERIFY(!file.open()); }
+    Store *store() override { return &file; }
+    Error save() override { return file.save(); }
+    Record *currentInvoice() const override { return current; }
+    void setCurrentInvoice(Record *document) override { current = document; }
+    void documentChanged(Record *document) override
+    {
+        Calculator::calculateInvoice(*document, {});
+        ++changes;
+        QVERIFY(!save());
+    }
+    Store file;
+    Record *current = nullptr;
+    int changes = 0;
+};
+
+void TestItemCommands::worksWithoutTheController()
+{
+    test::TempHome home;
+    const QString path = home.path() + QStringLiteral("/bare.mbdb");
+    {
+        BareWorkspace work(path);
+        test::FakeInteraction ui;
+        Preferences prefs(home.configFile());
+        UndoHistory undo(work, work);
+        ItemCommands items(work, work, undo, prefs, ui);
+        QString error;
+        QVERIFY(!items.addItem({QStringLiteral("Tea"), {}, {}, {}, {}, QStringLiteral("3"), QStringLiteral("2"), false,
+                                false, false},
+                               &error));
+        QVERIFY(!error.isEmpty()); // no document yet
+        work.current = work.file.insert(EntityId::Invoice);
+        Record *line = items.addItem({QStringLiteral("Tea"), {}, {}, {}, {}, QStringLiteral("3"), QStringLiteral("2"),
+                                      false, false, false},
+                                     &error);
+        QVERIFY2(line, qPrintable(error));
+        QCOMPARE(work.changes, 1);
+        QCOMPARE(work.current->num(Invoice::amount), 6.0);
+        QCOMPARE(items.catalogue().size(), 1);
+        undo.stack().undo();
+        QCOMPARE(work.current->toMany(Invoice::items).size(), 0);
+    }
+    // What the commands saved is in the file.
+    Store reopened(path);
+    QVERIFY(!reopened.open());
+    QCOMPARE(reopened.count(EntityId::RecentItem), 1);
+    QCOMPARE(reopened.all(EntityId::Invoice).value(0)->num(Invoice::amount), 0.0);
+}
+
 #include "TestItemCommands.moc"

@@ -1,8 +1,10 @@
 #include "app/AccountingExport.h"
 
-#include "app/AppController.h"
 #include "app/Interaction.h"
+#include "app/Workspace.h"
+#include "domain/DocumentList.h"
 #include "domain/Record.h"
+#include "prefs/Locations.h"
 #include "prefs/Preferences.h"
 #include "store/ObjectDictionary.h"
 #include "store/PropertyList.h"
@@ -71,15 +73,15 @@ QVariantMap summaryLine(const QVariantMap &invoice)
 
 void AccountingExport::sendToVorlux(int sendToTag)
 {
-    m_app.store();
+    m_store.store();
     QList<Record *> invoices;
-    for (Record *r : m_app.documentList().shown())
+    for (Record *r : m_list.shown())
         if (r->integer(Invoice::kind) == 1 && !r->isNull(Invoice::date))
             invoices.append(r);
     // The list is newest first: the range covers every invoice shown.
     if (!invoices.isEmpty()) {
-        m_app.prefs().setDate(P::prefsVorluxExportBeginDate, invoices.last()->date(Invoice::date));
-        m_app.prefs().setDate(P::prefsVorluxExportEndDate, invoices.first()->date(Invoice::date));
+        m_prefs.setDate(P::prefsVorluxExportBeginDate, invoices.last()->date(Invoice::date));
+        m_prefs.setDate(P::prefsVorluxExportEndDate, invoices.first()->date(Invoice::date));
     }
     doTheFilter();
     m_sendToTag = sendToTag;
@@ -92,7 +94,7 @@ QString AccountingExport::sheetLabel() const
 
 void AccountingExport::doTheFilter()
 {
-    Preferences &prefs = m_app.prefs();
+    Preferences &prefs = m_prefs;
     const Date begin = prefs.date(P::prefsVorluxExportBeginDate);
     const Date end = prefs.date(P::prefsVorluxExportEndDate);
     const qint64 kind = prefs.integer(P::prefsVorluxExportKind);
@@ -100,7 +102,7 @@ void AccountingExport::doTheFilter()
     if (begin.isValid() && end.isValid()) {
         const qint64 from = milliseconds(begin);
         const qint64 to = milliseconds(end);
-        for (Record *r : m_app.documentList().shown()) {
+        for (Record *r : m_list.shown()) {
             if (r->isNull(Invoice::date) || !matchesKind(*r, kind))
                 continue;
             const qint64 at = milliseconds(r->date(Invoice::date));
@@ -114,16 +116,16 @@ void AccountingExport::doTheFilter()
 QVariantList AccountingExport::entries() const
 {
     // Only documents still in the list: the selection may be older than the store.
-    const QList<Record *> &all = m_app.documentList().all();
+    const QList<Record *> &all = m_list.all();
     const QSet<Record *> live(all.cbegin(), all.cend());
     QList<Record *> selected;
     for (Record *r : m_selection)
         if (live.contains(r))
             selected.append(r);
-    if (Store *store = m_app.store())
+    if (Store *store = m_store.store())
         store->loadFully(selected);
 
-    const bool summary = m_app.prefs().integer(P::prefsVorluxExportItemsKind) == 0;
+    const bool summary = m_prefs.integer(P::prefsVorluxExportItemsKind) == 0;
     QVariantList list;
     list.reserve(selected.size());
     for (const Record *r : std::as_const(selected)) {
@@ -137,7 +139,7 @@ QVariantList AccountingExport::entries() const
 
 QString AccountingExport::exportFilePath() const
 {
-    return AppController::applicationFilesDirectory()
+    return Locations::dataFolder()
            + (m_sendToTag == 0 ? QStringLiteral("/quandrellaExport.vortabo") : QStringLiteral("/quandrellaExport.quandrtabo"));
 }
 
@@ -146,12 +148,12 @@ bool AccountingExport::closeVorluxSheet(bool open)
     const QString path = exportFilePath();
     QString error;
     if (!plist::writeFile(path, entries(), plist::Format::Xml, &error)) {
-        m_app.ui().alert(QStringLiteral("Error!"), QStringLiteral("Could not write Vorlux/quandrella export data."),
+        m_ui.alert(QStringLiteral("Error!"), QStringLiteral("Could not write Vorlux/quandrella export data."),
                          {QStringLiteral("OK")});
         return false;
     }
-    if (open && !m_app.ui().openWithDefaultApplication(path)) {
-        m_app.ui().alert(QStringLiteral("Error!"),
+    if (open && !m_ui.openWithDefaultApplication(path)) {
+        m_ui.alert(QStringLiteral("Error!"),
                          QStringLiteral("Vorlux/quandrella export file couldn't be opened. Please ensure that Vorlux "
                                         "or quandrella is installed on your Mac and running."),
                          {QStringLiteral("OK")});

@@ -6,7 +6,10 @@
 
 namespace tabo {
 
-class AppController;
+class DocumentList;
+class Interaction;
+class Preferences;
+class StoreAccess;
 class Record;
 
 // Invoice data for the two accounting programs: the sheet's selection by date
@@ -14,7 +17,13 @@ class Record;
 class AccountingExport
 {
 public:
-    explicit AccountingExport(AppController &app) : m_app(app) {}
+    AccountingExport(StoreAccess &store, const DocumentList &list, Preferences &prefs, Interaction &ui)
+        : m_store(store)
+        , m_list(list)
+        , m_prefs(prefs)
+        , m_ui(ui)
+    {
+    }
 
     // sendToVorlux: takes the list's invoices, sets the range preferences to
     // cover them, selects. `sendToTag` 0 Vorlux, other quandrella.
@@ -37,7 +46,10 @@ public:
     bool closeVorluxSheet(bool open = true);
 
 private:
-    AppController &m_app;
+    StoreAccess &m_store;
+    const DocumentList &m_list;
+    Preferences &m_prefs;
+    Interaction &m_ui;
     QList<Record *> m_selection;
     int m_sendToTag = 0;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Workspace.h"
 #include "base/Error.h"
 #include "domain/Calculator.h"
 #include "domain/DocumentList.h"
@@ -34,7 +35,7 @@ class Store;
 // The application controller: owns the store, the document list, the current
 // document and the summary figures, and runs every command. It never touches
 // a widget; whatever it needs from the person goes through Interaction.
-class AppController : public QObject
+class AppController : public QObject, public StoreAccess, public CurrentDocument
 {
     Q_OBJECT
 
@@ -58,14 +59,14 @@ public:
     // Opened on first use (the window asks for it as it fills its lists), so
     // that the first-start assistant and the upgrade prompt come first.
     // nullptr when there is none; the reason has been presented once.
-    Store *store();
+    Store *store() override;
     bool hasStore() const { return m_store != nullptr; }
     bool isTerminating() const { return m_terminating; }
 
     // Saves what changed; a failure is presented and returned. When another
     // program changed the same records meanwhile the person chooses between
     // their edit and the stored one.
-    Error save();
+    Error save() override;
     // Takes in what other programs committed to the store since we last
     // looked (the window calls it on activation and when idle).
     void syncWithStore();
@@ -162,8 +163,8 @@ public:
     void calculateInvoice(Record *invoice);
 
     // ---- Documents ----
-    Record *currentInvoice() const { return m_current; }
-    void setCurrentInvoice(Record *invoice);
+    Record *currentInvoice() const override { return m_current; }
+    void setCurrentInvoice(Record *invoice) override;
     Record *addInvoice();
     Record *addQuote();
     Date futureDateFromTodayWithDays(qint64 days) const;
@@ -202,7 +203,7 @@ public:
 
     // The change observer: after any edit of a document, recalculate it, run
     // the summary pass, keep the list in date order, save, and tell the views.
-    void documentChanged(Record *document);
+    void documentChanged(Record *document) override;
     // The editor's way to change a document: one attribute, then the change
     // observer; nothing happens when the value is already there.
     // False when the person kept the old value (a due date before the

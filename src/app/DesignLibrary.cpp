@@ -1,6 +1,6 @@
 #include "app/DesignLibrary.h"
 
-#include "app/AppController.h"
+#include "app/Workspace.h"
 #include "app/Interaction.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
@@ -49,14 +49,16 @@ Error fileError(int code, const QString &description, const QString &reason)
 
 } // namespace
 
-DesignLibrary::DesignLibrary(AppController &app)
-    : m_app(app)
+DesignLibrary::DesignLibrary(StoreAccess &store, Preferences &prefs, Interaction &ui)
+    : m_store(store)
+    , m_prefs(prefs)
+    , m_ui(ui)
 {
 }
 
 QList<Record *> DesignLibrary::designs() const
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store)
         return {};
     QList<Record *> list = store->all(EntityId::Design);
@@ -66,7 +68,7 @@ QList<Record *> DesignLibrary::designs() const
 
 Record *DesignLibrary::currentDesign() const
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store)
         return nullptr;
     // The store's list keeps no promised order; creation order is the id.
@@ -88,7 +90,7 @@ QStringList DesignLibrary::firstBuiltInNames()
 
 Record *DesignLibrary::createDesignFromResource(const QString &name)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store)
         return nullptr;
     const Result<QVariantMap> dictionary = readDesignFile(readResource(name + QLatin1Char('.') + kExtension));
@@ -102,13 +104,13 @@ Record *DesignLibrary::createDesignFromResource(const QString &name)
 
 void DesignLibrary::loadTemplates()
 {
-    if (!m_app.store())
+    if (!m_store.store())
         return;
     for (const QString &name : firstBuiltInNames()) {
         if (Record *design = createDesignFromResource(name))
             design->setBool(Design::isDefault, name == kFirstDefault);
     }
-    m_app.save();
+    m_store.save();
 }
 
 void DesignLibrary::loadTabo2Template()
@@ -120,12 +122,12 @@ void DesignLibrary::loadTabo2Template()
     // Other defaults stay: the earliest one keeps rendering until the person
     // chooses.
     design->setBool(Design::isDefault, true);
-    m_app.save();
+    m_store.save();
 }
 
 Record *DesignLibrary::addDesign()
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store)
         return nullptr;
     Record *design = store->insert(EntityId::Design);
@@ -135,7 +137,7 @@ Record *DesignLibrary::addDesign()
     design->setText(Design::item, defaultResourceText(QStringLiteral("Item")));
     design->setText(Design::css, defaultResourceText(QStringLiteral("CSS")));
     design->setBool(Design::isDefault, false);
-    m_app.save();
+    m_store.save();
     setSelectedDesignIndex(int(designs().indexOf(design)));
     return design;
 }
@@ -149,10 +151,10 @@ void DesignLibrary::setDesignText(Record *design, int attr, const QString &text)
 
 bool DesignLibrary::deleteDesign(Record *design)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store || !design || design->isDeleted())
         return false;
-    const int answer = m_app.ui().alert(
+    const int answer = m_ui.alert(
         QStringLiteral("Delete Design"),
         QStringLiteral("Deleting designs is permanent and cannot be undone. Do you really want to delete the selected design?"),
         {QStringLiteral("Delete"), QStringLiteral("Cancel")});
@@ -160,7 +162,7 @@ bool DesignLibrary::deleteDesign(Record *design)
         return false;
     const int index = int(designs().indexOf(design));
     store->remove(design);
-    m_app.save();
+    m_store.save();
     // The list selects the row that moved into the deleted one's place.
     const int remaining = int(designs().size());
     setSelectedDesignIndex(std::max(0, std::min(index, remaining - 1)));
@@ -174,31 +176,31 @@ void DesignLibrary::makeDefaultDesign(Record *design)
     for (Record *other : designs())
         other->setBool(Design::isDefault, false);
     design->setBool(Design::isDefault, true);
-    m_app.save();
+    m_store.save();
 }
 
 Record *DesignLibrary::importDesign()
 {
-    if (!m_app.store())
+    if (!m_store.store())
         return nullptr; // the missing store has been reported already
     Interaction::FileRequest request;
     request.title = QStringLiteral("Import Tabo Design");
     request.extensions = {kExtension};
     request.chooseFolders = false;
-    const QString path = m_app.ui().openFile(request);
+    const QString path = m_ui.openFile(request);
     if (path.isEmpty())
         return nullptr;
     QString reason;
     Record *design = importDesignFile(path, &reason);
     if (!design)
-        m_app.ui().presentError(fileError(
+        m_ui.presentError(fileError(
             259, QStringLiteral("The design “%1” could not be imported.").arg(QFileInfo(path).fileName()), reason));
     return design;
 }
 
 Record *DesignLibrary::importDesignFile(const QString &path, QString *error)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store) {
         if (error)
             *error = QStringLiteral("There is no store to import into.");
@@ -223,7 +225,7 @@ Record *DesignLibrary::importDesignFile(const QString &path, QString *error)
     design->setBool(Design::isDefault, false);
     // The same file imported twice gets a second ID, so an ID names one design.
     ensureOwnUniqueId(*design, Design::uniqueID, designs());
-    m_app.save();
+    m_store.save();
     setSelectedDesignIndex(int(designs().indexOf(design)));
     return design;
 }
@@ -238,14 +240,14 @@ bool DesignLibrary::exportDesign(const Record *design)
     request.canCreateFolders = true;
     // A slash in a title cannot be part of a file name.
     request.suggestedName = design->text(Design::title).replace(QLatin1Char('/'), QLatin1Char('-'));
-    QString path = m_app.ui().saveTarget(request);
+    QString path = m_ui.saveTarget(request);
     if (path.isEmpty())
         return false;
     if (!path.endsWith(QLatin1Char('.') + kExtension, Qt::CaseInsensitive))
         path += QLatin1Char('.') + kExtension;
     QString reason;
     if (!exportDesignFile(design, path, &reason)) {
-        m_app.ui().presentError(fileError(
+        m_ui.presentError(fileError(
             261, QStringLiteral("The design could not be exported to “%1”.").arg(QFileInfo(path).fileName()), reason));
         return false;
     }
@@ -275,7 +277,7 @@ bool DesignLibrary::exportDesignFile(const Record *design, const QString &path, 
 
 void DesignLibrary::setSelectedDesignIndex(int index)
 {
-    m_app.prefs().setInteger(P::selectedDesign, std::max(0, index));
+    m_prefs.setInteger(P::selectedDesign, std::max(0, index));
 }
 
 int DesignLibrary::selectedDesignIndex() const
@@ -283,7 +285,7 @@ int DesignLibrary::selectedDesignIndex() const
     const qsizetype count = designs().size();
     if (count == 0)
         return -1;
-    return int(std::clamp<qint64>(m_app.prefs().integer(P::selectedDesign), 0, count - 1));
+    return int(std::clamp<qint64>(m_prefs.integer(P::selectedDesign), 0, count - 1));
 }
 
 QString DesignLibrary::defaultResourceText(const QString &name)

@@ -7,7 +7,9 @@
 
 namespace tabo {
 
-class AppController;
+class Interaction;
+class Preferences;
+class StoreAccess;
 class Record;
 
 // The stored designs: the built-in ones installed on first start, added,
@@ -16,7 +18,7 @@ class Record;
 class DesignLibrary
 {
 public:
-    explicit DesignLibrary(AppController &app);
+    DesignLibrary(StoreAccess &store, Preferences &prefs, Interaction &ui);
 
     // Every design, sorted by title (case-insensitive), then by creation.
     QList<Record *> designs() const;
@@ -63,7 +65,9 @@ public:
     static QString defaultResourceText(const QString &name);
 
 private:
-    AppController &m_app;
+    StoreAccess &m_store;
+    Preferences &m_prefs;
+    Interaction &m_ui;
 };
 
 } // namespace tabo

@@ -1,6 +1,6 @@
 #include "app/ItemCommands.h"
 
-#include "app/AppController.h"
+#include "app/Workspace.h"
 #include "app/Interaction.h"
 #include "app/UndoHistory.h"
 #include "base/Clock.h"
@@ -105,7 +105,7 @@ Record *documentOf(const Record &item)
 
 bool ItemCommands::parseInRegion(const QString &text, double *value) const
 {
-    return parseNumber(text, value, QLocale(m_app.prefs().documentRegion()));
+    return parseNumber(text, value, QLocale(m_prefs.documentRegion()));
 }
 
 bool ItemCommands::parseNumber(const QString &text, double *value, const QLocale &region)
@@ -132,7 +132,7 @@ bool ItemCommands::parseNumber(const QString &text, double *value, const QLocale
 
 ItemFields ItemCommands::newItemFields() const
 {
-    const Preferences &prefs = m_app.prefs();
+    const Preferences &prefs = m_prefs;
     bool charged[3];
     for (int k = 0; k < 3; ++k)
         charged[k] = prefs.boolean(kTaxEnabled[k]);
@@ -145,7 +145,7 @@ ItemFields ItemCommands::newItemFields() const
     bool known = m_hasLastTaxes;
     if (known) {
         std::copy(std::begin(m_lastTaxes), std::end(m_lastTaxes), std::begin(last));
-    } else if (const Record *doc = m_app.currentInvoice()) {
+    } else if (const Record *doc = m_current.currentInvoice()) {
         const Record *newest = nullptr;
         for (const Record *item : doc->toMany(Invoice::items))
             if (!newest || !(item->date(Item::misc5) < newest->date(Item::misc5)))
@@ -177,7 +177,7 @@ ItemFields ItemCommands::newItemFields() const
 
 QList<Record *> ItemCommands::catalogue(const QString &search) const
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store)
         return {};
     QList<Record *> entries;
@@ -198,7 +198,7 @@ QList<Record *> ItemCommands::catalogue(const QString &search) const
 
 QList<Record *> ItemCommands::rememberedShippings() const
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store)
         return {};
     QList<Record *> entries = store->all(EntityId::RecentShipping);
@@ -209,7 +209,7 @@ QList<Record *> ItemCommands::rememberedShippings() const
 
 bool ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const QVariant &value, QString *error)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store || !entry || entry->isDeleted())
         return false;
     static const QStringList editable = {QStringLiteral("title"),         QStringLiteral("subtitle"),
@@ -241,18 +241,18 @@ bool ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const Q
     } else {
         entry->setText(attr, value.toString());
     }
-    m_app.save();
+    m_store.save();
     return true;
 }
 
 bool ItemCommands::deleteCatalogueEntries(const QList<Record *> &entries)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store || entries.isEmpty())
         return false;
     const QString what = entries.size() == 1 ? QStringLiteral("“%1”").arg(entries.first()->text(RecentItem::title))
                                              : QStringLiteral("%1 entries").arg(entries.size());
-    const int answer = m_app.ui().ask(
+    const int answer = m_ui.ask(
         QStringLiteral("Delete from Catalogue"),
         QStringLiteral("Delete %1 from the catalogue? Lines already written with %2 stay as they are.")
             .arg(what, entries.size() == 1 ? QStringLiteral("it") : QStringLiteral("them")),
@@ -261,14 +261,14 @@ bool ItemCommands::deleteCatalogueEntries(const QList<Record *> &entries)
         return false;
     for (Record *entry : entries)
         store->remove(entry);
-    m_app.save();
+    m_store.save();
     return true;
 }
 
 Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
 {
-    Record *doc = m_app.currentInvoice();
-    Store *store = m_app.store();
+    Record *doc = m_current.currentInvoice();
+    Store *store = m_store.store();
     if (!doc || !store) {
         setError(error, QStringLiteral("There is no document to add the line to."));
         return nullptr;
@@ -279,8 +279,8 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
         || !readField(*this, fields.quantity, QStringLiteral("quantity"), &quantity, error))
         return nullptr;
 
-    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Add Line"));
-    const Preferences &prefs = m_app.prefs();
+    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Add Line"));
+    const Preferences &prefs = m_prefs;
     Record *item = store->insert(EntityId::Item);
     item->setText(Item::uniqueID, newUniqueId());
     item->setText(Item::title, fields.title);
@@ -310,7 +310,7 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
     item->setBool(Item::misc4, false);
     item->setDate(Item::misc5, now());
     item->setToOne(Item::invoice, doc);
-    m_app.documentChanged(doc);
+    m_current.documentChanged(doc);
 
     // A catalogue grows with every new line; the price is compared first
     // because it is cheap and rarely equal.
@@ -337,13 +337,13 @@ Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
     // line's boxes: an entry is meant for any later document.
     for (int k = 0; k < 3; ++k)
         entry->setBool(kRecentApplied[k], prefs.boolean(kTaxEnabled[k]));
-    m_app.save();
+    m_store.save();
     return item;
 }
 
 ItemFields ItemCommands::addItemRecent(const Record &recentItem) const
 {
-    const Preferences &prefs = m_app.prefs();
+    const Preferences &prefs = m_prefs;
     ItemFields f;
     f.title = recentItem.text(RecentItem::title);
     f.subtitle = recentItem.text(RecentItem::subtitle);
@@ -364,14 +364,14 @@ ItemFields ItemCommands::addItemRecent(const Record &recentItem) const
 
 bool ItemCommands::deleteItem(Record *item)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!item || !store)
         return false;
     Record *doc = documentOf(*item);
     if (!doc)
-        doc = m_app.currentInvoice();
-    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Delete Line"));
-    Interaction &ui = m_app.ui();
+        doc = m_current.currentInvoice();
+    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Delete Line"));
+    Interaction &ui = m_ui;
     if (doc && doc->integer(Invoice::status) != 0) {
         ui.alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
         return false;
@@ -384,21 +384,21 @@ bool ItemCommands::deleteItem(Record *item)
         return false;
     store->remove(item);
     if (doc)
-        m_app.documentChanged(doc);
+        m_current.documentChanged(doc);
     else
-        m_app.save();
+        m_store.save();
     return true;
 }
 
 void ItemCommands::withdrawItem(Record *item)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!item || !store)
         return;
     Record *doc = documentOf(*item);
     store->remove(item);
     if (doc)
-        m_app.documentChanged(doc);
+        m_current.documentChanged(doc);
 }
 
 bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &value, QString *error)
@@ -416,12 +416,12 @@ bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &va
     // A sent invoice must not change silently, whichever way a line is touched.
     if (doc && doc->integer(Invoice::status) != 0) {
         // The alert is the message: *error stays empty so it is not shown twice.
-        m_app.ui().alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
+        m_ui.alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
         setError(error, QString());
         return false;
     }
     const AttrType type = item->desc().attributes[attr].type;
-    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Edit Line"));
+    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Edit Line"));
     const bool numeric = type == AttrType::Int || type == AttrType::Double || type == AttrType::Float;
     QVariant v = value;
     if (numeric && value.isValid() && !value.isNull()) {
@@ -443,21 +443,21 @@ bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &va
         return false;
     }
     if (doc)
-        m_app.documentChanged(doc);
+        m_current.documentChanged(doc);
     else
-        m_app.save();
+        m_store.save();
     return true;
 }
 
 bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *error)
 {
-    Record *doc = m_app.currentInvoice();
-    Store *store = m_app.store();
+    Record *doc = m_current.currentInvoice();
+    Store *store = m_store.store();
     if (!doc || !store) {
         setError(error, QStringLiteral("There is no document to add the shipping to."));
         return false;
     }
-    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Shipping"));
+    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Shipping"));
     double amount = 0;
     // A blank amount only matters when shipping is switched on.
     if ((fields.enabled || !fields.amount.trimmed().isEmpty())
@@ -472,7 +472,7 @@ bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *e
     const bool taxes[3] = {fields.tax1, fields.tax2, fields.tax3};
     for (int k = 0; k < 3; ++k)
         doc->setBool(kShippingTax[k], taxes[k]);
-    m_app.documentChanged(doc);
+    m_current.documentChanged(doc);
 
     for (const Record *entry : store->all(EntityId::RecentShipping))
         if (entry->text(RecentShipping::title) == fields.title && entry->num(RecentShipping::amount) == amount)
@@ -486,14 +486,14 @@ bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *e
     for (int k = 0; k < 3; ++k)
         entry->setBool(kRecentShippingTax[k], taxes[k]);
     entry->setNum(RecentShipping::amount, amount);
-    m_app.save();
+    m_store.save();
     return true;
 }
 
 ShippingFields ItemCommands::shippingFields() const
 {
     ShippingFields f;
-    const Record *doc = m_app.currentInvoice();
+    const Record *doc = m_current.currentInvoice();
     if (!doc)
         return f;
     f.enabled = doc->boolean(Invoice::isShippingEnabled);
@@ -509,10 +509,10 @@ ShippingFields ItemCommands::shippingFields() const
 
 void ItemCommands::selectRecentShipping(const Record &recentShipping)
 {
-    Record *doc = m_app.currentInvoice();
+    Record *doc = m_current.currentInvoice();
     if (!doc)
         return;
-    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Shipping"));
+    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Shipping"));
     doc->setText(Invoice::shippingTitle, recentShipping.text(RecentShipping::title));
     doc->setText(Invoice::shippingSubtitle, recentShipping.text(RecentShipping::subtitle));
     doc->setBool(Invoice::hasShippingSubtitle, recentShipping.boolean(RecentShipping::hasSubtitle));
@@ -520,17 +520,17 @@ void ItemCommands::selectRecentShipping(const Record &recentShipping)
         doc->setBool(kShippingTax[k], recentShipping.boolean(kRecentShippingTax[k]));
     doc->setNum(Invoice::shippingAmount, recentShipping.num(RecentShipping::amount));
     doc->setBool(Invoice::isShippingEnabled, true);
-    m_app.documentChanged(doc);
+    m_current.documentChanged(doc);
 }
 
 bool ItemCommands::closeDiscountPopover(const DiscountFields &fields, QString *error)
 {
-    Record *doc = m_app.currentInvoice();
+    Record *doc = m_current.currentInvoice();
     if (!doc) {
         setError(error, QStringLiteral("There is no document to add the discount to."));
         return false;
     }
-    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Discount"));
+    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Discount"));
     // Only the field the kind selects must be filled in; a blank other one is 0.
     const bool fixed = fields.kind == 0;
     const bool needed = fields.enabled;
@@ -550,14 +550,14 @@ bool ItemCommands::closeDiscountPopover(const DiscountFields &fields, QString *e
     doc->setText(Invoice::discountTitle, fields.title);
     doc->setText(Invoice::discountSubtitle, fields.subtitle);
     doc->setBool(Invoice::hasDiscountSubtitle, fields.hasSubtitle);
-    m_app.documentChanged(doc);
+    m_current.documentChanged(doc);
     return true;
 }
 
 DiscountFields ItemCommands::discountFields() const
 {
     DiscountFields f;
-    const Record *doc = m_app.currentInvoice();
+    const Record *doc = m_current.currentInvoice();
     if (!doc)
         return f;
     f.enabled = doc->boolean(Invoice::isDiscountEnabled);
@@ -573,7 +573,7 @@ DiscountFields ItemCommands::discountFields() const
 
 QList<Record *> ItemCommands::sortedItems(const Record &document) const
 {
-    return orderedLines(document, m_app.prefs().integer(P::itemSortOrder));
+    return orderedLines(document, m_prefs.integer(P::itemSortOrder));
 }
 
 } // namespace tabo

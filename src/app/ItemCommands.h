@@ -6,7 +6,11 @@
 
 namespace tabo {
 
-class AppController;
+class CurrentDocument;
+class Interaction;
+class Preferences;
+class StoreAccess;
+class UndoHistory;
 class Record;
 
 // The item popover's fields. Price and quantity are the texts as typed; they
@@ -58,7 +62,15 @@ struct DiscountFields
 class ItemCommands
 {
 public:
-    explicit ItemCommands(AppController &app) : m_app(app) {}
+    ItemCommands(StoreAccess &store, CurrentDocument &current, UndoHistory &undo, Preferences &prefs,
+                 Interaction &ui)
+        : m_store(store)
+        , m_current(current)
+        , m_undo(undo)
+        , m_prefs(prefs)
+        , m_ui(ui)
+    {
+    }
 
     // addItem: a new line from the popover; nullptr with *error set (and the
     // document unchanged) when price or quantity is not a number, or when
@@ -112,7 +124,11 @@ public:
     bool parseInRegion(const QString &text, double *value) const;
 
 private:
-    AppController &m_app;
+    StoreAccess &m_store;
+    CurrentDocument &m_current;
+    UndoHistory &m_undo;
+    Preferences &m_prefs;
+    Interaction &m_ui;
     bool m_hasLastTaxes = false;
     bool m_lastTaxes[3] = {false, false, false};
 };

@@ -1,6 +1,6 @@
 #include "app/TemplateCommands.h"
 
-#include "app/AppController.h"
+#include "app/Workspace.h"
 #include "app/Interaction.h"
 #include "app/UndoHistory.h"
 #include "base/Clock.h"
@@ -47,11 +47,11 @@ void resetReserved(Record &r)
 
 Record *TemplateCommands::createNewTemplate(const QString &name, const QString &notes)
 {
-    const Record *doc = m_app.currentInvoice();
-    Store *store = m_app.store();
+    const Record *doc = m_current.currentInvoice();
+    Store *store = m_store.store();
     if (!doc || !store)
         return nullptr;
-    const Preferences &prefs = m_app.prefs();
+    const Preferences &prefs = m_prefs;
     Record *tmpl = store->insert(EntityId::Template);
     tmpl->setText(Invoice::uniqueID, name);
     tmpl->setText(Invoice::notes, notes);
@@ -115,25 +115,25 @@ Record *TemplateCommands::createNewTemplate(const QString &name, const QString &
                     Invoice::tax1Amount, Invoice::tax2Amount, Invoice::tax3Amount, Invoice::tax1Percent,
                     Invoice::tax2Percent, Invoice::tax3Percent, Invoice::miscString1, Invoice::miscString2,
                     Invoice::miscString3});
-    m_app.save();
+    m_store.save();
     return tmpl;
 }
 
 bool TemplateCommands::selectTemplate(Record *templateRecord)
 {
-    Record *doc = m_app.currentInvoice();
-    Store *store = m_app.store();
+    Record *doc = m_current.currentInvoice();
+    Store *store = m_store.store();
     if (!doc || !templateRecord || !store)
         return false;
     if (doc->integer(Invoice::status) != 0) {
-        m_app.ui().alert(QStringLiteral("Error!"),
+        m_ui.alert(QStringLiteral("Error!"),
                          QStringLiteral("The selected invoice is marked as already sent. If you really need to make "
                                         "changes, please set its status back to 'Created' first. Then you will also "
                                         "be able to resend the modified invoice."),
                          {QStringLiteral("OK")});
         return false;
     }
-    const UndoHistory::Step step(m_app.undo(), doc, QStringLiteral("Template"));
+    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Template"));
 
     const QList<Record *> oldLines = doc->toMany(Invoice::items);
     for (Record *line : oldLines)
@@ -156,22 +156,22 @@ bool TemplateCommands::selectTemplate(Record *templateRecord)
                     Invoice::tax2Kind, Invoice::tax3Kind, Invoice::amount, Invoice::subAmount, Invoice::paidAmount,
                     Invoice::dueAmount, Invoice::tax1Amount, Invoice::tax2Amount, Invoice::tax3Amount,
                     Invoice::tax1Percent, Invoice::tax2Percent, Invoice::tax3Percent});
-    m_app.documentChanged(doc);
+    m_current.documentChanged(doc);
     return true;
 }
 
 void TemplateCommands::deleteTemplate(Record *templateRecord)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!templateRecord || !store)
         return;
     store->remove(templateRecord);
-    m_app.save();
+    m_store.save();
 }
 
 QList<Record *> TemplateCommands::templates() const
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store)
         return {};
     QList<Record *> list = store->all(EntityId::Template);

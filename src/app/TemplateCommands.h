@@ -5,7 +5,11 @@
 
 namespace tabo {
 
-class AppController;
+class CurrentDocument;
+class Interaction;
+class Preferences;
+class StoreAccess;
+class UndoHistory;
 class Record;
 
 // Saved invoice templates: a reusable copy of chosen groups of a document's
@@ -14,7 +18,15 @@ class Record;
 class TemplateCommands
 {
 public:
-    explicit TemplateCommands(AppController &app) : m_app(app) {}
+    TemplateCommands(StoreAccess &store, CurrentDocument &current, UndoHistory &undo, Preferences &prefs,
+                     Interaction &ui)
+        : m_store(store)
+        , m_current(current)
+        , m_undo(undo)
+        , m_prefs(prefs)
+        , m_ui(ui)
+    {
+    }
 
     // createNewTemplate: saves the current document as a template, taking the
     // groups the `templateInclude...` preferences switch on. nullptr without a
@@ -29,7 +41,11 @@ public:
     Record *findTemplate(const QString &name) const;
 
 private:
-    AppController &m_app;
+    StoreAccess &m_store;
+    CurrentDocument &m_current;
+    UndoHistory &m_undo;
+    Preferences &m_prefs;
+    Interaction &m_ui;
 };
 
 } // namespace tabo

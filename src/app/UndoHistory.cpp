@@ -1,6 +1,6 @@
 #include "app/UndoHistory.h"
 
-#include "app/AppController.h"
+#include "app/Workspace.h"
 #include "domain/Record.h"
 #include "store/Store.h"
 
@@ -10,6 +10,8 @@
 #include <QUndoStack>
 #include <QVariant>
 #include <QVector>
+
+#include <algorithm>
 
 namespace tabo {
 
@@ -85,8 +87,9 @@ void writeValues(Record &record, const QVector<QVariant> &values)
 
 } // namespace
 
-UndoHistory::UndoHistory(AppController &app)
-    : m_app(app)
+UndoHistory::UndoHistory(StoreAccess &store, CurrentDocument &current)
+    : m_store(store)
+    , m_current(current)
     , m_stack(std::make_unique<QUndoStack>())
 {
     m_stack->setUndoLimit(kUndoLimit);
@@ -111,8 +114,14 @@ UndoHistory::Snapshot UndoHistory::snapshot(const Record &document) const
 
 void UndoHistory::restore(const Snapshot &snapshot)
 {
-    Store *store = m_app.store();
-    Record *doc = store ? m_app.findDocument(snapshot.uniqueID) : nullptr;
+    Store *store = m_store.store();
+    if (!store)
+        return;
+    const QList<Record *> documents = store->all(EntityId::Invoice);
+    const auto found = std::find_if(documents.cbegin(), documents.cend(), [&](const Record *r) {
+        return r->text(Invoice::uniqueID) == snapshot.uniqueID;
+    });
+    Record *doc = found == documents.cend() ? nullptr : *found;
     if (!doc || doc->isDeleted())
         return;
     m_restoring = true;
@@ -134,8 +143,8 @@ void UndoHistory::restore(const Snapshot &snapshot)
     for (auto it = current.cbegin(); it != current.cend(); ++it)
         if (!kept.contains(it.key()))
             store->remove(it.value());
-    m_app.setCurrentInvoice(doc);
-    m_app.documentChanged(doc);
+    m_current.setCurrentInvoice(doc);
+    m_current.documentChanged(doc);
     m_restoring = false;
 }
 

@@ -8,8 +8,9 @@ class QUndoStack;
 
 namespace tabo {
 
-class AppController;
+class CurrentDocument;
 class Record;
+class StoreAccess;
 
 // One undo stack for every change the window makes to a document: fields,
 // lines, shipping, discount, an applied template, the status. A step keeps the
@@ -20,7 +21,7 @@ class Record;
 class UndoHistory
 {
 public:
-    explicit UndoHistory(AppController &app);
+    UndoHistory(StoreAccess &store, CurrentDocument &current);
     ~UndoHistory();
 
     QUndoStack &stack() { return *m_stack; }
@@ -50,7 +51,8 @@ private:
     Snapshot snapshot(const Record &document) const;
     void restore(const Snapshot &snapshot);
 
-    AppController &m_app;
+    StoreAccess &m_store;
+    CurrentDocument &m_current;
     std::unique_ptr<QUndoStack> m_stack;
     int m_depth = 0;
     bool m_restoring = false;
