@@ -258,6 +258,7 @@ struct BareWorkspace : StoreAccess, CurrentDocument
     explicit BareWorkspace(const QString &path) : file(path) { QVERIFY(!file.open()); }
     Store *store() override { return &file; }
     Error save() override { return file.save(); }
+    void syncWithStore() override {}
     Record *currentInvoice() const override { return current; }
     void setCurrentInvoice(Record *document) override { current = document; }
     void documentChanged(Record *document) override
@@ -266,6 +267,7 @@ struct BareWorkspace : StoreAccess, CurrentDocument
         ++changes;
         QVERIFY(!save());
     }
+    void documentCreated(Record *document) override { current = document; }
     Store file;
     Record *current = nullptr;
     int changes = 0;

@@ -51,7 +51,7 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_documents(std::make_unique<DocumentCommands>(*this))
     , m_items(std::make_unique<ItemCommands>(*this, *this, *m_undo, prefs, ui))
     , m_templates(std::make_unique<TemplateCommands>(*this, *this, *m_undo, prefs, ui))
-    , m_files(std::make_unique<FileCommands>(*this))
+    , m_files(std::make_unique<FileCommands>(*this, *this, m_list, prefs, ui))
     , m_backups(std::make_unique<BackupCommands>(*this))
     , m_accounting(std::make_unique<AccountingExport>(*this, m_list, prefs, ui))
     , m_designs(std::make_unique<DesignLibrary>(*this, prefs, ui))

@@ -69,7 +69,7 @@ public:
     Error save() override;
     // Takes in what other programs committed to the store since we last
     // looked (the window calls it on activation and when idle).
-    void syncWithStore();
+    void syncWithStore() override;
     void saveAction();
 
     // Start-up, in this order. The first runs once the main window exists:
@@ -232,7 +232,7 @@ public:
     void documentRemoved(Record *document);
     // Adds a created document to the list, resets the filter tag and selects
     // it (the creating commands' common ending).
-    void documentCreated(Record *document);
+    void documentCreated(Record *document) override;
 
 Q_SIGNALS:
     void storeOpened();

@@ -1,8 +1,8 @@
 #include "app/FileCommands.h"
 
-
-#include "app/AppController.h"
 #include "app/Interaction.h"
+#include "app/Workspace.h"
+#include "domain/DocumentList.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
 #include "prefs/Preferences.h"
@@ -67,7 +67,7 @@ QVariantList dictionaries(Store &store, const QList<Record *> &records)
 
 bool FileCommands::exportInvoice(int exportFormat)
 {
-    const Record *invoice = m_app.currentInvoice();
+    const Record *invoice = m_current.currentInvoice();
     if (!invoice || (exportFormat != 0 && exportFormat != 1))
         return false;
     Interaction::FileRequest request;
@@ -75,11 +75,11 @@ bool FileCommands::exportInvoice(int exportFormat)
     request.extensions = {exportFormat == 0 ? QStringLiteral("tabo") : QStringLiteral("xml")};
     // A slash cannot stand in a file name here; numbers such as "2026/17" are common.
     request.suggestedName = QStringLiteral("%1 | %2 | %3")
-                                .arg(m_app.prefs().string(P::prefsName), invoice->text(Invoice::title),
+                                .arg(m_prefs.string(P::prefsName), invoice->text(Invoice::title),
                                      invoice->text(Invoice::number))
                                 .replace(QLatin1Char('/'), QLatin1Char('-'));
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveTarget(request);
+    const QString path = m_ui.saveTarget(request);
     if (path.isEmpty())
         return false;
     return writeInvoiceFile(*invoice, exportFormat, path, nullptr);
@@ -103,7 +103,7 @@ bool FileCommands::exportItems()
     request.title = kDatabaseTitle;
     request.extensions = {QStringLiteral("xml")};
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveTarget(request);
+    const QString path = m_ui.saveTarget(request);
     return !path.isEmpty() && writeItemsXml(true, path, nullptr);
 }
 
@@ -114,37 +114,37 @@ bool FileCommands::exportTaboDataXML()
     request.extensions = {QStringLiteral("xml")};
     request.suggestedName = QStringLiteral("Tabo Database");
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveTarget(request);
+    const QString path = m_ui.saveTarget(request);
     return !path.isEmpty() && writeItemsXml(false, path, nullptr);
 }
 
 bool FileCommands::exportAsInvoiceFile()
 {
-    m_app.save();
+    m_store.save();
     Interaction::FileRequest request;
     request.title = QStringLiteral("Export As Invoices Dump");
     request.extensions = {QStringLiteral("invdump")};
     request.suggestedName = QStringLiteral("Invoices Dump");
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveTarget(request);
+    const QString path = m_ui.saveTarget(request);
     return !path.isEmpty() && writeInvoiceDump(path, nullptr);
 }
 
 bool FileCommands::writeItemsXml(bool arrangedOnly, const QString &path, QString *error)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store) {
         if (error)
             *error = QStringLiteral("There is no database.");
         return false;
     }
-    const QList<Record *> &records = arrangedOnly ? m_app.documentList().shown() : store->all(EntityId::Invoice);
+    const QList<Record *> &records = arrangedOnly ? m_list.shown() : store->all(EntityId::Invoice);
     return plist::writeFile(path, dictionaries(*store, records), plist::Format::Xml, error);
 }
 
 bool FileCommands::writeInvoiceDump(const QString &path, QString *error)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store) {
         if (error)
             *error = QStringLiteral("There is no database.");
@@ -163,7 +163,7 @@ bool FileCommands::writeInvoiceDump(const QString &path, QString *error)
 
 Record *FileCommands::importInvoice()
 {
-    Interaction &ui = m_app.ui();
+    Interaction &ui = m_ui;
     const int answer = ui.alert(
         QStringLiteral("Warning!"),
         QStringLiteral("The integrity of your data is your responsibility, and yours alone. Tabo is just a stupid App "
@@ -180,7 +180,7 @@ Record *FileCommands::importInvoice()
     if (path.isEmpty())
         return nullptr;
     Record *invoice = importInvoiceFile(path, nullptr);
-    if (!invoice && m_app.store())
+    if (!invoice && m_store.store())
         ui.alert(QStringLiteral("Error!"),
                  QStringLiteral("The file “%1” is not a Tabo document.").arg(QFileInfo(path).fileName()),
                  {QStringLiteral("OK")});
@@ -189,7 +189,7 @@ Record *FileCommands::importInvoice()
 
 Record *FileCommands::importInvoiceFile(const QString &path, QString *error)
 {
-    Store *store = m_app.store();
+    Store *store = m_store.store();
     if (!store) {
         if (error)
             *error = QStringLiteral("There is no database.");
@@ -209,11 +209,11 @@ Record *FileCommands::importInvoiceFile(const QString &path, QString *error)
     }
     QVariantMap &dictionary = archived.value();
     dictionary.insert(OD::kClassKey, QStringLiteral("Invoice"));
-    m_app.syncWithStore();
+    m_store.syncWithStore();
     Record *invoice = OD::createManagedObjectFromDictionary(dictionary, *store);
     // Importing the same file twice must not make one ID name two documents.
-    ensureOwnUniqueId(*invoice, Invoice::uniqueID, m_app.documentList().all());
-    m_app.documentCreated(invoice);
+    ensureOwnUniqueId(*invoice, Invoice::uniqueID, m_list.all());
+    m_current.documentCreated(invoice);
     return invoice;
 }
 

@@ -5,7 +5,11 @@
 
 namespace tabo {
 
-class AppController;
+class CurrentDocument;
+class DocumentList;
+class Interaction;
+class Preferences;
+class StoreAccess;
 class Record;
 
 // Single documents, collections and dumps written from and read into the
@@ -14,7 +18,15 @@ class Record;
 class FileCommands
 {
 public:
-    explicit FileCommands(AppController &app) : m_app(app) {}
+    FileCommands(StoreAccess &store, CurrentDocument &current, const DocumentList &list, Preferences &prefs,
+                 Interaction &ui)
+        : m_store(store)
+        , m_current(current)
+        , m_list(list)
+        , m_prefs(prefs)
+        , m_ui(ui)
+    {
+    }
 
     // The export sheet's document export (kind 3) by `exportFormat`: 0 a
     // keyed archive "tabo" {"taboDic": …}, 1 an XML property list "xml", any
@@ -36,7 +48,11 @@ public:
     Record *importInvoiceFile(const QString &path, QString *error);
 
 private:
-    AppController &m_app;
+    StoreAccess &m_store;
+    CurrentDocument &m_current;
+    const DocumentList &m_list;
+    Preferences &m_prefs;
+    Interaction &m_ui;
 };
 
 } // namespace tabo

@@ -19,6 +19,8 @@ public:
     // Saves what changed; when another program changed the same records the
     // person chooses, so a failure has been shown when this returns one.
     virtual Error save() = 0;
+    // Takes in what other programs committed to the store meanwhile.
+    virtual void syncWithStore() = 0;
 };
 
 // The document the window works on, and the change observer every edit of a
@@ -30,6 +32,8 @@ public:
     virtual Record *currentInvoice() const = 0;
     virtual void setCurrentInvoice(Record *document) = 0;
     virtual void documentChanged(Record *document) = 0;
+    // A document a command made: into the list, the filter reset, selected.
+    virtual void documentCreated(Record *document) = 0;
 };
 
 } // namespace tabo
