@@ -546,11 +546,10 @@ void TestEInvoice::facturXCarriesTheXml()
     }
     const QByteArray xml = QByteArrayLiteral("<?xml version=\"1.0\"?><rsm:CrossIndustryInvoice "
                                              "xmlns:rsm=\"urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100\"/>");
-    QString error;
-    const QByteArray hybrid = einvoice::makeFacturX(
-        printed, xml, {QStringLiteral("Rechnung RE-7"), QStringLiteral("Müller & Söhne"), QDateTime::currentDateTime()},
-        &error);
-    QVERIFY2(!hybrid.isEmpty(), qPrintable(error));
+    const Result<QByteArray> made = einvoice::makeFacturX(
+        printed, xml, {QStringLiteral("Rechnung RE-7"), QStringLiteral("Müller & Söhne"), QDateTime::currentDateTime()});
+    QVERIFY2(made, qPrintable(made.error().text));
+    const QByteArray &hybrid = made.value();
     QPDF doc;
     doc.processMemoryFile("hybrid", hybrid.constData(), size_t(hybrid.size()));
     QVERIFY(doc.getPDFVersion() >= "1.7");
@@ -585,8 +584,9 @@ void TestEInvoice::facturXCarriesTheXml()
         QCOMPARE(check.exitCode(), 0);
     }
     // Not a PDF: said, nothing made.
-    QVERIFY(einvoice::makeFacturX(QByteArrayLiteral("%PDF-1.4 nonsense"), xml, {}, &error).isEmpty());
-    QVERIFY(error.startsWith(QStringLiteral("The printed invoice could not be made a Factur-X PDF")));
+    const Result<QByteArray> refused = einvoice::makeFacturX(QByteArrayLiteral("%PDF-1.4 nonsense"), xml, {});
+    QVERIFY(!refused && refused.value().isEmpty());
+    QVERIFY(refused.error().text.startsWith(QStringLiteral("The printed invoice could not be made a Factur-X PDF")));
 }
 
 void TestEInvoice::readsReceivedInvoices()
@@ -597,9 +597,9 @@ void TestEInvoice::readsReceivedInvoices()
                          QDirIterator::Subdirectories);
          it.hasNext();) {
         const QString path = it.next();
-        einvoice::Received r;
-        QString error;
-        QVERIFY2(einvoice::readReceivedFile(path, &r, &error), qPrintable(path + QStringLiteral(": ") + error));
+        const Result<einvoice::Received> read = einvoice::readReceivedFile(path);
+        QVERIFY2(read, qPrintable(path + QStringLiteral(": ") + read.error().text));
+        const einvoice::Received &r = read.value();
         // The documents' sums add up in every example; a few of the CEN's own
         // lines do not multiply out (a base quantity of 1273 for a price of
         // 1273, a return line with a positive quantity), and check names them.
@@ -626,9 +626,9 @@ void TestEInvoice::readsReceivedInvoices()
     for (const einvoice::Model &model : {written, credit})
         for (const QByteArray &xml : {einvoice::writeCii(model, einvoice::Profile::XRechnung),
                                       einvoice::writeUbl(model, einvoice::Profile::XRechnung)}) {
-            einvoice::Received r;
-            QString error;
-            QVERIFY2(einvoice::readReceived(xml, &r, &error), qPrintable(error));
+            const Result<einvoice::Received> read = einvoice::readReceived(xml);
+            QVERIFY2(read, qPrintable(read.error().text));
+            const einvoice::Received &r = read.value();
             QCOMPARE(r.invoice.typeCode, model.typeCode);
             QCOMPARE(r.invoice.buyer.name, QStringLiteral("Kunde <&> GmbH"));
             QCOMPARE(r.invoice.lines.size(), 2);
@@ -648,18 +648,17 @@ void TestEInvoice::readsReceivedInvoices()
     for (const char *bad : {"1e308", "NaN", "INF", "-inf", "12,50"}) {
         QByteArray broken = cii;
         broken.replace(grand.toUtf8(), QStringLiteral("<ram:GrandTotalAmount>%1</ram:GrandTotalAmount>").arg(QLatin1String(bad)).toUtf8());
-        einvoice::Received r;
-        QString error;
-        QVERIFY2(!einvoice::readReceived(broken, &r, &error), bad);
-        QVERIFY2(error.contains(QStringLiteral("GrandTotalAmount “%1”").arg(QLatin1String(bad))), qPrintable(error));
+        const Result<einvoice::Received> read = einvoice::readReceived(broken);
+        QVERIFY2(!read, bad);
+        QVERIFY2(read.error().text.contains(QStringLiteral("GrandTotalAmount “%1”").arg(QLatin1String(bad))),
+                 qPrintable(read.error().text));
     }
     QByteArray wrongLine = cii;
     QVERIFY(wrongLine.contains(">2.25</ram:BilledQuantity>"));
     wrongLine.replace(">2.25</ram:BilledQuantity>", ">3</ram:BilledQuantity>");
-    einvoice::Received r;
-    QString error;
-    QVERIFY2(einvoice::readReceived(wrongLine, &r, &error), qPrintable(error));
-    const QStringList problems = einvoice::checkTotals(r.invoice);
+    Result<einvoice::Received> read = einvoice::readReceived(wrongLine);
+    QVERIFY2(read, qPrintable(read.error().text));
+    const QStringList problems = einvoice::checkTotals(read.value().invoice);
     QCOMPARE(problems.size(), 1);
     QVERIFY2(problems.first().startsWith(QStringLiteral("Line 1 (Beratung)")), qPrintable(problems.first()));
 
@@ -671,9 +670,11 @@ void TestEInvoice::readsReceivedInvoices()
     thirdParty.replace("<cac:LegalMonetaryTotal>", "<cac:PrepaidPayment><cbc:ID>Gutschein</cbc:ID><cbc:PaidAmount "
                                                    "currencyID=\"EUR\">12.50</cbc:PaidAmount></cac:PrepaidPayment>"
                                                    "<cac:LegalMonetaryTotal>");
-    QVERIFY2(einvoice::readReceived(thirdParty, &r, &error), qPrintable(error));
-    QVERIFY2(einvoice::checkTotals(r.invoice).isEmpty(), qPrintable(einvoice::checkTotals(r.invoice).join(u'\n')));
-    QVERIFY(einvoice::viewPage(r).contains(QStringLiteral("Paid by third parties")));
+    read = einvoice::readReceived(thirdParty);
+    QVERIFY2(read, qPrintable(read.error().text));
+    QVERIFY2(einvoice::checkTotals(read.value().invoice).isEmpty(),
+             qPrintable(einvoice::checkTotals(read.value().invoice).join(u'\n')));
+    QVERIFY(einvoice::viewPage(read.value()).contains(QStringLiteral("Paid by third parties")));
 
     // An attachment that unpacks past the limit is refused while it unpacks.
     QByteArray pdf;
@@ -683,8 +684,9 @@ void TestEInvoice::readsReceivedInvoices()
         QPdfWriter writer(&buffer);
         QPainter(&writer).drawLine(0, 0, 10, 10);
     }
-    const QByteArray plain = einvoice::makeFacturX(pdf, QByteArray(25 * 1024 * 1024, ' ') + cii, {}, &error);
-    QVERIFY2(!plain.isEmpty(), qPrintable(error));
+    const Result<QByteArray> made = einvoice::makeFacturX(pdf, QByteArray(25 * 1024 * 1024, ' ') + cii, {});
+    QVERIFY2(made, qPrintable(made.error().text));
+    const QByteArray &plain = made.value();
     QPDF packer;
     packer.processMemoryFile("plain", plain.constData(), size_t(plain.size()));
     QPDFWriter writer(packer);
@@ -694,16 +696,16 @@ void TestEInvoice::readsReceivedInvoices()
     const std::shared_ptr<Buffer> packed = writer.getBufferSharedPointer();
     const QByteArray hybrid(reinterpret_cast<const char *>(packed->getBuffer()), qsizetype(packed->getSize()));
     QVERIFY(hybrid.size() < 2 * 1024 * 1024);
-    QVERIFY(!einvoice::readReceived(hybrid, &r, &error));
-    QVERIFY2(error.contains(QStringLiteral("unpacks to more than 20 MB")), qPrintable(error));
+    read = einvoice::readReceived(hybrid);
+    QVERIFY(!read);
+    QVERIFY2(read.error().text.contains(QStringLiteral("unpacks to more than 20 MB")), qPrintable(read.error().text));
 }
 
 void TestEInvoice::refusesBadReceivedFiles()
 {
     const auto refusal = [](const QByteArray &data) {
-        einvoice::Received r;
-        QString error;
-        return einvoice::readReceived(data, &r, &error) ? QString() : error;
+        const Result<einvoice::Received> read = einvoice::readReceived(data);
+        return read ? QString() : read.error().text;
     };
     QVERIFY(refusal("not xml at all").startsWith(QStringLiteral("The file is not well-formed XML")));
     // Entities that would grow without end are never expanded: the DTD is refused.
@@ -728,10 +730,9 @@ void TestEInvoice::refusesBadReceivedFiles()
     // A huge file is refused by its size, before anything is read.
     QTemporaryFile huge;
     QVERIFY(huge.open() && huge.resize(100LL * 1024 * 1024));
-    einvoice::Received r;
-    QString error;
-    QVERIFY(!einvoice::readReceivedFile(huge.fileName(), &r, &error));
-    QVERIFY2(error.contains(QStringLiteral("100 MB large")), qPrintable(error));
+    const Result<einvoice::Received> read = einvoice::readReceivedFile(huge.fileName());
+    QVERIFY(!read);
+    QVERIFY2(read.error().text.contains(QStringLiteral("100 MB large")), qPrintable(read.error().text));
 }
 
 int main(int argc, char **argv)

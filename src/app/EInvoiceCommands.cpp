@@ -96,12 +96,12 @@ QString EInvoiceCommands::openReceived()
 
 QString EInvoiceCommands::viewReceived(const QString &path)
 {
-    einvoice::Received received;
-    QString error;
-    if (!einvoice::readReceivedFile(path, &received, &error)) {
-        m_app.ui().alert(QStringLiteral("The e-invoice cannot be shown"), error, {QStringLiteral("OK")});
+    const Result<einvoice::Received> read = einvoice::readReceivedFile(path);
+    if (!read) {
+        m_app.ui().alert(QStringLiteral("The e-invoice cannot be shown"), read.error().text, {QStringLiteral("OK")});
         return {};
     }
+    const einvoice::Received &received = read.value();
     QDir().mkpath(Locations::dataFolder());
     const QString pdf = QDir(Locations::dataFolder()).filePath(QStringLiteral("Received.pdf"));
     if (!m_app.outputs().renderHtmlToFile(einvoice::viewPage(received), pdf)) {
@@ -153,14 +153,13 @@ bool EInvoiceCommands::writeFacturX(const Record &document, const einvoice::Mapp
     info.title = QStringLiteral("%1 %2").arg(document.text(Invoice::title), document.text(Invoice::number)).trimmed();
     info.author = mapping.invoice.seller.name;
     info.created = QDateTime::currentDateTime();
-    QString error;
-    const QByteArray hybrid = einvoice::makeFacturX(
-        page.readAll(), einvoice::writeCii(mapping.invoice, einvoice::Profile::EN16931), info, &error);
-    if (hybrid.isEmpty()) {
-        m_app.ui().presentError(Error::file(error));
+    const Result<QByteArray> hybrid =
+        einvoice::makeFacturX(page.readAll(), einvoice::writeCii(mapping.invoice, einvoice::Profile::EN16931), info);
+    if (!hybrid) {
+        m_app.ui().presentError(hybrid.error());
         return false;
     }
-    return write(path, hybrid);
+    return write(path, hybrid.value());
 }
 
 } // namespace tabo

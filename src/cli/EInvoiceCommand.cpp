@@ -39,10 +39,10 @@ int EInvoiceCommand::received(const QString &sub, const QStringList &args)
     if (sub == QLatin1String("view") && parser.isSet(pdf) == parser.isSet(html))
         return usageError(QStringLiteral("Say where: --pdf OUT or --html OUT."));
     // What is received is only read: the store is never opened.
-    einvoice::Received received;
-    QString error;
-    if (!einvoice::readReceivedFile(parser.positionalArguments().constFirst(), &received, &error))
-        return failure(error);
+    const Result<einvoice::Received> read = einvoice::readReceivedFile(parser.positionalArguments().constFirst());
+    if (!read)
+        return failure(read.error().text);
+    const einvoice::Received &received = read.value();
     if (sub == QLatin1String("check")) {
         const QStringList problems = einvoice::checkTotals(received.invoice);
         printOut(QStringLiteral("well-formed %1 %2 (%3)%4\n")

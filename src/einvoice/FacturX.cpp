@@ -83,7 +83,7 @@ QByteArray xmp(const PdfInfo &info, const QString &producer)
 
 } // namespace
 
-QByteArray makeFacturX(const QByteArray &pdf, const QByteArray &xml, const PdfInfo &info, QString *error)
+Result<QByteArray> makeFacturX(const QByteArray &pdf, const QByteArray &xml, const PdfInfo &info)
 {
     try {
         QPDF doc;
@@ -151,9 +151,8 @@ QByteArray makeFacturX(const QByteArray &pdf, const QByteArray &xml, const PdfIn
         std::shared_ptr<Buffer> buffer(writer.getBufferSharedPointer());
         return QByteArray(reinterpret_cast<const char *>(buffer->getBuffer()), qsizetype(buffer->getSize()));
     } catch (const std::exception &e) {
-        if (error)
-            *error = QStringLiteral("The printed invoice could not be made a Factur-X PDF: %1").arg(QString::fromUtf8(e.what()));
-        return {};
+        return Error::file(
+            QStringLiteral("The printed invoice could not be made a Factur-X PDF: %1").arg(QString::fromUtf8(e.what())));
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
@@ -18,8 +20,8 @@ struct PdfInfo
 // profile EN 16931): the PDF made PDF/A-3b, "factur-x.xml" attached to the
 // document as its alternative form, XMP naming the profile, an sRGB output
 // intent. The page itself stays as the design drew it (its fonts are
-// embedded by the engine). Empty, with `error`, when the PDF cannot be read.
-QByteArray makeFacturX(const QByteArray &pdf, const QByteArray &xml, const PdfInfo &info, QString *error);
+// embedded by the engine). The reason when the PDF cannot be read.
+Result<QByteArray> makeFacturX(const QByteArray &pdf, const QByteArray &xml, const PdfInfo &info);
 
 inline const QString kFacturXFileName = QStringLiteral("factur-x.xml");
 

@@ -93,7 +93,8 @@ struct Node
     }
 };
 
-std::unique_ptr<Node> parse(const QByteArray &xml, QString *rootNamespace, QString *error)
+// The tree of `xml`; its root's namespace goes to `rootNamespace`.
+Result<std::shared_ptr<Node>> parse(const QByteArray &xml, QString *rootNamespace)
 {
     QXmlStreamReader reader(xml);
     std::unique_ptr<Node> root;
@@ -103,8 +104,7 @@ std::unique_ptr<Node> parse(const QByteArray &xml, QString *rootNamespace, QStri
         case QXmlStreamReader::DTD:
             // Entities are how an XML file makes a reader expand or fetch
             // more than it holds; no e-invoice needs one.
-            *error = QStringLiteral("The file declares a DTD; e-invoices never do, so it is not read.");
-            return nullptr;
+            return Error::file(QStringLiteral("The file declares a DTD; e-invoices never do, so it is not read."));
         case QXmlStreamReader::StartElement: {
             auto node = std::make_unique<Node>();
             node->name = reader.name().toString();
@@ -119,8 +119,7 @@ std::unique_ptr<Node> parse(const QByteArray &xml, QString *rootNamespace, QStri
             }
             open.push_back(raw);
             if (open.size() > 64) {
-                *error = QStringLiteral("The file nests its elements more deeply than any e-invoice does.");
-                return nullptr;
+                return Error::file(QStringLiteral("The file nests its elements more deeply than any e-invoice does."));
             }
             break;
         }
@@ -136,12 +135,11 @@ std::unique_ptr<Node> parse(const QByteArray &xml, QString *rootNamespace, QStri
         }
     }
     if (reader.hasError() || !root) {
-        *error = QStringLiteral("The file is not well-formed XML (line %1: %2).")
-                     .arg(reader.lineNumber())
-                     .arg(reader.errorString());
-        return nullptr;
+        return Error::file(QStringLiteral("The file is not well-formed XML (line %1: %2).")
+                               .arg(reader.lineNumber())
+                               .arg(reader.errorString()));
     }
-    return root;
+    return std::shared_ptr<Node>(std::move(root));
 }
 
 QDate day(const QString &text)
@@ -214,7 +212,7 @@ Party ciiParty(const Node *p)
     return party;
 }
 
-bool readCii(const Node &root, Received *out, QString *error)
+Error readCii(const Node &root, Received *out)
 {
     Model &m = out->invoice;
     out->guideline = root.value(u"ExchangedDocumentContext/GuidelineSpecifiedDocumentContextParameter/ID");
@@ -226,8 +224,7 @@ bool readCii(const Node &root, Received *out, QString *error)
             m.notes << note->value(u"Content");
     const Node *tx = root.child(u"SupplyChainTradeTransaction");
     if (!tx) {
-        *error = QStringLiteral("The CII file has no trade transaction: it holds no invoice.");
-        return false;
+        return Error::file(QStringLiteral("The CII file has no trade transaction: it holds no invoice."));
     }
     for (const Node *item : tx->all(u"IncludedSupplyChainTradeLineItem")) {
         Line line;
@@ -260,8 +257,7 @@ bool readCii(const Node &root, Received *out, QString *error)
     m.deliveryDate = day(tx->value(u"ApplicableHeaderTradeDelivery/ActualDeliverySupplyChainEvent/OccurrenceDateTime/DateTimeString"));
     const Node *settlement = tx->child(u"ApplicableHeaderTradeSettlement");
     if (!settlement) {
-        *error = QStringLiteral("The CII file has no settlement: its totals are missing.");
-        return false;
+        return Error::file(QStringLiteral("The CII file has no settlement: its totals are missing."));
     }
     m.currency = settlement->value(u"InvoiceCurrencyCode");
     if (const Node *means = settlement->child(u"SpecifiedTradeSettlementPaymentMeans")) {
@@ -299,12 +295,11 @@ bool readCii(const Node &root, Received *out, QString *error)
         m.payable = sum->number(u"DuePayableAmount", &due);
     }
     if (!grand || !due) {
-        *error = QStringLiteral("The invoice states no grand total or amount due: its totals are missing.");
-        return false;
+        return Error::file(QStringLiteral("The invoice states no grand total or amount due: its totals are missing."));
     }
     m.precedingNumber = settlement->value(u"InvoiceReferencedDocument/IssuerAssignedID");
     m.precedingDate = day(settlement->value(u"InvoiceReferencedDocument/FormattedIssueDateTime/DateTimeString"));
-    return true;
+    return {};
 }
 
 TaxCategory ublCategory(const Node *c)
@@ -333,7 +328,7 @@ Party ublParty(const Node *outer)
     return party;
 }
 
-bool readUbl(const Node &root, bool credit, Received *out, QString *error)
+Error readUbl(const Node &root, bool credit, Received *out)
 {
     Model &m = out->invoice;
     out->guideline = root.value(u"CustomizationID");
@@ -388,8 +383,7 @@ bool readUbl(const Node &root, bool credit, Received *out, QString *error)
     for (const Node *payment : root.all(u"PrepaidPayment"))
         m.thirdParty += payment->number(u"PaidAmount");
     if (!grand || !due) {
-        *error = QStringLiteral("The invoice states no total with VAT or amount due: its totals are missing.");
-        return false;
+        return Error::file(QStringLiteral("The invoice states no total with VAT or amount due: its totals are missing."));
     }
     for (const Node *item : root.all(credit ? u"CreditNoteLine" : u"InvoiceLine")) {
         Line line;
@@ -412,7 +406,7 @@ bool readUbl(const Node &root, bool credit, Received *out, QString *error)
         line.tax = ublCategory(item->at(u"Item/ClassifiedTaxCategory"));
         m.lines << line;
     }
-    return true;
+    return {};
 }
 
 // Collects a stream's decoded bytes up to the limit the XML path has, and
@@ -443,7 +437,7 @@ private:
 };
 
 // The XML a PDF carries: Factur-X's and ZUGFeRD's names first, then any XML.
-QByteArray attachedXml(const QByteArray &pdf, QString *error)
+Result<QByteArray> attachedXml(const QByteArray &pdf)
 {
     try {
         QPDF doc;
@@ -461,8 +455,7 @@ QByteArray attachedXml(const QByteArray &pdf, QString *error)
                     break;
                 }
         if (!chosen) {
-            *error = QStringLiteral("The PDF carries no e-invoice: it has no XML attachment.");
-            return {};
+            return Error::file(QStringLiteral("The PDF carries no e-invoice: it has no XML attachment."));
         }
         BoundedSink sink;
         bool filtered = false;
@@ -472,90 +465,76 @@ QByteArray attachedXml(const QByteArray &pdf, QString *error)
         } catch (const std::length_error &) {
         }
         if (sink.overflow()) {
-            *error = QStringLiteral("The PDF's e-invoice unpacks to more than %1 MB; e-invoices are far smaller, so "
-                                    "it is not read.").arg(kMaxReceivedBytes / (1024 * 1024));
-            return {};
+            return Error::file(QStringLiteral("The PDF's e-invoice unpacks to more than %1 MB; e-invoices are far "
+                                              "smaller, so it is not read.")
+                                   .arg(kMaxReceivedBytes / (1024 * 1024)));
         }
         if (!ok) {
-            *error = QStringLiteral("The PDF's e-invoice attachment cannot be unpacked.");
-            return {};
+            return Error::file(QStringLiteral("The PDF's e-invoice attachment cannot be unpacked."));
         }
         return sink.bytes();
     } catch (const std::bad_alloc &) {
-        *error = QStringLiteral("The PDF is too large to be read.");
-        return {};
+        return Error::file(QStringLiteral("The PDF is too large to be read."));
     } catch (const std::exception &e) {
-        *error = QStringLiteral("The PDF cannot be read: %1").arg(QString::fromUtf8(e.what()));
-        return {};
+        return Error::file(QStringLiteral("The PDF cannot be read: %1").arg(QString::fromUtf8(e.what())));
     }
 }
 
 } // namespace
 
-bool readReceived(const QByteArray &data, Received *out, QString *error)
+Result<Received> readReceived(const QByteArray &data)
 {
-    *out = Received();
+    Received out;
     QStringList unreadable;
     t_unreadable = &unreadable;
     const auto stopCollecting = qScopeGuard([] { t_unreadable = nullptr; });
-    QString reason;
     QByteArray xml = data;
     if (data.startsWith("%PDF")) {
-        xml = attachedXml(data, &reason);
-        out->fromPdf = true;
-        if (xml.isEmpty()) {
-            *error = reason;
-            return false;
-        }
+        Result<QByteArray> attached = attachedXml(data);
+        if (!attached)
+            return attached.error();
+        xml = attached.value();
+        out.fromPdf = true;
     }
     QString ns;
-    const std::unique_ptr<Node> root = parse(xml, &ns, &reason);
-    if (!root) {
-        *error = reason;
-        return false;
-    }
-    bool ok = false;
-    if (root->name == QLatin1String("CrossIndustryInvoice") && ns == kCiiNamespace) {
-        out->syntax = Received::Syntax::CII;
-        ok = readCii(*root, out, &reason);
-    } else if ((root->name == QLatin1String("Invoice") && ns == kUblInvoiceNamespace)
-               || (root->name == QLatin1String("CreditNote") && ns == kUblCreditNoteNamespace)) {
-        out->syntax = Received::Syntax::UBL;
-        ok = readUbl(*root, root->name == QLatin1String("CreditNote"), out, &reason);
+    const Result<std::shared_ptr<Node>> parsed = parse(xml, &ns);
+    if (!parsed)
+        return parsed.error();
+    const Node &root = *parsed.value();
+    Error e;
+    if (root.name == QLatin1String("CrossIndustryInvoice") && ns == kCiiNamespace) {
+        out.syntax = Received::Syntax::CII;
+        e = readCii(root, &out);
+    } else if ((root.name == QLatin1String("Invoice") && ns == kUblInvoiceNamespace)
+               || (root.name == QLatin1String("CreditNote") && ns == kUblCreditNoteNamespace)) {
+        out.syntax = Received::Syntax::UBL;
+        e = readUbl(root, root.name == QLatin1String("CreditNote"), &out);
     } else {
-        reason = QStringLiteral("This is not an e-invoice: its root is “%1” in the namespace “%2”, not a CII or "
-                                "UBL invoice.")
-                     .arg(root->name, ns);
+        e = Error::file(QStringLiteral("This is not an e-invoice: its root is “%1” in the namespace “%2”, not a CII "
+                                       "or UBL invoice.")
+                            .arg(root.name, ns));
     }
-    if (ok && !unreadable.isEmpty()) {
-        reason = QStringLiteral("The e-invoice states amounts that are no readable amounts of money: %1.")
-                     .arg(unreadable.join(QStringLiteral(", ")));
-        ok = false;
-    }
-    if (!ok)
-        *error = reason;
-    return ok;
+    if (!e && !unreadable.isEmpty())
+        e = Error::file(QStringLiteral("The e-invoice states amounts that are no readable amounts of money: %1.")
+                            .arg(unreadable.join(QStringLiteral(", "))));
+    if (e)
+        return e;
+    return out;
 }
 
-bool readReceivedFile(const QString &path, Received *out, QString *error)
+Result<Received> readReceivedFile(const QString &path)
 {
     const QFileInfo info(path);
-    if (!info.isFile()) {
-        *error = QStringLiteral("There is no file “%1”.").arg(path);
-        return false;
-    }
-    if (info.size() > kMaxReceivedBytes) {
-        *error = QStringLiteral("“%1” is %2 MB large; e-invoices are far smaller, so it is not read.")
-                     .arg(info.fileName())
-                     .arg(info.size() / (1024 * 1024));
-        return false;
-    }
+    if (!info.isFile())
+        return Error::file(QStringLiteral("There is no file “%1”.").arg(path));
+    if (info.size() > kMaxReceivedBytes)
+        return Error::file(QStringLiteral("“%1” is %2 MB large; e-invoices are far smaller, so it is not read.")
+                               .arg(info.fileName())
+                               .arg(info.size() / (1024 * 1024)));
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString());
-        return false;
-    }
-    return readReceived(file.readAll(), out, error);
+    if (!file.open(QIODevice::ReadOnly))
+        return Error::file(QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString()));
+    return readReceived(file.readAll());
 }
 
 QStringList checkTotals(const Model &m)

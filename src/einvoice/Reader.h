@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Result.h"
 #include "einvoice/EInvoice.h"
 
 #include <QByteArray>
@@ -25,9 +26,9 @@ struct Received
 inline constexpr qint64 kMaxReceivedBytes = 20 * 1024 * 1024;
 
 // An XML e-invoice (CII or UBL), or a PDF carrying one (Factur-X, ZUGFeRD,
-// or any XML attachment). False with the reason in the person's words.
-bool readReceived(const QByteArray &data, Received *out, QString *error);
-bool readReceivedFile(const QString &path, Received *out, QString *error);
+// or any XML attachment); else the reason in the person's words.
+Result<Received> readReceived(const QByteArray &data);
+Result<Received> readReceivedFile(const QString &path);
 
 // Whether its amounts add up as the standard's rules say: empty when they
 // do, else one line for each sum that does not.
