@@ -47,18 +47,19 @@ AddressCommand::AddressCommand(Session &session)
 
 bool AddressCommand::fromVCard(const QString &path, int number, AddressFields *fields)
 {
-    QString reason;
-    const QList<Contact> contacts = Contacts::readVCardFile(path, &reason);
-    if (contacts.isEmpty()) {
-        printError(reason);
+    const Result<QList<Contact>> read = Contacts::readVCardFile(path);
+    if (!read) {
+        printError(read.error().text);
         return false;
     }
+    const QList<Contact> &contacts = read.value();
     if (number > contacts.size()) {
         printError(QStringLiteral("The vCard file holds %1 contact(s); there is no contact %2.")
                        .arg(contacts.size())
                        .arg(number));
         return false;
     }
+    QString reason;
     if (!Contacts::fieldsFromContact(m_session.prefs(), contacts.at(number - 1), fields, &reason)) {
         printError(reason);
         return false;

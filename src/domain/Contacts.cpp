@@ -338,7 +338,7 @@ bool isVCardMarker(const Property &prop, const char *name)
     return prop.name == name && prop.value.trimmed().toUpper() == "VCARD";
 }
 
-QList<Contact> parse(const QByteArray &data, const QString &fileName, QString *error)
+Result<QList<Contact>> parse(const QByteArray &data, const QString &fileName)
 {
     QList<Contact> contacts;
     bool sawCard = false;
@@ -367,39 +367,31 @@ QList<Contact> parse(const QByteArray &data, const QString &fileName, QString *e
     }
     finishCard();
 
-    if (error && contacts.isEmpty()) {
-        if (fileName.isEmpty())
-            *error = sawCard ? QStringLiteral("The vCard data holds no usable contact.")
-                             : QStringLiteral("The data is not a vCard file.");
-        else
-            *error = sawCard ? QStringLiteral("The vCard file “%1” holds no usable contact.").arg(fileName)
-                             : QStringLiteral("The file “%1” is not a vCard file.").arg(fileName);
-    }
-    return contacts;
+    if (!contacts.isEmpty())
+        return contacts;
+    if (fileName.isEmpty())
+        return Error::file(sawCard ? QStringLiteral("The vCard data holds no usable contact.")
+                                   : QStringLiteral("The data is not a vCard file."));
+    return Error::file(sawCard ? QStringLiteral("The vCard file “%1” holds no usable contact.").arg(fileName)
+                               : QStringLiteral("The file “%1” is not a vCard file.").arg(fileName));
 }
 
 } // namespace
 
-QList<Contact> parseVCards(const QByteArray &data, QString *error)
+Result<QList<Contact>> parseVCards(const QByteArray &data)
 {
-    return parse(data, QString(), error);
+    return parse(data, QString());
 }
 
-QList<Contact> readVCardFile(const QString &path, QString *error)
+Result<QList<Contact>> readVCardFile(const QString &path)
 {
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = QStringLiteral("The file “%1” could not be read.").arg(name);
-        return {};
-    }
-    if (file.size() > kMaxFileSize) {
-        if (error)
-            *error = QStringLiteral("The file “%1” is too large for a vCard file.").arg(name);
-        return {};
-    }
-    return parse(file.readAll(), name, error);
+    if (!file.open(QIODevice::ReadOnly))
+        return Error::file(QStringLiteral("The file “%1” could not be read.").arg(name));
+    if (file.size() > kMaxFileSize)
+        return Error::file(QStringLiteral("The file “%1” is too large for a vCard file.").arg(name));
+    return parse(file.readAll(), name);
 }
 
 QString formatAddress(const QString &pattern, const Contact &contact)

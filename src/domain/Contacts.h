@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QList>
 
 #include <array>
@@ -75,8 +77,8 @@ QString countryCode(const QString &country);
 
 // Every usable contact of a vCard file; an empty list with a reason when the
 // data is not a vCard or holds none.
-QList<Contact> parseVCards(const QByteArray &data, QString *error);
-QList<Contact> readVCardFile(const QString &path, QString *error);
+Result<QList<Contact>> parseVCards(const QByteArray &data);
+Result<QList<Contact>> readVCardFile(const QString &path);
 
 // `prefsAddressPattern` filled from a contact.
 QString formatAddress(const QString &pattern, const Contact &contact);

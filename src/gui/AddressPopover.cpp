@@ -155,12 +155,11 @@ void AddressPopover::loadRememberedFile()
     const QString path = m_app.prefs().string(P::contactsVCardFile);
     if (path.isEmpty() || path == m_contacts->path())
         return;
-    QString error;
-    const QList<Contact> contacts = Contacts::readVCardFile(path, &error);
-    if (contacts.isEmpty())
-        m_contacts->showProblem(path, error);
+    const Result<QList<Contact>> contacts = Contacts::readVCardFile(path);
+    if (!contacts)
+        m_contacts->showProblem(path, contacts.error().text);
     else
-        m_contacts->showContacts(path, contacts);
+        m_contacts->showContacts(path, contacts.value());
 }
 
 void AddressPopover::fillRecent()
@@ -240,14 +239,13 @@ void AddressPopover::chooseFile()
     });
     if (path.isEmpty())
         return;
-    QString error;
-    const QList<Contact> contacts = Contacts::readVCardFile(path, &error);
-    if (contacts.isEmpty()) {
-        alert(error);
+    const Result<QList<Contact>> contacts = Contacts::readVCardFile(path);
+    if (!contacts) {
+        alert(contacts.error().text);
         return;
     }
     m_app.prefs().setString(P::contactsVCardFile, path);
-    m_contacts->showContacts(path, contacts);
+    m_contacts->showContacts(path, contacts.value());
 }
 
 void AddressPopover::useContact()
