@@ -21,7 +21,7 @@ namespace tabo {
 
 einvoice::Mapping EInvoiceCommands::map(Record &document)
 {
-    return map(document, orderedLines(document, m_app.prefs().integer(Preferences::itemSortOrder)));
+    return map(document, orderedLines(document, m_app.prefs()));
 }
 
 einvoice::Mapping EInvoiceCommands::map(Record &document, const QList<Record *> &lines)

@@ -573,7 +573,7 @@ DiscountFields ItemCommands::discountFields() const
 
 QList<Record *> ItemCommands::sortedItems(const Record &document) const
 {
-    return orderedLines(document, m_prefs.integer(P::itemSortOrder));
+    return orderedLines(document, m_prefs);
 }
 
 } // namespace tabo

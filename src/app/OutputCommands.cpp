@@ -79,7 +79,7 @@ RenderRequest OutputCommands::request(const Record &document, const LetterMode &
     r.design = design ? design : m_app.designs().currentDesign();
     r.letter = letter;
     r.page = pageSetupFor(document);
-    r.lines = orderedLines(document, m_app.prefs().integer(P::itemSortOrder));
+    r.lines = orderedLines(document, m_app.prefs());
     return r;
 }
 

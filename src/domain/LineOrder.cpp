@@ -2,6 +2,7 @@
 
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
+#include "prefs/Preferences.h"
 
 #include <algorithm>
 
@@ -32,6 +33,11 @@ QList<Record *> orderedLines(const Record &document, qint64 itemSortOrder)
         break;
     }
     return lines;
+}
+
+QList<Record *> orderedLines(const Record &document, const Preferences &prefs)
+{
+    return orderedLines(document, prefs.integer(Preferences::itemSortOrder));
 }
 
 } // namespace tabo

@@ -130,6 +130,7 @@ public:
         , m_taxes{doc, prefs}
         , m_toTheCent(doc.boolean(Invoice::centExactTotals)
                       && Calculator::canCalculateToTheCent(doc, TaxSettings::from(prefs)))
+        , m_printedTotal(cents(doc.num(Invoice::amount)))
     {
     }
 
@@ -194,7 +195,7 @@ private:
     std::map<Key, qint64> m_taxCents;  // the tax each category charges
     qint64 m_lineCents = 0;
     qint64 m_taxTotalCents = 0;
-    qint64 m_printedTotal = 0;
+    const qint64 m_printedTotal; // what the page prints, in cents
 
     static inline const QString kCompany = QStringLiteral(" (Preferences ▸ Company)");
     static inline const QString kClient = QStringLiteral(" (Client ▸ Address ▸ E-invoice)");
@@ -395,7 +396,6 @@ void Mapper::centExactFigures()
 // prints.
 void Mapper::classicFigures()
 {
-    m_printedTotal = cents(m_doc.num(Invoice::amount));
     qint64 printedTax = 0;
     std::map<int, qint64> byTabo;
     for (const auto &[k, tabo] : m_taxOf)
@@ -508,7 +508,6 @@ void Mapper::checkCategory(const TaxBreakdown &t, int tabo, qint64 taxCents)
 
 void Mapper::totals()
 {
-    m_printedTotal = cents(m_doc.num(Invoice::amount));
     const qint64 taxTotal = m_taxTotalCents;
     inv.taxTotal = fromCents(taxTotal);
     inv.lineTotal = fromCents(m_lineCents);

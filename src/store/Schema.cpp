@@ -36,16 +36,26 @@ QSet<QString> existingColumns(sqlite3 *db, const QString &table)
 }
 
 // The attributes kept in the store only that a file does not have yet.
+// Adds the columns of `entity` its table lacks (`have`); with `storeOnly`,
+// only those of attributes that never leave the store.
+Error addColumns(sqlite3 *db, const EntityDesc &entity, const QSet<QString> &have, bool storeOnly)
+{
+    for (const auto &a : entity.attributes) {
+        if (have.contains(a.name) || (storeOnly && a.exchanged))
+            continue;
+        if (Error e = exec(db, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
+                                   .arg(quoted(entity.name), quoted(a.name), columnType(a.type))))
+            return e;
+    }
+    return Error{};
+}
+
 Error addStoreOnlyColumns(sqlite3 *db)
 {
     for (int i = 0; i < kEntityCount; ++i) {
         const EntityDesc &entity = entityDesc(EntityId(i));
-        const QSet<QString> have = existingColumns(db, entity.name);
-        for (const auto &a : entity.attributes)
-            if (!a.exchanged && !have.contains(a.name))
-                if (Error e = exec(db, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
-                                           .arg(quoted(entity.name), quoted(a.name), columnType(a.type))))
-                    return e;
+        if (Error e = addColumns(db, entity, existingColumns(db, entity.name), true))
+            return e;
     }
     return Error{};
 }
@@ -240,13 +250,8 @@ Error addMissingColumns(sqlite3 *db)
                 return e;
             continue;
         }
-        for (const auto &a : entity.attributes) {
-            if (have.contains(a.name))
-                continue;
-            if (Error e = exec(db, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
-                                       .arg(quoted(entity.name), quoted(a.name), columnType(a.type))))
-                return e;
-        }
+        if (Error e = addColumns(db, entity, have, false))
+            return e;
     }
     for (const QString &sql : createIndexSql())
         if (Error e = exec(db, sql))
