@@ -140,8 +140,12 @@ QVPreferencePanel::QVPreferencePanel(AppController &app, FileMenu *fileMenu, QWi
     m_designPane = new DesignPane(app);
     m_panes = {createCompanyPane(), createInvoicePane(), createTaxesPane(), createTemplatePane(),
                m_designPane, createRegionPane(), createClientsPane(), createDataPane()};
-    for (QWidget *pane : std::as_const(m_panes))
+    // Owned by the panel from the start: a pane never shown must not outlive
+    // it (the design pane's preview timer would run on a closed controller).
+    for (QWidget *pane : std::as_const(m_panes)) {
+        pane->setParent(this);
         pane->hide();
+    }
     connect(m_binder, &PrefsBinder::changed, this, [this](P::Key key) {
         if (key == P::prefsDatePattern || key == P::prefsRegion)
             updateDateExample();
