@@ -123,7 +123,7 @@ int runEditorBench()
     const double openMs = colourAtOpen(QStringLiteral("CSS"), css, prefs);
 
     // From the last keystroke (the texts handed over) to a loaded PDF.
-    DesignPreview preview(app);
+    DesignPreview preview(app, app, app.outputs(), app.prefs(), app.ui());
     QPdfDocument pdf;
     std::vector<double> previews;
     for (int i = 0; i < 6; ++i) {

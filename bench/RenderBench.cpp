@@ -106,9 +106,8 @@ Record *invoiceWithLines(AppController &app, int lines)
         fields.price = QStringLiteral("%1.50").arg(40 + i % 30);
         fields.quantity = QString::number(1 + i % 7);
         fields.tax1 = true;
-        QString error;
-        if (!app.items().addItem(fields, &error)) {
-            std::fprintf(stderr, "could not add a line: %s\n", qPrintable(error));
+        if (const Result<Record *> added = app.items().addItem(fields); !added) {
+            std::fprintf(stderr, "could not add a line: %s\n", qPrintable(added.error().text));
             return nullptr;
         }
     }

@@ -8,6 +8,7 @@
 #include "StoreGenerator.h"
 
 #include "app/AccountBook.h"
+#include "app/ReportCommands.h"
 #include "app/NotificationCommands.h"
 #include "app/AppController.h"
 #include "domain/Record.h"
@@ -96,7 +97,7 @@ std::pair<double, int> deliverReminders(AppController &controller, Store &store,
     });
     QElapsedTimer t;
     t.start();
-    const int shown = notifications.deliverDue();
+    const int shown = notifications.deliverDue().shown;
     const double ms = double(t.nsecsElapsed()) / 1e6;
     server.kill();
     server.waitForFinished();
@@ -179,7 +180,7 @@ int storeTable()
                              QStringLiteral("1234,5")};
     const double searchMs = medianMs(25, [&](int i) { controller.setSearchText(typed[i % 5]); });
     controller.setSearchText(QString());
-    const double reportMs = medianMs(21, [&](int) { controller.generateReport(Report::Range()); });
+    const double reportMs = medianMs(21, [&](int) { controller.reports().generateReport(Report::Range()); });
     // The account book of 10,000 invoices, laid out and written as PDF.
     QList<Record *> bookDocs;
     for (Record *r : controller.documentList().all()) {
@@ -190,7 +191,7 @@ int storeTable()
     }
     QElapsedTimer bookTimer;
     bookTimer.start();
-    PrinterDocument book(AccountBook(controller).items(bookDocs));
+    PrinterDocument book(controller.accountBook().items(bookDocs));
     book.topMargin = 60;
     book.bottomMargin = 40;
     book.footerView = PrinterTextView(QRectF(40, 0, 515, 40), QStringLiteral("&lt;pageNumber/&gt; / &lt;pageCount/&gt;"));

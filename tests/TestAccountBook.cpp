@@ -33,7 +33,7 @@ private Q_SLOTS:
     {
         test::ControllerFixture f;
         f.prefs.setString(Preferences::prefsName, QStringLiteral("Muster GmbH"));
-        AccountBook book(f.app);
+        AccountBook book = f.app.accountBook();
         // Only quotes: the heading and column headings, no rows.
         f.app.addQuote();
         QCOMPARE(book.items(f.app.documentList().shown()).size(), 3);

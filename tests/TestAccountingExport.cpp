@@ -158,7 +158,7 @@ void TestAccountingExport::exchangeFileAndItsFailures()
     const QString vorlux = f.home.dataDir() + QStringLiteral("/quandrellaExport.vortabo");
     QCOMPARE(f.exp.exportFilePath(), vorlux);
     QVERIFY(f.exp.closeVorluxSheet());
-    const QVariant written = plist::readFile(vorlux);
+    const QVariant written = plist::readFile(vorlux).value();
     QCOMPARE(written.typeId(), QMetaType::QVariantList);
     QVERIFY(written.toList().isEmpty());
     QCOMPARE(f.ui.opened, QStringList{vorlux});

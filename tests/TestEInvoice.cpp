@@ -75,12 +75,11 @@ struct Seller : test::ControllerFixture
     Record *line(const QString &title, const QString &price, const QString &quantity, int tax,
                  const QString &unit = QStringLiteral("Std."))
     {
-        QString error;
         Record *item = app.items().addItem(
-            {title, {}, unit, {}, {}, price, quantity, tax == 1, tax == 2, tax == 3}, &error);
+            {title, {}, unit, {}, {}, price, quantity, tax == 1, tax == 2, tax == 3}).value();
         return item;
     }
-    einvoice::Mapping map() { return EInvoiceCommands(app).map(*app.currentInvoice()); }
+    einvoice::Mapping map() { return app.einvoices().map(*app.currentInvoice()); }
 };
 
 // A discount on about one document in `oneIn`: a percentage below
@@ -202,7 +201,7 @@ void TestEInvoice::refusesWhatItCannotStateAndAsksForWhatIsMissing()
     QCOMPARE(m.missing.size(), 3);
     // Nothing is written while anything is missing, and the person hears all of it at once.
     const QString path = f.home.path() + QStringLiteral("/x.xml");
-    QVERIFY(!EInvoiceCommands(f.app).exportXml(*doc, path, EInvoiceCommands::Form::XRechnungUbl));
+    QVERIFY(!f.app.einvoices().exportXml(*doc, path, EInvoiceCommands::Form::XRechnungUbl));
     QVERIFY(!QFile::exists(path));
     QCOMPARE(f.ui.lastAlertText().count(QStringLiteral("• ")), 3);
 

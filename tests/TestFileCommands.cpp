@@ -54,7 +54,7 @@ QByteArray fileStart(const QString &path)
 QVariantMap unarchived(const QString &path)
 {
     QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? KeyedArchive::unarchive(f.readAll()).toMap() : QVariantMap();
+    return f.open(QIODevice::ReadOnly) ? KeyedArchive::unarchive(f.readAll()).value().toMap() : QVariantMap();
 }
 
 // Stands for a path where no file is.
@@ -154,7 +154,7 @@ void TestFileCommands::collectionsAndDump()
     QVERIFY(f.files.exportItems());
     QVERIFY(f.ui.fileRequests.last().suggestedName.isEmpty());
     QVERIFY(fileStart(xml).startsWith("<?xml"));
-    QVariantList list = plist::readFile(xml).toList();
+    QVariantList list = plist::readFile(xml).value().toList();
     QCOMPARE(list.size(), 1);
     QCOMPARE(list[0].toMap().value(QStringLiteral("title")).toString(), QStringLiteral("shown"));
     QCOMPARE(list[0].toMap().value(QStringLiteral("items")).toList().size(), 1);
@@ -163,7 +163,7 @@ void TestFileCommands::collectionsAndDump()
     f.ui.files = {xml};
     QVERIFY(f.files.exportTaboDataXML());
     QCOMPARE(f.ui.fileRequests.last().suggestedName, QStringLiteral("Tabo Database"));
-    QCOMPARE(plist::readFile(xml).toList().size(), 2);
+    QCOMPARE(plist::readFile(xml).value().toList().size(), 2);
 
     const QString dump = f.file(QStringLiteral("all.invdump"));
     f.ui.files = {dump};
@@ -184,9 +184,9 @@ void TestFileCommands::importRefusals_data()
     QTest::newRow("missing") << kNoFile;
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("text") << QByteArray("just some notes\n");
-    QTest::newRow("no taboDic") << KeyedArchive::archive(QVariantMap{{QStringLiteral("designDic"), QVariantMap{{QStringLiteral("title"), 1}}}});
-    QTest::newRow("empty taboDic") << KeyedArchive::archive(QVariantMap{{QStringLiteral("taboDic"), QVariantMap()}});
-    QTest::newRow("taboDic not a dictionary") << KeyedArchive::archive(QVariantMap{{QStringLiteral("taboDic"), QStringLiteral("x")}});
+    QTest::newRow("no taboDic") << KeyedArchive::archive(QVariantMap{{QStringLiteral("designDic"), QVariantMap{{QStringLiteral("title"), 1}}}}).value();
+    QTest::newRow("empty taboDic") << KeyedArchive::archive(QVariantMap{{QStringLiteral("taboDic"), QVariantMap()}}).value();
+    QTest::newRow("taboDic not a dictionary") << KeyedArchive::archive(QVariantMap{{QStringLiteral("taboDic"), QStringLiteral("x")}}).value();
 }
 
 void TestFileCommands::importRefusals()
@@ -217,7 +217,7 @@ void TestFileCommands::designFile()
     design->setText(Design::css, QStringLiteral("body { margin: 0 }"));
     design->setBool(Design::isDefault, true);
 
-    const Result<QVariantMap> read = readDesignFile(designFileData(*design));
+    const Result<QVariantMap> read = readDesignFile(designFileData(*design).value());
     QVERIFY2(read.ok(), qPrintable(read.error().message()));
     QCOMPARE(read.value(), OD::toDictionary(*design));
 

@@ -34,7 +34,8 @@ QByteArray archiveOf(
 {
     return plist::write(QVariantMap { { "$version", 100000 }, { "$archiver", "NSKeyedArchiver" }, { "$top", top },
                             { "$objects", QVariantList { "$null" } + objects } },
-        format);
+        format)
+        .value();
 }
 
 QVariantMap document()
@@ -66,22 +67,24 @@ private Q_SLOTS:
 
 void TestKeyedArchive::roundTripIsExact()
 {
-    QString error;
-    const QByteArray data = KeyedArchive::archive(document(), &error);
-    QVERIFY2(!data.isEmpty(), qPrintable(error));
-    QVERIFY(identical(KeyedArchive::unarchive(data), document()));
-    QVERIFY(identical(KeyedArchive::unarchive(KeyedArchive::archive("solo")), "solo"));
+    const Result<QByteArray> archived = KeyedArchive::archive(document());
+    QVERIFY2(archived, qPrintable(archived.error().text));
+    const QByteArray &data = archived.value();
+    QVERIFY(identical(KeyedArchive::unarchive(data).value(), document()));
+    QVERIFY(identical(KeyedArchive::unarchive(KeyedArchive::archive("solo").value()).value(), "solo"));
 
     for (qsizetype length = 0; length < data.size(); length += 7)
-        QVERIFY(!KeyedArchive::unarchive(data.left(length), &error).isValid());
-    QVERIFY(KeyedArchive::archive(QVariantMap { { "bad", QPoint() } }, &error).isEmpty());
-    QVERIFY(error.contains("QPoint"));
+        QVERIFY(!KeyedArchive::unarchive(data.left(length)));
+    const Result<QByteArray> point = KeyedArchive::archive(QVariantMap { { "bad", QPoint() } });
+    QVERIFY(!point && point.value().isEmpty() && point.error().text.contains("QPoint"));
 }
 
 void TestKeyedArchive::layoutIsTheArchiversOwn()
 {
     const QVariantMap archive
-        = plist::read(KeyedArchive::archive(QVariantMap { { "a", "x" }, { "b", "x" }, { "d", date(1.5) } })).toMap();
+        = plist::read(KeyedArchive::archive(QVariantMap { { "a", "x" }, { "b", "x" }, { "d", date(1.5) } }).value())
+              .value()
+              .toMap();
     QCOMPARE(archive.value("$version").toLongLong(), 100000);
     QCOMPARE(archive.value("$archiver").toString(), "NSKeyedArchiver");
     QVERIFY(identical(archive.value("$top"), QVariantMap { { "root", uid(1) } }));
@@ -107,7 +110,8 @@ void TestKeyedArchive::plistlibReadsOurArchives()
     QFile archive(dir.filePath("doc.tabo")), json(dir.filePath("expected.json"));
     QVERIFY(archive.open(QIODevice::WriteOnly) && json.open(QIODevice::WriteOnly));
     archive.write(KeyedArchive::archive(
-        QVariantMap { { "list", QVariantList { "a", "a", qint64(-5), true } }, { "when", date(814000000.5) } }));
+        QVariantMap { { "list", QVariantList { "a", "a", qint64(-5), true } }, { "when", date(814000000.5) } })
+                      .value());
     json.write(R"({"list": ["a", "a", -5, true], "when": {"$date": 814000000.5}})");
     archive.close();
     json.close();
@@ -123,9 +127,8 @@ void TestKeyedArchive::realArchivesAreRead()
         QSKIP(qPrintable("the shared fixtures are not at " + dir + " (set TABO_FIXTURES)"));
     QFile arrayTest(dir + "/NSKeyedUnarchiver-ArrayTest.plist");
     QVERIFY(arrayTest.open(QIODevice::ReadOnly));
-    QString error;
-    const QVariant array = KeyedArchive::unarchive(arrayTest.readAll(), &error);
-    QVERIFY2(identical(array, QVariantList { "baa", "baa", "black", "sheep" }), qPrintable(error));
+    const Result<QVariant> array = KeyedArchive::unarchive(arrayTest.readAll());
+    QVERIFY2(identical(array.value(), QVariantList { "baa", "baa", "black", "sheep" }), qPrintable(array.error().text));
 
     QFile complex(dir + "/NSKeyedUnarchiver-ComplexTest.plist");
     QVERIFY(complex.open(QIODevice::ReadOnly));
@@ -133,8 +136,8 @@ void TestKeyedArchive::realArchivesAreRead()
     // property-list form: all three are left out.
     const QVariantMap expected { { "string", "hello" },
         { "array", QVariantList { "hello", qint64(34545), QVariantMap { { "key", "val" } } } } };
-    const QVariant value = KeyedArchive::unarchive(complex.readAll(), &error);
-    QVERIFY2(identical(value, expected), qPrintable(error));
+    const Result<QVariant> value = KeyedArchive::unarchive(complex.readAll());
+    QVERIFY2(identical(value.value(), expected), qPrintable(value.error().text));
 }
 
 void TestKeyedArchive::foreignFormsAreUnderstood()
@@ -157,8 +160,8 @@ void TestKeyedArchive::foreignFormsAreUnderstood()
     };
     const QVariantMap expected { { "s", "boxed" }, { "d", QByteArray("\1\2") }, { "set", QVariantList { "s" } } };
     for (Format format : { Format::Binary, Format::Xml })
-        QVERIFY(identical(KeyedArchive::unarchive(archiveOf(objects, { { "root", uid(1) } }, format)), expected));
-    QVERIFY(identical(KeyedArchive::unarchive(archiveOf(objects, { { "taboDic", uid(1) }, { "none", uid(0) } })),
+        QVERIFY(identical(KeyedArchive::unarchive(archiveOf(objects, { { "root", uid(1) } }, format)).value(), expected));
+    QVERIFY(identical(KeyedArchive::unarchive(archiveOf(objects, { { "taboDic", uid(1) }, { "none", uid(0) } })).value(),
         QVariantMap { { "taboDic", expected } }));
 }
 
@@ -167,7 +170,7 @@ void TestKeyedArchive::malformedArchivesAreRejected_data()
     QTest::addColumn<QString>("reason");
     QTest::addColumn<QByteArray>("data");
     const QVariant array = classEntry("NSArray");
-    QTest::newRow("plain property list") << "not a keyed archive" << plist::write(QVariantList { 1 }, Format::Binary);
+    QTest::newRow("plain property list") << "not a keyed archive" << plist::write(QVariantList { 1 }, Format::Binary).value();
     QTest::newRow("dangling reference")
         << "missing object"
         << archiveOf({ QVariantMap { { "NS.objects", QVariantList { uid(9) } }, { "$class", uid(2) } }, array });
@@ -205,9 +208,9 @@ void TestKeyedArchive::malformedArchivesAreRejected()
     QFETCH(QString, reason);
     QFETCH(QByteArray, data);
     QVERIFY(!data.isEmpty());
-    QString error;
-    QVERIFY(!KeyedArchive::unarchive(data, &error).isValid());
-    QVERIFY2(error.contains(reason), qPrintable(error));
+    const Result<QVariant> read = KeyedArchive::unarchive(data);
+    QVERIFY(!read);
+    QVERIFY2(read.error().text.contains(reason), qPrintable(read.error().text));
 }
 
 QTEST_GUILESS_MAIN(TestKeyedArchive)

@@ -66,15 +66,14 @@ QString checkStore(const QString &path)
     Preferences prefs;
     AppController app(prefs, ui);
     QRandomGenerator random(seed);
-    QString error;
     app.store(); // open, as in the window, before a move is asked for
     for (int i = 0;; ++i) {
         switch (random.bounded(6)) {
         case 0:
-            app.backups().writeCompleteBackup(backupTo, &error);
+            app.backups().writeCompleteBackup(backupTo);
             break;
         case 1:
-            app.backups().restoreCompleteBackup(restoreFrom, &error);
+            app.backups().restoreCompleteBackup(restoreFrom);
             break;
         case 2:
             prefs.setBool(Preferences::useCustomPath, true);
@@ -85,8 +84,7 @@ QString checkStore(const QString &path)
             if (app.addInvoice())
                 for (int l = 0; l < 4; ++l)
                     app.items().addItem({QStringLiteral("Line"), {}, {}, {}, {}, QString::number(l + 1),
-                                         QStringLiteral("3"), false, false, false},
-                                        nullptr);
+                                         QStringLiteral("3"), false, false, false}).value();
         }
     }
 }
@@ -118,11 +116,9 @@ void TestKillTrials::killedAnywhereLosesNothingCommitted()
         for (int d = 0; d < 20; ++d) {
             app.addInvoice();
             app.items().addItem({QStringLiteral("Seed"), {}, {}, {}, {}, QStringLiteral("9.5"), QStringLiteral("2"),
-                                 false, false, false},
-                                nullptr);
+                                 false, false, false}).value();
         }
-        QString error;
-        QVERIFY(app.backups().writeCompleteBackup(base + QStringLiteral("/seed.mbdb"), &error));
+        QVERIFY(!app.backups().writeCompleteBackup(base + QStringLiteral("/seed.mbdb")));
     }
     const QString backupTo = base + QStringLiteral("/out/latest.mbdb");
     QDir().mkpath(base + QStringLiteral("/out"));

@@ -149,7 +149,7 @@ void TestNotifications::deliversOnceAcrossProcessesAndAtTheNextStart()
     QString out;
     QCOMPARE(cli({QStringLiteral("notifications"), QStringLiteral("deliver-due")}, &out), 0);
     QVERIFY2(out.contains(QStringLiteral("1 reminder shown")), qPrintable(out));
-    QCOMPARE(f.app.notifications().deliverDue(), 0);
+    QCOMPARE(f.app.notifications().deliverDue().shown, 0);
     const QList<QJsonObject> list = shown(f.log);
     QCOMPARE(list.size(), 1);
     QCOMPARE(list[0][QStringLiteral("summary")].toString(), draft.title);
@@ -177,7 +177,7 @@ void TestNotifications::clickFiltersToTheInvoice()
     Record *a = f.invoice(QStringLiteral("RE-1"), test::utc(2020, 1, 1));
     f.invoice(QStringLiteral("RE-2"), test::utc(2020, 1, 1));
     QVERIFY(!f.app.notifications().sendNotification(f.app.notifications().prepareNotification(), a));
-    QCOMPARE(f.app.notifications().deliverDue(), 1);
+    QCOMPARE(f.app.notifications().deliverDue().shown, 1);
     QSignalSpy forward(&f.app.notifications(), &NotificationCommands::bringForward);
     QDBusMessage click = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.Notifications"),
                                                         QStringLiteral("/org/tabo/Test"),

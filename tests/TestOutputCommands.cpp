@@ -57,10 +57,8 @@ struct Fixture : test::ControllerFixture
         doc->setText(Invoice::title, QStringLiteral("Invoice"));
         doc->setText(Invoice::emailAddress, QStringLiteral("erika@example.org"));
         doc->setDate(Invoice::due, test::utc(2026, 4, 1));
-        QString error;
         app.items().addItem({QStringLiteral("Consulting"), {}, {}, {}, {}, QStringLiteral("1234.5"),
-                             QStringLiteral("2"), false, false, false},
-                            &error);
+                             QStringLiteral("2"), false, false, false}).value();
         app.documentChanged(doc);
     }
     ~Fixture() { Clock::setInstance(nullptr); }
@@ -153,11 +151,9 @@ private Q_SLOTS:
         QVERIFY(!pdfText(paths[0]).contains(QStringLiteral("Page 1")));
         f.prefs.setString(P::locPageOf, QStringLiteral("Seite %1 von %2"));
         f.app.setCurrentInvoice(other);
-        QString error;
         for (int i = 0; i < 45; ++i)
             QVERIFY(f.app.items().addItem({QStringLiteral("Line %1").arg(i), {}, {}, {}, {}, QStringLiteral("10"),
-                                           QStringLiteral("1"), false, false, false},
-                                          &error));
+                                           QStringLiteral("1"), false, false, false}).value());
         other->setText(Invoice::number, QStringLiteral("RE-7"));
         QVERIFY(f.out.renderToFile(f.out.request(*other), paths[1]));
         const QString text = pdfText(paths[1]);
@@ -241,11 +237,9 @@ private Q_SLOTS:
             QVERIFY2(code.startsWith(QStringLiteral("BCD\n002\n1\nSCT\nBYLADEM1001\nAcme Studio\n")), qPrintable(title + code));
             QVERIFY(!pdfText(pdf).contains(QStringLiteral("Logo Image")));
         }
-        QString error;
         for (int i = 1; i < 40; ++i)
             f.app.items().addItem({QStringLiteral("Line %1").arg(i), QStringLiteral("A second line of text"), {}, {},
-                                   {}, QStringLiteral("10"), QStringLiteral("1"), false, false, false},
-                                  &error);
+                                   {}, QStringLiteral("10"), QStringLiteral("1"), false, false, false}).value();
         QCOMPARE(f.doc->toMany(Invoice::items).size(), 40);
         for (const Record *design : designs) {
             QVERIFY(f.out.renderToFile(f.out.request(*f.doc, {}, design), pdf));

@@ -95,6 +95,13 @@ QVariantMap sample()
     };
 }
 
+// Written and read again; invalid when either step failed.
+QVariant readBack(const QVariant &value, Format format)
+{
+    const Result<QByteArray> data = plist::write(value, format);
+    return data ? plist::read(data.value()).value() : QVariant();
+}
+
 // The tagged JSON that tests/plist/check_plist.py compares with.
 QJsonValue tagged(const QVariant &value)
 {
@@ -159,56 +166,53 @@ void TestPropertyList::roundTrip_data()
 void TestPropertyList::roundTrip()
 {
     QFETCH(Format, format);
-    QString error;
-    const QByteArray data = plist::write(sample(), format, &error);
-    QVERIFY2(!data.isEmpty(), qPrintable(error));
-    const QVariant back = plist::read(data, &error);
-    QVERIFY2(back.isValid(), qPrintable(error));
-    const QVariantMap expected = sample(), actual = back.toMap();
+    const Result<QByteArray> data = plist::write(sample(), format);
+    QVERIFY2(data, qPrintable(data.error().text));
+    const Result<QVariant> back = plist::read(data.value());
+    QVERIFY2(back, qPrintable(back.error().text));
+    const QVariantMap expected = sample(), actual = back.value().toMap();
     QCOMPARE(actual.keys(), expected.keys());
     for (auto it = expected.begin(); it != expected.end(); ++it)
         QVERIFY2(identical(actual.value(it.key()), it.value()), qPrintable(it.key()));
     // Any value may be the root, not only containers.
-    QVERIFY(identical(plist::read(plist::write(-0.0, format)), -0.0));
-    QVERIFY(identical(plist::read(plist::write(QStringLiteral("solo"), format)), QStringLiteral("solo")));
+    QVERIFY(identical(readBack(-0.0, format), -0.0));
+    QVERIFY(identical(readBack(QStringLiteral("solo"), format), QStringLiteral("solo")));
     // Control characters are not XML 1.0, yet our own files must give them back.
-    QVERIFY(identical(plist::read(plist::write(QStringLiteral("a\x01b"), format)), QStringLiteral("a\x01b")));
+    QVERIFY(identical(readBack(QStringLiteral("a\x01b"), format), QStringLiteral("a\x01b")));
 }
 
 void TestPropertyList::datesAreExactInBinaryAndWholeSecondsInXml()
 {
     const QVariantList dates { date(814000000.123456789), date(-999999999.5), date(0) };
     const QVariantList later = dates + QVariantList { date(4e9 + 0.25) };
-    QVERIFY(identical(plist::read(plist::write(later, Format::Binary)), later));
+    QVERIFY(identical(readBack(later, Format::Binary), later));
 
-    const QVariant xml = plist::read(plist::write(dates, Format::Xml));
+    const QVariant xml = readBack(dates, Format::Xml);
     QVERIFY(identical(xml, QVariantList { date(814000000), date(-1000000000), date(0) }));
     // libplist holds XML dates in 32 bits; later ones are refused, not wrapped.
-    QVERIFY(!plist::read(plist::write(later, Format::Xml)).isValid());
-    QString error;
-    QVERIFY(plist::write(QVariant::fromValue(Date()), Format::Binary, &error).isEmpty());
-    QVERIFY(!error.isEmpty());
+    QVERIFY(!readBack(later, Format::Xml).isValid());
+    const Result<QByteArray> invalidDate = plist::write(QVariant::fromValue(Date()), Format::Binary);
+    QVERIFY(!invalidDate && invalidDate.value().isEmpty() && !invalidDate.error().text.isEmpty());
 }
 
 void TestPropertyList::uidsAndQtRelatives()
 {
     const QVariant uid = QVariant::fromValue(plist::Uid { 70000 });
-    QVERIFY(identical(plist::read(plist::write(uid, Format::Binary)), uid));
+    QVERIFY(identical(readBack(uid, Format::Binary), uid));
     // libplist reads an XML UID as the dictionary that spells it.
-    QVERIFY(identical(plist::read(plist::write(uid, Format::Xml)), QVariantMap { { "CF$UID", qint64(70000) } }));
+    QVERIFY(identical(readBack(uid, Format::Xml), QVariantMap { { "CF$UID", qint64(70000) } }));
 
     const QVariantMap relatives { { "list", QStringList { "a", "b" } }, { "hash", QVariantHash { { "k", 1 } } },
         { "int", int(-3) }, { "uint", 7u }, { "float", 0.5f },
         { "time", QDateTime(QDate(2001, 1, 1), QTime(0, 0, 1, 500), Qt::UTC) } };
     const QVariantMap canonical { { "list", QVariantList { "a", "b" } }, { "hash", QVariantMap { { "k", qint64(1) } } },
         { "int", qint64(-3) }, { "uint", qint64(7) }, { "float", 0.5 }, { "time", date(1.5) } };
-    QVERIFY(identical(plist::read(plist::write(relatives, Format::Binary)), canonical));
+    QVERIFY(identical(readBack(relatives, Format::Binary), canonical));
 
     for (Format format : { Format::Binary, Format::Xml }) {
-        QString error;
-        QVERIFY(plist::write(QVariantMap { { "bad", QPoint(1, 2) } }, format, &error).isEmpty());
-        QVERIFY(error.contains("QPoint"));
-        QVERIFY(plist::write(QVariantList { QVariant() }, format).isEmpty());
+        const Result<QByteArray> point = plist::write(QVariantMap { { "bad", QPoint(1, 2) } }, format);
+        QVERIFY(!point && point.error().text.contains("QPoint"));
+        QVERIFY(!plist::write(QVariantList { QVariant() }, format));
     }
 }
 
@@ -228,7 +232,7 @@ void TestPropertyList::plistlibReadsOurFiles()
         value.insert("fractionalDate", date(814000000.123456));
     QTemporaryDir dir;
     const QString file = dir.filePath("ours.plist"), json = dir.filePath("expected.json");
-    QVERIFY(plist::writeFile(file, value, format));
+    QVERIFY(!plist::writeFile(file, value, format));
     QFile out(json);
     QVERIFY(out.open(QIODevice::WriteOnly));
     out.write(QJsonDocument(tagged(value).toObject()).toJson());
@@ -274,10 +278,9 @@ void TestPropertyList::weReadPlistlibFiles()
         { "array", QVariantList { qint64(1), "two", 3.5, QVariantList(), QVariantMap() } },
         { "nested", QVariantMap { { "list", twenty }, { "key with space", QVariantMap { { "x", "y" } } } } },
     };
-    QString error;
-    const QVariant actual = plist::readFile(file, &error);
-    QVERIFY2(actual.isValid(), qPrintable(error));
-    QVERIFY(identical(actual, expected));
+    const Result<QVariant> actual = plist::readFile(file);
+    QVERIFY2(actual, qPrintable(actual.error().text));
+    QVERIFY(identical(actual.value(), expected));
 }
 
 void TestPropertyList::hostileInputIsRejected_data()
@@ -319,7 +322,7 @@ void TestPropertyList::hostileInputIsRejected_data()
     shared << "\x10\x01";
     QTest::newRow("shared subtrees") << "too many values" << bplist(shared);
 
-    QByteArray badTrailer = plist::write(QVariantList { 1, 2 }, Format::Binary);
+    QByteArray badTrailer = plist::write(QVariantList { 1, 2 }, Format::Binary).value();
     badTrailer[badTrailer.size() - 1] = '\x7F'; // offset table beyond the data
     QTest::newRow("offset table out of range") << "trailer" << badTrailer;
     QTest::newRow("unclosed XML") << "not a valid XML" << QByteArray("<plist><array><string>a");
@@ -331,22 +334,22 @@ void TestPropertyList::hostileInputIsRejected()
 {
     QFETCH(QString, reason);
     QFETCH(QByteArray, data);
-    QString error;
-    QVERIFY(!plist::read(data, &error).isValid());
-    QVERIFY2(error.contains(reason), qPrintable(error));
+    const Result<QVariant> read = plist::read(data);
+    QVERIFY(!read && !read.value().isValid());
+    QVERIFY2(read.error().text.contains(reason), qPrintable(read.error().text));
 }
 
 void TestPropertyList::truncatedAndRandomInputIsRejected()
 {
     const QVariantMap value { { "a", QVariantList { 1, 2.5, "three" } }, { "b", date(1.25) },
         { "c", QByteArray("xyz") } };
-    const QByteArray binary = plist::write(value, Format::Binary);
-    const QByteArray xml = plist::write(value, Format::Xml);
+    const QByteArray binary = plist::write(value, Format::Binary).value();
+    const QByteArray xml = plist::write(value, Format::Xml).value();
     const qsizetype rootEnd = xml.lastIndexOf("</dict>") + 7;
     for (qsizetype length = 0; length < binary.size(); ++length)
-        QVERIFY2(!plist::read(binary.left(length)).isValid(), qPrintable(QString::number(length)));
+        QVERIFY2(!plist::read(binary.left(length)), qPrintable(QString::number(length)));
     for (qsizetype length = 0; length < rootEnd; ++length)
-        QVERIFY2(!plist::read(xml.left(length)).isValid(), qPrintable(QString::number(length)));
+        QVERIFY2(!plist::read(xml.left(length)), qPrintable(QString::number(length)));
 
     // Random and mutated input: every result is a value or has a reason.
     QRandomGenerator random(20240701);
@@ -358,9 +361,8 @@ void TestPropertyList::truncatedAndRandomInputIsRejected()
                 data.append(char(random.bounded(256)));
             data[random.bounded(int(data.size()))] = char(random.bounded(256));
         }
-        QString error;
-        const QVariant result = plist::read(data, &error);
-        QVERIFY(result.isValid() || !error.isEmpty());
+        const Result<QVariant> result = plist::read(data);
+        QVERIFY(result ? result.value().isValid() : !result.error().text.isEmpty());
     }
 }
 
@@ -372,11 +374,10 @@ void TestPropertyList::regressionInputs()
         QFile file(it.next());
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray data = file.readAll();
-        QString plistError, archiveError;
-        const QVariant value = plist::read(data, &plistError);
-        QVERIFY2(value.isValid() || !plistError.isEmpty(), qPrintable(it.fileName()));
-        const QVariant archived = KeyedArchive::unarchive(data, &archiveError);
-        QVERIFY2(archived.isValid() || !archiveError.isEmpty(), qPrintable(it.fileName()));
+        const Result<QVariant> value = plist::read(data);
+        QVERIFY2(value ? value.value().isValid() : !value.error().text.isEmpty(), qPrintable(it.fileName()));
+        const Result<QVariant> archived = KeyedArchive::unarchive(data);
+        QVERIFY2(archived || !archived.error().text.isEmpty(), qPrintable(it.fileName()));
         ++count;
     }
     QVERIFY2(count > 0, "tests/plist/regressions holds no inputs");
@@ -386,16 +387,14 @@ void TestPropertyList::filesAreWrittenAtomically()
 {
     QTemporaryDir dir;
     const QString path = dir.filePath("doc.plist");
-    QVERIFY(plist::writeFile(path, QVariantMap { { "keep", "me" } }, Format::Xml));
-    QString error;
-    QVERIFY(!plist::writeFile(path, QVariantMap { { "bad", QVariant() } }, Format::Xml, &error));
-    QVERIFY(!error.isEmpty());
-    QVERIFY(identical(plist::readFile(path), QVariantMap { { "keep", "me" } }));
+    QVERIFY(!plist::writeFile(path, QVariantMap { { "keep", "me" } }, Format::Xml));
+    QVERIFY(!plist::writeFile(path, QVariantMap { { "bad", QVariant() } }, Format::Xml).text.isEmpty());
+    QVERIFY(identical(plist::readFile(path).value(), QVariantMap { { "keep", "me" } }));
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList { "doc.plist" });
 
-    QVERIFY(!plist::writeFile(dir.filePath("missing/doc.plist"), 1, Format::Binary, &error));
-    QVERIFY(!plist::readFile(dir.filePath("none.plist"), &error).isValid());
-    QVERIFY(error.contains("none.plist"));
+    QVERIFY(plist::writeFile(dir.filePath("missing/doc.plist"), 1, Format::Binary));
+    const Result<QVariant> none = plist::readFile(dir.filePath("none.plist"));
+    QVERIFY(!none && none.error().text.contains("none.plist"));
 }
 
 QTEST_GUILESS_MAIN(TestPropertyList)

@@ -1,8 +1,9 @@
 #include "app/AccountBook.h"
 
-#include "app/AppController.h"
 #include "app/Interaction.h"
 #include "app/OutputCommands.h"
+#include "app/Workspace.h"
+#include "domain/DocumentList.h"
 #include "domain/Record.h"
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
@@ -77,7 +78,7 @@ QString AccountBook::clientLine(const QString &address, const QString &clientNum
 
 QList<PrinterItem> AccountBook::items(const QList<Record *> &documents) const
 {
-    const Preferences &prefs = m_app.prefs();
+    const Preferences &prefs = m_prefs;
     const QString fonts = fontFamilies(prefs);
     QList<PrinterItem> items;
     items << rowItem(QStringLiteral("<div style=\"text-align: right; font-family: %1; font-size: 17px;\">%2</div>"
@@ -128,27 +129,27 @@ QList<PrinterItem> AccountBook::items(const QList<Record *> &documents) const
 bool AccountBook::writePdf(const QString &path, bool forPrint)
 {
     if (const Error refused = ProtectedFiles::check(path)) {
-        m_app.ui().presentError(refused);
+        m_ui.presentError(refused);
         return false;
     }
-    m_app.calculateDatabase();
-    PrinterDocument book(items(m_app.documentList().shown()));
+    m_list.calculateDatabase();
+    PrinterDocument book(items(m_list.documentList().shown()));
     book.topMargin = 60;
     book.bottomMargin = 40;
     book.footerView = PrinterTextView(
         QRectF(40, 0, 515, 40),
         QStringLiteral("<span style=\"font-family: %1; font-size: 6px; color: #777;\">"
                        "&lt;pageNumber/&gt; / &lt;pageCount/&gt;</span>")
-            .arg(fontFamilies(m_app.prefs())));
-    return book.writePdf(path, QStringLiteral("%1 | Account Book").arg(m_app.prefs().string(P::prefsName)),
+            .arg(fontFamilies(m_prefs)));
+    return book.writePdf(path, QStringLiteral("%1 | Account Book").arg(m_prefs.string(P::prefsName)),
                          forPrint ? QMarginsF(72, 40, 72, 40) : QMarginsF());
 }
 
 bool AccountBook::print()
 {
-    Preferences &prefs = m_app.prefs();
+    Preferences &prefs = m_prefs;
     if (!prefs.boolean(P::isAccountBookPrintHintShown)) {
-        m_app.ui().alert(
+        m_ui.alert(
             QStringLiteral("Hint!"),
             QStringLiteral("This feature is bound to the arranged invoices in Tabo's main window. This means you can, "
                            "for example, search for a client and therefore print out the account book just for this "
@@ -160,11 +161,11 @@ bool AccountBook::print()
     QDir().mkpath(Locations::dataFolder());
     const QString path = QDir(Locations::dataFolder()).filePath(QStringLiteral("AccountBook.pdf"));
     if (!writePdf(path, true)) {
-        m_app.ui().alert(QStringLiteral("Error!"), QStringLiteral("The account book could not be written."),
+        m_ui.alert(QStringLiteral("Error!"), QStringLiteral("The account book could not be written."),
                          {QStringLiteral("OK")});
         return false;
     }
-    return m_app.outputs().printPdf(path, QStringLiteral("%1 | Account Book").arg(prefs.string(P::prefsName)));
+    return m_outputs.printPdf(path, QStringLiteral("%1 | Account Book").arg(prefs.string(P::prefsName)));
 }
 
 } // namespace tabo

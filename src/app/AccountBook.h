@@ -5,7 +5,10 @@
 
 namespace tabo {
 
-class AppController;
+class Interaction;
+class ListedDocuments;
+class OutputCommands;
+class Preferences;
 class Record;
 struct PrinterItem;
 
@@ -15,7 +18,10 @@ struct PrinterItem;
 class AccountBook
 {
 public:
-    explicit AccountBook(AppController &app) : m_app(app) {}
+    AccountBook(ListedDocuments &list, OutputCommands &outputs, Preferences &prefs, Interaction &ui)
+        : m_list(list), m_outputs(outputs), m_prefs(prefs), m_ui(ui)
+    {
+    }
 
     // The blocks of the book for `documents` (only invoices are listed).
     QList<PrinterItem> items(const QList<Record *> &documents) const;
@@ -32,7 +38,10 @@ public:
     static QString clientLine(const QString &address, const QString &clientNumber);
 
 private:
-    AppController &m_app;
+    ListedDocuments &m_list;
+    OutputCommands &m_outputs;
+    Preferences &m_prefs;
+    Interaction &m_ui;
 };
 
 } // namespace tabo

@@ -146,8 +146,7 @@ QString AccountingExport::exportFilePath() const
 bool AccountingExport::closeVorluxSheet(bool open)
 {
     const QString path = exportFilePath();
-    QString error;
-    if (!plist::writeFile(path, entries(), plist::Format::Xml, &error)) {
+    if (plist::writeFile(path, entries(), plist::Format::Xml)) {
         m_ui.alert(QStringLiteral("Error!"), QStringLiteral("Could not write Vorlux/quandrella export data."),
                          {QStringLiteral("OK")});
         return false;

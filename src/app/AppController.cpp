@@ -1,5 +1,6 @@
 #include "app/AppController.h"
 
+#include "app/AccountBook.h"
 #include "app/AccountingExport.h"
 #include "app/BackupCommands.h"
 #include "app/DesignLibrary.h"
@@ -48,24 +49,31 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_prefs(prefs)
     , m_ui(ui)
     , m_undo(std::make_unique<UndoHistory>(*this, *this))
-    , m_documents(std::make_unique<DocumentCommands>(*this))
     , m_items(std::make_unique<ItemCommands>(*this, *this, *m_undo, prefs, ui))
     , m_templates(std::make_unique<TemplateCommands>(*this, *this, *m_undo, prefs, ui))
     , m_files(std::make_unique<FileCommands>(*this, *this, m_list, prefs, ui))
-    , m_backups(std::make_unique<BackupCommands>(*this))
+    , m_backups(std::make_unique<BackupCommands>(*this, *this, *this, *this, prefs, ui))
     , m_accounting(std::make_unique<AccountingExport>(*this, m_list, prefs, ui))
     , m_designs(std::make_unique<DesignLibrary>(*this, prefs, ui))
-    , m_outputs(std::make_unique<OutputCommands>(*this))
-    , m_reports(std::make_unique<ReportCommands>(*this))
-    , m_notifications(std::make_unique<NotificationCommands>(*this))
-    , m_einvoices(std::make_unique<EInvoiceCommands>(*this))
+    , m_outputs(std::make_unique<OutputCommands>(*this, *m_designs, *m_files, *m_undo, *this, prefs, ui))
+    , m_documents(std::make_unique<DocumentCommands>(*this, *this, *this, *this, *m_undo, m_outputs->formatters(),
+                                                     prefs, ui))
+    , m_reports(std::make_unique<ReportCommands>(*this, *m_outputs, prefs, ui))
+    , m_notifications(std::make_unique<NotificationCommands>(*this, *this, *this, prefs, ui))
+    , m_einvoices(std::make_unique<EInvoiceCommands>(*this, *m_documents, *m_outputs, prefs, ui))
 {
+    m_outputs->setEInvoices(*m_einvoices);
     setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });
     SyntaxDefinition::registerColorDefaults(m_prefs);
     // Known before it is opened (the default one always is), and without
     // creating its folder.
     if (m_prefs.boolean(P::useCustomPath))
         ProtectedFiles::addStore(storeFilePath());
+}
+
+AccountBook AppController::accountBook()
+{
+    return AccountBook(*this, *m_outputs, m_prefs, m_ui);
 }
 
 AppController::~AppController()
@@ -176,9 +184,7 @@ bool AppController::offerAutomaticBackup(const Error &empty)
 {
     // An empty store is what a full disk or a failed copy leaves, not a new
     // installation: the documents can come back from the automatic backup.
-    if (m_backupPath.isEmpty())
-        createBackupPath();
-    if (!QFileInfo(m_backupPath).isFile())
+    if (!QFileInfo(automaticBackupFile()).isFile())
         return false;
     const int answer = m_ui.alert(
         QStringLiteral("Error!"),
@@ -278,9 +284,9 @@ void AppController::storeChangedElsewhere()
     Q_EMIT currentInvoiceChanged(m_current);
 }
 
-void AppController::numberInSave(Record *document, QString (AppController::*numberer)() const, bool countsItself)
+void AppController::numberInSave(Record *document, Kind kind)
 {
-    m_pendingNumbers.append({document, numberer, countsItself});
+    m_pendingNumbers.append({document, kind});
 }
 
 namespace {
@@ -330,15 +336,16 @@ void AppController::renumberPending()
     for (const PendingNumber &p : std::as_const(m_pendingNumbers)) {
         if (p.document->isDeleted() || (!recount && !held(p.document, p.document->text(Invoice::number))))
             continue;
-        const P::Key counter = p.numberer == &AppController::quoteNumberString ? P::quotCount : P::invCount;
+        const P::Key counter = p.kind == Kind::Quote ? P::quotCount : P::invCount;
         const qint64 counted = m_prefs.integer(counter);
-        if (!p.countsItself)
+        const bool countsItself = p.kind == Kind::ConvertedInvoice;
+        if (!countsItself)
             m_list.remove(p.document);
         m_list.calculateDatabase(now());
-        QString number = (this->*p.numberer)();
+        QString number = nextNumber(p.kind);
         for (int skipped = 0; held(p.document, number) && skipped < kMaxSkips; ++skipped) {
             m_prefs.setString(counter, QString::number(m_prefs.integer(counter) + 1));
-            const QString next = (this->*p.numberer)();
+            const QString next = nextNumber(p.kind);
             if (next == number) // the pattern has no count: nothing to skip to
                 break;
             number = next;
@@ -346,7 +353,7 @@ void AppController::renumberPending()
         if (m_prefs.integer(counter) != counted)
             NumberCounters::write(m_store->handle(), Preferences::info(counter).name, m_prefs.integer(counter));
         p.document->setText(Invoice::number, number);
-        if (!p.countsItself)
+        if (!countsItself)
             m_list.add(p.document);
         renumbered = true;
     }
@@ -404,6 +411,13 @@ QString AppController::pdfEmailPath() const
 {
     return m_pdfEmailPath.isEmpty() ? applicationFilesDirectory() + QStringLiteral("/PDFInvoice.pdf")
                                     : m_pdfEmailPath;
+}
+
+QString AppController::automaticBackupFile()
+{
+    if (m_backupPath.isEmpty())
+        createBackupPath();
+    return m_backupPath;
 }
 
 void AppController::createBackupPath()
@@ -672,29 +686,6 @@ void AppController::applyFilter()
     showAnew();
 }
 
-ReportFigures AppController::generateReport()
-{
-    Report::Range range;
-    if (m_prefs.boolean(P::useReportDateRange))
-        range = std::pair(m_prefs.date(P::reportDateL), m_prefs.date(P::reportDateR));
-    return generateReport(range);
-}
-
-ReportFigures AppController::generateReport(const Report::Range &range)
-{
-    calculateDatabase();
-    return Report::compute(m_list.shown(), range);
-}
-
-QString AppController::reportPage(const ReportFigures &figures) const
-{
-    const QString comment = QStringLiteral("%1 | %2 | %3")
-                                .arg(QStringLiteral("Report"), m_prefs.string(P::prefsName),
-                                     Numbering::getPatternDateStringFromDate(m_prefs, now()));
-    return Report::page(Report::chartTemplate(), figures, Report::chartScript(), comment,
-                        QLocale(m_prefs.documentRegion()));
-}
-
 void AppController::setSearchText(const QString &text)
 {
     DocumentList::Search search;
@@ -765,11 +756,6 @@ void AppController::setCurrentInvoice(Record *invoice)
     Q_EMIT currentInvoiceChanged(invoice);
 }
 
-Date AppController::futureDateFromTodayWithDays(qint64 days) const
-{
-    return now().addSeconds(86400.0 * double(days));
-}
-
 Record *AppController::addInvoice()
 {
     return newDocument(true);
@@ -792,9 +778,10 @@ Record *AppController::newDocument(bool invoice)
     Record *doc = store->insert(EntityId::Invoice);
     doc->setText(Invoice::uniqueID, newUniqueId());
     const bool numbered = m_prefs.boolean(invoice ? P::invHaveNumber : P::quotHaveNumber);
-    doc->setText(Invoice::number, numbered ? (invoice ? invoiceNumberString() : quoteNumberString()) : QString(""));
+    const Kind kind = invoice ? Kind::Invoice : Kind::Quote;
+    doc->setText(Invoice::number, numbered ? nextNumber(kind) : QString(""));
     if (numbered)
-        numberInSave(doc, invoice ? &AppController::invoiceNumberString : &AppController::quoteNumberString, false);
+        numberInSave(doc, kind);
 
     const auto pref = [this](P::Key key) { return m_prefs.contains(key) ? m_prefs.string(key) : QStringLiteral(""); };
     doc->setText(Invoice::address, QStringLiteral(""));
@@ -930,18 +917,25 @@ void AppController::documentRemoved(Record *document)
     calculateDatabase();
 }
 
-QString AppController::invoiceNumberString() const
+void AppController::reloadList()
 {
-    return Numbering::invoiceNumberString(m_prefs, m_list.summary(), now());
+    if (m_current && !m_list.all().contains(m_current))
+        setCurrentInvoice(nullptr);
+    m_list.reload(m_store.get());
+    calculateDatabase();
+    Q_EMIT listChanged();
 }
 
-QString AppController::quoteNumberString() const
+QString AppController::nextNumber(Kind kind) const
 {
-    return Numbering::quoteNumberString(m_prefs, m_list.summary(), now());
-}
-
-QString AppController::convertedInvoiceNumberString() const
-{
+    switch (kind) {
+    case Kind::Invoice:
+        return Numbering::invoiceNumberString(m_prefs, m_list.summary(), now());
+    case Kind::Quote:
+        return Numbering::quoteNumberString(m_prefs, m_list.summary(), now());
+    case Kind::ConvertedInvoice:
+        break;
+    }
     return Numbering::convertedInvoiceNumberString(m_prefs, m_list.summary(), now());
 }
 

@@ -16,6 +16,7 @@
 
 namespace tabo {
 
+class AccountBook;
 class AccountingExport;
 class BackupCommands;
 class DesignLibrary;
@@ -35,7 +36,12 @@ class Store;
 // The application controller: owns the store, the document list, the current
 // document and the summary figures, and runs every command. It never touches
 // a widget; whatever it needs from the person goes through Interaction.
-class AppController : public QObject, public StoreAccess, public CurrentDocument
+class AppController : public QObject,
+                      public StoreAccess,
+                      public CurrentDocument,
+                      public ListedDocuments,
+                      public DocumentNumbers,
+                      public WorkingFiles
 {
     Q_OBJECT
 
@@ -52,7 +58,7 @@ public:
     static QString applicationFilesDirectory();
     // The store file that is (or would be) opened: the custom folder while
     // `useCustomPath` is on, else the default folder; "Tabo.mbdb" in it.
-    QString storeFilePath() const;
+    QString storeFilePath() const override;
     QString storeURL() const { return m_storeURL; }
 
     // The open store, through which every command reads and changes records.
@@ -60,7 +66,7 @@ public:
     // that the first-start assistant and the upgrade prompt come first.
     // nullptr when there is none; the reason has been presented once.
     Store *store() override;
-    bool hasStore() const { return m_store != nullptr; }
+    bool hasStore() const override { return m_store != nullptr; }
     bool isTerminating() const { return m_terminating; }
 
     // Saves what changed; a failure is presented and returned. When another
@@ -128,50 +134,42 @@ public:
     QString backupPath() const { return m_backupPath; }
     // The working PDF of every rendering and the e-mail attachment, in the
     // application's data folder (settled at start-up, or on first use).
-    QString pdfPath() const;
-    QString pdfEmailPath() const;
+    QString pdfPath() const override;
+    QString pdfEmailPath() const override;
     void createBackupPath();
+    QString automaticBackupFile() override;
     // Files handed to us from outside are refused: always false.
     bool openFileFromOutside(const QString &path);
 
     // ---- Document list, filter and summary ----
-    DocumentList &documentList() { return m_list; }
+    DocumentList &documentList() override { return m_list; }
     const Summary &summary() const { return m_list.summary(); }
     unsigned filterTag() const { return m_list.filterTag(); }
-    void setFilterTag(unsigned tag);
+    void setFilterTag(unsigned tag) override;
     // The search field over the list, combined with the filter; the
     // summary follows what is shown.
     void setSearchText(const QString &text);
     void applyFilter();
-    // The report over what the list shows, after a summary pass; the range
-    // from the preferences when `useReportDateRange` is on.
-    ReportFigures generateReport();
-    ReportFigures generateReport(const Report::Range &range);
-    // The report page of those figures ("Report | company | today").
-    QString reportPage(const ReportFigures &figures) const;
     // The filter button: with a filter on it clears it and returns false;
     // otherwise returns true (the caller opens the popover).
     bool openFilterPopover();
     void selectFilterAction(unsigned tag);
     // The list down to the invoice with that unique ID ("LIKE": "*" and "?"
     // are wildcards), its first row selected; a deleted one leaves it empty.
-    void filterForInvoice(const QString &uniqueID);
+    void filterForInvoice(const QString &uniqueID) override;
     // True when the filter button shows "torchGlow".
     bool filterGlows() const { return m_list.filterTag() != 0; }
 
-    void calculateDatabase();
-    void calculateInvoice(Record *invoice);
+    void calculateDatabase() override;
+    void calculateInvoice(Record *invoice) override;
 
     // ---- Documents ----
     Record *currentInvoice() const override { return m_current; }
     void setCurrentInvoice(Record *invoice) override;
     Record *addInvoice();
     Record *addQuote();
-    Date futureDateFromTodayWithDays(qint64 days) const;
 
-    QString invoiceNumberString() const;
-    QString quoteNumberString() const;
-    QString convertedInvoiceNumberString() const;
+    QString nextNumber(Kind kind) const override;
     QString clientNumberString();
     QString getPatternDateStringFromDate(Date date) const;
 
@@ -193,13 +191,15 @@ public:
     AccountingExport &accounting() { return *m_accounting; }
     DesignLibrary &designs() { return *m_designs; }
     OutputCommands &outputs() { return *m_outputs; }
+    // The book of what the list shows; made when asked, as it keeps nothing.
+    AccountBook accountBook();
 
     // Closes the store (saving first) and opens the file at storeURL again;
     // used by the restores. False (with the error presented) when it cannot
     // be opened.
-    bool reopenStore();
+    bool reopenStore() override;
     // Closes the store without reopening (the file can then be replaced).
-    Error closeStore();
+    Error closeStore() override;
 
     // The change observer: after any edit of a document, recalculate it, run
     // the summary pass, keep the list in date order, save, and tell the views.
@@ -211,12 +211,12 @@ public:
     // `startedFrom`: the value the person saw when they began the edit; when
     // the stored value has changed since (another program, a restore), they
     // are asked which to keep.
-    bool setDocumentValue(Record *document, int attr, const QVariant &value, const QVariant &startedFrom = {});
+    bool setDocumentValue(Record *document, int attr, const QVariant &value,
+                          const QVariant &startedFrom = {}) override;
     // The document's number depends on the other documents: it is computed
     // again inside the save that writes it when another program added
-    // documents meanwhile. `countsItself` for a converted quote, which is in
-    // the count already.
-    void numberInSave(Record *document, QString (AppController::*numberer)() const, bool countsItself);
+    // documents meanwhile.
+    void numberInSave(Record *document, Kind kind) override;
     // For programs whose every change is a command given on purpose (the
     // command line): a save that clashes with another program's is retried
     // with both changes instead of asking "Changed Elsewhere".
@@ -225,11 +225,12 @@ public:
     // the settings mirror them. Sets one as the person chose it, or raises it
     // by one (after a deletion), in a write of the store.
     Error setNumberCounter(Preferences::Key counter, qint64 value);
-    Error raiseNumberCounter(Preferences::Key counter);
+    Error raiseNumberCounter(Preferences::Key counter) override;
 
     // A document was removed from the store: drop it from the list and the
     // current selection.
-    void documentRemoved(Record *document);
+    void documentRemoved(Record *document) override;
+    void reloadList() override;
     // Adds a created document to the list, resets the filter tag and selects
     // it (the creating commands' common ending).
     void documentCreated(Record *document) override;
@@ -261,8 +262,7 @@ private:
     struct PendingNumber
     {
         Record *document;
-        QString (AppController::*numberer)() const;
-        bool countsItself;
+        Kind kind;
     };
     QList<PendingNumber> m_pendingNumbers;
     bool m_changedDuringSave = false;
@@ -279,7 +279,7 @@ private:
     std::unique_ptr<UndoHistory> m_undo;
     QSet<QString> m_dueDateAsked; // unique IDs
     std::function<void()> m_backupBeforeMove;
-    std::unique_ptr<DocumentCommands> m_documents;
+    // In the order they are made: each takes the ones before it.
     std::unique_ptr<ItemCommands> m_items;
     std::unique_ptr<TemplateCommands> m_templates;
     std::unique_ptr<FileCommands> m_files;
@@ -287,6 +287,7 @@ private:
     std::unique_ptr<AccountingExport> m_accounting;
     std::unique_ptr<DesignLibrary> m_designs;
     std::unique_ptr<OutputCommands> m_outputs;
+    std::unique_ptr<DocumentCommands> m_documents;
     std::unique_ptr<ReportCommands> m_reports;
     std::unique_ptr<NotificationCommands> m_notifications;
     std::unique_ptr<EInvoiceCommands> m_einvoices;

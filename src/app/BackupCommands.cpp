@@ -1,7 +1,8 @@
 #include "app/BackupCommands.h"
 
-#include "app/AppController.h"
 #include "app/Interaction.h"
+#include "app/Workspace.h"
+#include "domain/DocumentList.h"
 #include "domain/Record.h"
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
@@ -28,23 +29,6 @@ const QString kOK = QStringLiteral("OK");
 const QString kRestore = QStringLiteral("Restore…");
 const QString kCancel = QStringLiteral("Cancel");
 
-// The store a backup is taken of, when it passes its check: a copy of a
-// damaged store would replace the one good copy the person is told to restore.
-Store *checkedStore(AppController &app, QString *error)
-{
-    Store *store = app.store();
-    if (!store) {
-        *error = QStringLiteral("There is no database to back up.");
-        return nullptr;
-    }
-    if (const Error e = store->checkIntegrity()) {
-        *error = QStringLiteral("No backup was taken: the database fails its check, and a backup of it would be "
-                                "no better. %1").arg(e.message());
-        return nullptr;
-    }
-    return store;
-}
-
 QVariantList recordList(Store &store, EntityId entity)
 {
     const QList<Record *> records = store.all(entity);
@@ -54,32 +38,6 @@ QVariantList recordList(Store &store, EntityId entity)
     for (const Record *r : records)
         list.append(ObjectDictionary::toDictionary(*r));
     return list;
-}
-
-bool writeRecords(AppController &app, EntityId entity, const QString &path, QString *error)
-{
-    Store *store = checkedStore(app, error);
-    if (!store)
-        return false;
-    if (const Error e = app.save()) {
-        *error = e.message();
-        return false;
-    }
-    if (!plist::writeFile(path, recordList(*store, entity), plist::Format::Xml, error)) {
-        qWarning().noquote() << QStringLiteral("Unable to write %1: %2").arg(path, *error);
-        return false;
-    }
-    return true;
-}
-
-// Forgets a restore whose save failed: the store and the list as saved before.
-void rollBack(AppController &app, Store &store)
-{
-    app.setCurrentInvoice(nullptr);
-    store.reset();
-    app.documentList().reload(&store);
-    app.calculateDatabase();
-    Q_EMIT app.listChanged();
 }
 
 // The entity a dictionary describes: its "class" when it names one, else
@@ -144,13 +102,57 @@ QString fileKind(const QString &path, const QVariant &root)
     return QStringLiteral("It does not hold a list of records.");
 }
 
+} // namespace
+
+// The store a backup is taken of, when it passes its check: a copy of a
+// damaged store would replace the one good copy the person is told to restore.
+Store *BackupCommands::checkedStore(Error &error)
+{
+    Store *store = m_access.store();
+    if (!store) {
+        error = Error{Error::Tabo, 1, QStringLiteral("There is no database to back up."), {}};
+        return nullptr;
+    }
+    if (const Error e = store->checkIntegrity()) {
+        error = Error{Error::Store, e.code,
+                      QStringLiteral("No backup was taken: the database fails its check, and a backup of it would be "
+                                     "no better. %1").arg(e.message()), {}};
+        return nullptr;
+    }
+    return store;
+}
+
+Error BackupCommands::writeRecords(EntityId entity, const QString &path)
+{
+    Error error;
+    Store *store = checkedStore(error);
+    if (!store)
+        return error;
+    if (Error e = m_access.save())
+        return e;
+    if (Error e = plist::writeFile(path, recordList(*store, entity), plist::Format::Xml)) {
+        qWarning().noquote() << QStringLiteral("Unable to write %1: %2").arg(path, e.message());
+        return e;
+    }
+    return {};
+}
+
+// Forgets a restore whose save failed: the store and the list as saved before.
+void BackupCommands::rollBack(Store &store)
+{
+    m_current.setCurrentInvoice(nullptr);
+    store.reset();
+    m_list.reloadList();
+}
+
 // Replaces the shown records of `entity` by the dictionaries in the file. The
 // file is read and its kind checked before anything is removed, and
 // everything goes in one save.
-bool restoreRecords(AppController &app, EntityId entity, const QString &path, const QString &what, QString *error)
+Error BackupCommands::restoreRecords(EntityId entity, const QString &path, const QString &what)
 {
-    QString reason;
-    const QVariant root = plist::readFile(path, &reason);
+    const Result<QVariant> read = plist::readFile(path);
+    const QVariant root = read.value();
+    QString reason = read.error().message();
     QVariantList list;
     if (root.typeId() == QMetaType::QVariantList) {
         list = root.toList();
@@ -167,24 +169,20 @@ bool restoreRecords(AppController &app, EntityId entity, const QString &path, co
         reason = QStringLiteral("It could not be read.");
     }
     if (!reason.isEmpty()) {
-        *error = QStringLiteral("The file “%1” is not a %2. %3").arg(QFileInfo(path).fileName(), what, reason);
-        app.ui().alert(kError, *error, {kOK});
-        return false;
+        const QString text = QStringLiteral("The file “%1” is not a %2. %3").arg(QFileInfo(path).fileName(), what, reason);
+        m_ui.alert(kError, text, {kOK});
+        return Error::file(text);
     }
 
-    Store *store = app.store();
-    if (!store) {
-        *error = QStringLiteral("There is no database to restore into.");
-        return false;
-    }
-    if (const Error e = app.save()) {
-        *error = e.message();
-        return false;
-    }
+    Store *store = m_access.store();
+    if (!store)
+        return Error{Error::Tabo, 1, QStringLiteral("There is no database to restore into."), {}};
+    if (Error e = m_access.save())
+        return e;
     const bool documents = entity == EntityId::Invoice;
-    const QList<Record *> shown = documents ? app.documentList().shown() : store->all(entity);
-    if (documents && shown.contains(app.currentInvoice()))
-        app.setCurrentInvoice(nullptr);
+    const QList<Record *> shown = documents ? m_list.documentList().shown() : store->all(entity);
+    if (documents && shown.contains(m_current.currentInvoice()))
+        m_current.setCurrentInvoice(nullptr);
     for (Record *r : shown)
         store->remove(r);
     const QString className = entityDesc(entity).name;
@@ -193,18 +191,14 @@ bool restoreRecords(AppController &app, EntityId entity, const QString &path, co
         dictionary.insert(ObjectDictionary::kClassKey, className);
         ObjectDictionary::createManagedObjectFromDictionary(dictionary, *store);
     }
-    if (const Error e = store->save()) {
-        rollBack(app, *store);
-        app.ui().presentError(e);
-        *error = e.message();
-        return false;
+    if (Error e = store->save()) {
+        rollBack(*store);
+        m_ui.presentError(e);
+        return e;
     }
-    if (documents) {
-        app.documentList().reload(store);
-        app.calculateDatabase();
-        Q_EMIT app.listChanged();
-    }
-    return true;
+    if (documents)
+        m_list.reloadList();
+    return {};
 }
 
 // Puts the checked copy's content in place of the store the application uses.
@@ -212,66 +206,55 @@ bool restoreRecords(AppController &app, EntityId entity, const QString &path, co
 // other process that has the store open (the window, tabo-cli), and nobody
 // keeps working on a file that was renamed away. Only a store that cannot be
 // opened (damaged, empty), which nobody can be working on, is replaced as a file.
-Error swapIn(AppController &app, StoreFile &copy)
+Error BackupCommands::swapIn(StoreFile &copy)
 {
-    Store *store = app.hasStore() ? app.store() : nullptr;
+    Store *store = m_access.hasStore() ? m_access.store() : nullptr;
     if (store && !store->isDamaged()) {
         StoreFile::pauseForTest();
         if (Error e = store->replaceContentFrom(copy.path()))
             return e;
-        app.reopenStore();
+        m_access.reopenStore();
         return {};
     }
-    return copy.swapIn([&app] { app.closeStore(); }, [&app] { return app.reopenStore(); });
+    return copy.swapIn([this] { m_access.closeStore(); }, [this] { return m_access.reopenStore(); });
 }
 
-} // namespace
 
 bool BackupCommands::backupCompleteTaboData()
 {
-    if (!m_app.store() || m_app.save())
+    if (!m_access.store() || m_access.save())
         return false;
     Interaction::FileRequest request;
     request.title = QStringLiteral("Backup Tabo Database");
     request.extensions = {QStringLiteral("mbdb")};
     request.suggestedName = QStringLiteral("Tabo 2 Database");
     request.canCreateFolders = true;
-    const QString path = m_app.ui().saveTarget(request);
+    const QString path = m_ui.saveTarget(request);
     if (path.isEmpty())
         return false;
-    QString error;
-    return writeCompleteBackup(path, &error);
+    return !writeCompleteBackup(path);
 }
 
-bool BackupCommands::writeCompleteBackup(const QString &chosenPath, QString *error)
+Error BackupCommands::writeCompleteBackup(const QString &chosenPath)
 {
-    Store *store = m_app.store();
-    if (!store) {
-        *error = QStringLiteral("There is no database to back up.");
-        return false;
-    }
-    if (const Error e = m_app.save()) {
-        *error = e.message();
-        return false;
-    }
+    Store *store = m_access.store();
+    if (!store)
+        return Error{Error::Tabo, 1, QStringLiteral("There is no database to back up."), {}};
+    if (Error e = m_access.save())
+        return e;
     const QFileInfo chosen(chosenPath);
     const QString target = chosen.absolutePath() + QLatin1Char('/') + chosen.completeBaseName() + QStringLiteral(".tabo2db");
-    if (const Error refused = ProtectedFiles::check(target)) {
-        *error = refused.text;
-        return false;
-    }
-    if (!checkedStore(m_app, error))
-        return false;
-    if (const Error e = StoreFile::writeCopy(*store, target)) {
-        *error = e.message();
-        return false;
-    }
-    return true;
+    if (Error refused = ProtectedFiles::check(target))
+        return refused;
+    Error error;
+    if (!checkedStore(error))
+        return error;
+    return StoreFile::writeCopy(*store, target);
 }
 
 bool BackupCommands::restoreCompleteTaboData()
 {
-    const int answer = m_app.ui().alert(
+    const int answer = m_ui.alert(
         kWarning,
         QStringLiteral("You are about to restore your entire Tabo database from a backup. This will irretrievably "
                        "replace any existing data. Do you really want to do that?"),
@@ -281,24 +264,22 @@ bool BackupCommands::restoreCompleteTaboData()
     Interaction::FileRequest request;
     request.title = QStringLiteral("Restore Tabo 2 Database");
     request.extensions = {QStringLiteral("tabo2db")};
-    const QString path = m_app.ui().openFile(request);
+    const QString path = m_ui.openFile(request);
     if (path.isEmpty())
         return false;
-    QString error;
-    return restoreCompleteBackup(path, &error);
+    return !restoreCompleteBackup(path);
 }
 
-bool BackupCommands::restoreCompleteBackup(const QString &backupPath, QString *error)
+Error BackupCommands::restoreCompleteBackup(const QString &backupPath)
 {
     // Opened first so that an interrupted earlier restore is settled; a store
     // that does not open at all can still be replaced.
-    m_app.store();
-    const QString storePath = m_app.storeFilePath();
+    m_access.store();
+    const QString storePath = m_files.storeFilePath();
     const QString name = QFileInfo(backupPath).fileName();
     const auto fail = [&](const QString &text) {
-        *error = text;
-        m_app.ui().alert(kError, text, {kOK});
-        return false;
+        m_ui.alert(kError, text, {kOK});
+        return Error::file(text);
     };
 
     StoreFile copy(storePath);
@@ -309,7 +290,7 @@ bool BackupCommands::restoreCompleteBackup(const QString &backupPath, QString *e
         return fail(QStringLiteral("The file “%1” could not be restored. %2").arg(name, e.message()));
     if (const Error e = copy.check()) {
         // A list of records read as what it is tells which restore fits.
-        const QVariant root = plist::readFile(backupPath, nullptr);
+        const QVariant root = plist::readFile(backupPath).value();
         const QVariantList list = root.toList();
         const QString kind = !list.isEmpty() && list.first().typeId() == QMetaType::QVariantMap
                                  ? QStringLiteral("It holds %1.").arg(kindInWords(entityOf(list.first().toMap())))
@@ -318,36 +299,32 @@ bool BackupCommands::restoreCompleteBackup(const QString &backupPath, QString *e
         return fail(QStringLiteral("The file “%1” is not a Tabo database backup. %2").arg(name, kind));
     }
     StoreFile::pauseForTest();
-    if (m_app.hasStore()) {
-        if (const Error e = m_app.save()) {
-            *error = e.message();
-            return false;
-        }
-    }
-    if (const Error e = swapIn(m_app, copy))
+    if (m_access.hasStore())
+        if (Error e = m_access.save())
+            return e;
+    if (const Error e = swapIn(copy))
         return fail(QStringLiteral("The database could not be restored from “%1”. %2 Your previous data are still in "
                                    "place.").arg(name, e.message()));
-    return true;
+    return {};
 }
 
 bool BackupCommands::backupTaboData()
 {
-    if (!m_app.store() || m_app.save())
+    if (!m_access.store() || m_access.save())
         return false;
     Interaction::FileRequest request;
     request.title = QStringLiteral("Backup Tabo Invoices");
     request.extensions = {QStringLiteral("taboinvoices")};
     request.suggestedName = QStringLiteral("Tabo Invoices");
-    const QString path = m_app.ui().saveTarget(request);
+    const QString path = m_ui.saveTarget(request);
     if (path.isEmpty())
         return false;
-    QString error;
-    return writeInvoiceBackup(path, &error);
+    return !writeInvoiceBackup(path);
 }
 
 bool BackupCommands::restoreTaboData()
 {
-    const int answer = m_app.ui().alert(
+    const int answer = m_ui.alert(
         kWarning,
         QStringLiteral("You are about to restore your Tabo invoices from a backup. This will irretrievably replace "
                        "any existing invoices. Do you really want to do that?"),
@@ -357,31 +334,29 @@ bool BackupCommands::restoreTaboData()
     Interaction::FileRequest request;
     request.title = QStringLiteral("Restore Tabo Invoices");
     request.extensions = {QStringLiteral("taboinvoices")};
-    const QString path = m_app.ui().openFile(request);
+    const QString path = m_ui.openFile(request);
     if (path.isEmpty())
         return false;
-    QString error;
-    return restoreInvoiceBackup(path, &error);
+    return !restoreInvoiceBackup(path);
 }
 
 bool BackupCommands::backupItems()
 {
-    if (!m_app.store() || m_app.save())
+    if (!m_access.store() || m_access.save())
         return false;
     Interaction::FileRequest request;
     request.title = QStringLiteral("Backup Tabo Items");
     request.extensions = {QStringLiteral("taboitems")};
     request.suggestedName = QStringLiteral("Tabo Items");
-    const QString path = m_app.ui().saveTarget(request);
+    const QString path = m_ui.saveTarget(request);
     if (path.isEmpty())
         return false;
-    QString error;
-    return writeItemBackup(path, &error);
+    return !writeItemBackup(path);
 }
 
 bool BackupCommands::restoreItems()
 {
-    const int answer = m_app.ui().alert(
+    const int answer = m_ui.alert(
         kWarning,
         QStringLiteral("You are about to restore your Tabo items from a backup. This will irretrievably replace any "
                        "existing items. Do you really want to do that?"),
@@ -391,42 +366,41 @@ bool BackupCommands::restoreItems()
     Interaction::FileRequest request;
     request.title = QStringLiteral("Restore Tabo Items");
     request.extensions = {QStringLiteral("taboitems")};
-    const QString path = m_app.ui().openFile(request);
+    const QString path = m_ui.openFile(request);
     if (path.isEmpty())
         return false;
-    QString error;
-    return restoreItemBackup(path, &error);
+    return !restoreItemBackup(path);
 }
 
-bool BackupCommands::writeInvoiceBackup(const QString &path, QString *error)
+Error BackupCommands::writeInvoiceBackup(const QString &path)
 {
-    return writeRecords(m_app, EntityId::Invoice, path, error);
+    return writeRecords(EntityId::Invoice, path);
 }
 
-bool BackupCommands::restoreInvoiceBackup(const QString &path, QString *error)
+Error BackupCommands::restoreInvoiceBackup(const QString &path)
 {
-    return restoreRecords(m_app, EntityId::Invoice, path, QStringLiteral("Tabo invoice backup"), error);
+    return restoreRecords(EntityId::Invoice, path, QStringLiteral("Tabo invoice backup"));
 }
 
-bool BackupCommands::writeItemBackup(const QString &path, QString *error)
+Error BackupCommands::writeItemBackup(const QString &path)
 {
-    return writeRecords(m_app, EntityId::RecentItem, path, error);
+    return writeRecords(EntityId::RecentItem, path);
 }
 
-bool BackupCommands::restoreItemBackup(const QString &path, QString *error)
+Error BackupCommands::restoreItemBackup(const QString &path)
 {
-    return restoreRecords(m_app, EntityId::RecentItem, path, QStringLiteral("Tabo item backup"), error);
+    return restoreRecords(EntityId::RecentItem, path, QStringLiteral("Tabo item backup"));
 }
 
 bool BackupCommands::createBackup()
 {
-    Preferences &prefs = m_app.prefs();
+    Preferences &prefs = m_prefs;
     // The first run after the upgrade has nothing worth keeping yet.
     if (!prefs.boolean(P::isDatabase2Migrated)) {
         prefs.setBool(P::isDatabase2Migrated, true);
         return false;
     }
-    Store *store = m_app.store();
+    Store *store = m_access.store();
     if (!store)
         return false;
     // An unexpected change of the count must not overwrite the last good backup.
@@ -435,23 +409,19 @@ bool BackupCommands::createBackup()
             prefs.setBool(P::justMigratedFrommFree, false);
         return false;
     }
-    return doTheNewBackup();
+    return !doTheNewBackup();
 }
 
-bool BackupCommands::doTheNewBackup(QString *error)
+Error BackupCommands::doTheNewBackup()
 {
-    QString reason;
-    if (!error)
-        error = &reason;
-    if (m_app.backupPath().isEmpty())
-        m_app.createBackupPath();
-    const QString path = m_app.backupPath();
-    Store *store = checkedStore(m_app, error);
+    const QString path = m_files.automaticBackupFile();
+    Error error;
+    Store *store = checkedStore(error);
     if (!store)
-        return false;
-    const QByteArray data = plist::write(recordList(*store, EntityId::Invoice), plist::Format::Xml, error);
-    if (data.isEmpty())
-        return false;
+        return error;
+    const Result<QByteArray> data = plist::write(recordList(*store, EntityId::Invoice), plist::Format::Xml);
+    if (!data)
+        return data.error();
     QDir().mkpath(QFileInfo(path).absolutePath());
     // The older generations move down one place before the newest is
     // written, so a store that went bad unnoticed never replaces them all.
@@ -462,55 +432,51 @@ bool BackupCommands::doTheNewBackup(QString *error)
         QFile::remove(generations[i]);
         QFile::rename(generations[i - 1], generations[i]);
     }
-    if (const Error e = ProtectedFiles::writeAtomically(path, data, ProtectedFiles::Writer::AutomaticBackup)) {
-        *error = e.text;
+    if (Error e = ProtectedFiles::writeAtomically(path, data.value(), ProtectedFiles::Writer::AutomaticBackup)) {
         qWarning().noquote() << QStringLiteral("Unable to write %1: %2").arg(path, e.text);
-        return false;
+        return e;
     }
-    return true;
+    return {};
 }
 
 bool BackupCommands::restoreFromBackup()
 {
-    if (m_app.backupPath().isEmpty())
-        m_app.createBackupPath();
     // The newest generation there is: a kill between the rotation and the
     // write leaves the last backup one place down.
-    QString path = m_app.backupPath();
+    QString path = m_files.automaticBackupFile();
     for (const QString &generation : Locations::automaticBackupFiles())
         if (QFileInfo(generation).isFile()) {
             path = generation;
             break;
         }
     if (!QFileInfo(path).isFile()) {
-        m_app.ui().alert(kError,
+        m_ui.alert(kError,
                          QStringLiteral("No valid backup file available. Please restore your Tabo database from your "
                                         "own (Time Machine) backups."),
                          {kOK});
         return false;
     }
-    QString error;
-    return restoreInvoiceBackup(path, &error);
+    return !restoreInvoiceBackup(path);
 }
 
 bool BackupCommands::restoreAutomaticallyFromSandbox()
 {
-    const QString source = AppController::applicationFilesDirectory() + QStringLiteral("/Tabo.mbdb");
-    const QString storePath = m_app.storeFilePath();
+    const QString source = Locations::dataFile(QStringLiteral("Tabo.mbdb"));
+    const QString storePath = m_files.storeFilePath();
     if (Locations::sameFile(source, storePath))
         return false;
     qInfo().noquote() << QStringLiteral("restoreAutomaticallyFromSandbox '%1'.").arg(storePath);
     const auto fail = [this](const QString &description, const QString &reason) {
         if (!description.isEmpty())
-            m_app.ui().presentError(Error{Error::Tabo, 1, description, reason});
-        m_app.ui().alert(kError,
+            m_ui.presentError(Error{Error::Tabo, 1, description, reason});
+        m_ui.alert(kError,
                          QStringLiteral("Could not restore Tabo database automatically. Please do this by hand. In "
                                         "case of problems, simply contact the Pemra support."),
                          {kOK});
         return false;
     };
 
-    m_app.store();
+    m_access.store();
     StoreFile copy(storePath);
     const Error copied = copy.path().isEmpty()
                              ? Error::file(QStringLiteral("No working copy could be made beside the database."))
@@ -520,9 +486,9 @@ bool BackupCommands::restoreAutomaticallyFromSandbox()
     if (const Error e = copy.check())
         return fail(QStringLiteral("The database “%1” cannot be used.").arg(source),
                     e.message().replace(copy.path(), source));
-    if (m_app.hasStore() && m_app.save())
+    if (m_access.hasStore() && m_access.save())
         return fail({}, {}); // the save error has been presented
-    if (const Error e = swapIn(m_app, copy))
+    if (const Error e = swapIn(copy))
         return fail(QStringLiteral("The database “%1” could not be replaced.").arg(storePath), e.message());
     return true;
 }

@@ -1,11 +1,20 @@
 #pragma once
 
+#include "base/Error.h"
+#include "domain/EntityModel.h"
 
 #include <QString>
 
 namespace tabo {
 
-class AppController;
+class CurrentDocument;
+class Interaction;
+class ListedDocuments;
+class Preferences;
+class Store;
+class StoreAccess;
+class StoreFile;
+class WorkingFiles;
 
 // Backups and restores of the complete store, the documents and the
 // catalogue, and the automatic backup in the documents folder. A restore
@@ -16,7 +25,11 @@ class AppController;
 class BackupCommands
 {
 public:
-    explicit BackupCommands(AppController &app) : m_app(app) {}
+    BackupCommands(StoreAccess &store, CurrentDocument &current, ListedDocuments &list, WorkingFiles &files,
+                   Preferences &prefs, Interaction &ui)
+        : m_access(store), m_current(current), m_list(list), m_files(files), m_prefs(prefs), m_ui(ui)
+    {
+    }
 
     bool backupCompleteTaboData();   // save panel, then writeCompleteBackup
     bool restoreCompleteTaboData();  // warning, open panel, then restoreCompleteBackup
@@ -27,23 +40,34 @@ public:
 
     // The work behind the panels, also used by the command line. `chosenPath`
     // is the ".mbdb" name the person chose; the lasting copy is the
-    // ".tabo2db" beside it.
-    bool writeCompleteBackup(const QString &chosenPath, QString *error);
-    bool restoreCompleteBackup(const QString &backupPath, QString *error);
-    bool writeInvoiceBackup(const QString &path, QString *error);
-    bool restoreInvoiceBackup(const QString &path, QString *error);
-    bool writeItemBackup(const QString &path, QString *error);
-    bool restoreItemBackup(const QString &path, QString *error);
+    // ".tabo2db" beside it. A restore has shown its failure as well.
+    Error writeCompleteBackup(const QString &chosenPath);
+    Error restoreCompleteBackup(const QString &backupPath);
+    Error writeInvoiceBackup(const QString &path);
+    Error restoreInvoiceBackup(const QString &path);
+    Error writeItemBackup(const QString &path);
+    Error restoreItemBackup(const QString &path);
 
-    // The automatic backup at AppController::backupPath().
+    // The automatic backup (WorkingFiles::automaticBackupFile).
     bool createBackup();     // guarded (first run after the upgrade, changed count)
-    bool doTheNewBackup(QString *error = nullptr); // refused only on a damaged store
+    Error doTheNewBackup();  // refused only on a damaged store
     bool restoreFromBackup();
     // Replaces the open store by the store in the default folder.
     bool restoreAutomaticallyFromSandbox();
 
 private:
-    AppController &m_app;
+    Store *checkedStore(Error &error);
+    Error writeRecords(EntityId entity, const QString &path);
+    Error restoreRecords(EntityId entity, const QString &path, const QString &what);
+    void rollBack(Store &store);
+    Error swapIn(StoreFile &copy);
+
+    StoreAccess &m_access;
+    CurrentDocument &m_current;
+    ListedDocuments &m_list;
+    WorkingFiles &m_files;
+    Preferences &m_prefs;
+    Interaction &m_ui;
 };
 
 } // namespace tabo

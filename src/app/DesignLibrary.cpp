@@ -190,38 +190,29 @@ Record *DesignLibrary::importDesign()
     const QString path = m_ui.openFile(request);
     if (path.isEmpty())
         return nullptr;
-    QString reason;
-    Record *design = importDesignFile(path, &reason);
+    const Result<Record *> design = importDesignFile(path);
     if (!design)
-        m_ui.presentError(fileError(
-            259, QStringLiteral("The design “%1” could not be imported.").arg(QFileInfo(path).fileName()), reason));
-    return design;
+        m_ui.presentError(fileError(259, QStringLiteral("The design “%1” could not be imported.")
+                                             .arg(QFileInfo(path).fileName()), design.error().text));
+    return design.value();
 }
 
-Record *DesignLibrary::importDesignFile(const QString &path, QString *error)
+Result<Record *> DesignLibrary::importDesignFile(const QString &path)
 {
     Store *store = m_store.store();
-    if (!store) {
-        if (error)
-            *error = QStringLiteral("There is no store to import into.");
-        return nullptr;
-    }
+    if (!store)
+        return Error::file(QStringLiteral("There is no store to import into."));
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = file.errorString();
-        return nullptr;
-    }
+    if (!file.open(QIODevice::ReadOnly))
+        return Error::file(file.errorString());
     const Result<QVariantMap> dictionary = readDesignFile(file.readAll());
     // Nothing is created from a file that is not a design: an empty design
     // in the list would only puzzle the person.
     Record *design = dictionary ? OD::createManagedObjectFromDictionary(dictionary.value(), *store) : nullptr;
-    if (!design) {
-        if (error)
-            *error = dictionary ? QStringLiteral("The file is not a Tabo design.")
-                                : QStringLiteral("The file is not a Tabo design. %1").arg(dictionary.error().message());
-        return nullptr;
-    }
+    if (!design)
+        return Error::file(dictionary ? QStringLiteral("The file is not a Tabo design.")
+                                      : QStringLiteral("The file is not a Tabo design. %1")
+                                            .arg(dictionary.error().message()));
     design->setBool(Design::isDefault, false);
     // The same file imported twice gets a second ID, so an ID names one design.
     ensureOwnUniqueId(*design, Design::uniqueID, designs());
@@ -245,34 +236,22 @@ bool DesignLibrary::exportDesign(const Record *design)
         return false;
     if (!path.endsWith(QLatin1Char('.') + kExtension, Qt::CaseInsensitive))
         path += QLatin1Char('.') + kExtension;
-    QString reason;
-    if (!exportDesignFile(design, path, &reason)) {
+    if (const Error e = exportDesignFile(design, path)) {
         m_ui.presentError(fileError(
-            261, QStringLiteral("The design could not be exported to “%1”.").arg(QFileInfo(path).fileName()), reason));
+            261, QStringLiteral("The design could not be exported to “%1”.").arg(QFileInfo(path).fileName()), e.text));
         return false;
     }
     return true;
 }
 
-bool DesignLibrary::exportDesignFile(const Record *design, const QString &path, QString *error)
+Error DesignLibrary::exportDesignFile(const Record *design, const QString &path)
 {
-    if (!design) {
-        if (error)
-            *error = QStringLiteral("No design is selected.");
-        return false;
-    }
-    const QByteArray data = designFileData(*design);
-    if (data.isEmpty()) {
-        if (error)
-            *error = QStringLiteral("The design could not be archived.");
-        return false;
-    }
-    if (const Error e = ProtectedFiles::writeAtomically(path, data)) {
-        if (error)
-            *error = e.text;
-        return false;
-    }
-    return true;
+    if (!design)
+        return Error::file(QStringLiteral("No design is selected."));
+    const Result<QByteArray> data = designFileData(*design);
+    if (!data)
+        return Error::file(QStringLiteral("The design could not be archived. %1").arg(data.error().text));
+    return ProtectedFiles::writeAtomically(path, data.value());
 }
 
 void DesignLibrary::setSelectedDesignIndex(int index)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -48,10 +50,10 @@ public:
     // `importDesign` through the "Import Tabo Design" open panel; nullptr
     // when cancelled or unreadable. Keeps the file's `uniqueID` and `title`.
     Record *importDesign();
-    Record *importDesignFile(const QString &path, QString *error);
+    Result<Record *> importDesignFile(const QString &path);
     // `exportDesign` through the "Export Tabo Design" save panel.
     bool exportDesign(const Record *design);
-    bool exportDesignFile(const Record *design, const QString &path, QString *error);
+    Error exportDesignFile(const Record *design, const QString &path);
 
     // An edit of a design's title or texts (`title`, `invoice`, `item`,
     // `css`); saved with the next save, so typing does not write each key.

@@ -1,8 +1,8 @@
 #include "app/DesignPreview.h"
 
-#include "app/AppController.h"
 #include "app/Interaction.h"
 #include "app/OutputCommands.h"
+#include "app/Workspace.h"
 #include "domain/Record.h"
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
@@ -47,9 +47,14 @@ qsizetype unclosedTag(const QString &text)
 
 } // namespace
 
-DesignPreview::DesignPreview(AppController &app, QObject *parent)
+DesignPreview::DesignPreview(StoreAccess &store, WorkingFiles &files, OutputCommands &outputs, Preferences &prefs,
+                             Interaction &ui, QObject *parent)
     : QObject(parent)
-    , m_app(app)
+    , m_access(store)
+    , m_files(files)
+    , m_outputs(outputs)
+    , m_prefs(prefs)
+    , m_ui(ui)
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(kDelayMs);
@@ -98,10 +103,10 @@ QString DesignPreview::problem(const QString &invoice, const QString &item, cons
 
 QString DesignPreview::sampleHtml(const Record *design) const
 {
-    const SampleDocument sample(m_app.prefs());
+    const SampleDocument sample(m_prefs);
     LetterMode onScreen;
     onScreen.onScreen = true;
-    return m_app.outputs().renderer().invoiceHTMLString(design, sample.invoice(), sample.items(), onScreen);
+    return m_outputs.renderer().invoiceHTMLString(design, sample.invoice(), sample.items(), onScreen);
 }
 
 void DesignPreview::render()
@@ -122,7 +127,7 @@ void DesignPreview::render()
     design.setText(Design::css, m_css);
     m_rendering = true;
     const QString path = livePdfPath();
-    m_app.outputs().engine().render(sampleHtml(&design), PageSetup::fromPreferences(m_app.prefs()), path,
+    m_outputs.engine().render(sampleHtml(&design), PageSetup::fromPreferences(m_prefs), path,
                                     [this, alive = QPointer<DesignPreview>(this), path](bool ok) {
                                         // The engine outlives the pane and answers
                                         // what it still holds when it goes.
@@ -140,12 +145,12 @@ void DesignPreview::render()
 
 void DesignPreview::generatePreview(const Record *design)
 {
-    m_app.prefs().setBool(P::isMainPreviewAction, false);
-    m_app.save();
-    const QString path = m_app.pdfPath();
-    const bool ok = m_app.outputs().renderHtmlToFile(sampleHtml(design), path);
+    m_prefs.setBool(P::isMainPreviewAction, false);
+    m_access.save();
+    const QString path = m_files.pdfPath();
+    const bool ok = m_outputs.renderHtmlToFile(sampleHtml(design), path);
     if (!ok) {
-        m_app.ui().alert(QStringLiteral("Ooops!"), QStringLiteral("Something went really wrong while creating the preview."),
+        m_ui.alert(QStringLiteral("Ooops!"), QStringLiteral("Something went really wrong while creating the preview."),
                          {QStringLiteral("OK")});
         return;
     }
@@ -156,12 +161,12 @@ bool DesignPreview::printPreview()
 {
     PrintRequest request;
     request.jobTitle = QStringLiteral("%1 | %2 | %3")
-                           .arg(m_app.prefs().string(P::prefsName), QStringLiteral("1234"), QStringLiteral("Invoice"));
-    m_app.prefs().setString(P::currentPrintJobTitle, request.jobTitle);
-    if (!m_app.ui().printDialog(request))
+                           .arg(m_prefs.string(P::prefsName), QStringLiteral("1234"), QStringLiteral("Invoice"));
+    m_prefs.setString(P::currentPrintJobTitle, request.jobTitle);
+    if (!m_ui.printDialog(request))
         return false;
-    if (const Error error = PrintSystem::printFile(m_app.pdfPath(), request)) {
-        m_app.ui().alert(QStringLiteral("Error!"), error.message(), {QStringLiteral("OK")});
+    if (const Error error = PrintSystem::printFile(m_files.pdfPath(), request)) {
+        m_ui.alert(QStringLiteral("Error!"), error.message(), {QStringLiteral("OK")});
         return false;
     }
     return true;

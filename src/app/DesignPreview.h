@@ -6,7 +6,11 @@
 
 namespace tabo {
 
-class AppController;
+class Interaction;
+class OutputCommands;
+class Preferences;
+class StoreAccess;
+class WorkingFiles;
 class Record;
 
 // The sample page of a design as its texts are being edited: a new PDF a
@@ -22,7 +26,8 @@ public:
     // From the last change to the start of its rendering.
     static constexpr int kDelayMs = 150;
 
-    explicit DesignPreview(AppController &app, QObject *parent = nullptr);
+    DesignPreview(StoreAccess &store, WorkingFiles &files, OutputCommands &outputs, Preferences &prefs,
+                  Interaction &ui, QObject *parent = nullptr);
 
     // The texts being edited; their preview follows after kDelayMs.
     void setTexts(const QString &invoice, const QString &item, const QString &css);
@@ -53,7 +58,11 @@ private:
     QString sampleHtml(const Record *design) const;
     void render();
 
-    AppController &m_app;
+    StoreAccess &m_access;
+    WorkingFiles &m_files;
+    OutputCommands &m_outputs;
+    Preferences &m_prefs;
+    Interaction &m_ui;
     QTimer m_timer;
     QString m_invoice, m_item, m_css;
     bool m_rendering = false;

@@ -1,11 +1,11 @@
 #include "app/DocumentCommands.h"
 
-#include "app/AppController.h"
 #include "app/Interaction.h"
-#include "app/OutputCommands.h"
 #include "app/UndoHistory.h"
+#include "app/Workspace.h"
 #include "base/Clock.h"
 #include "domain/Contacts.h"
+#include "domain/DocumentList.h"
 #include "domain/Numbering.h"
 #include "domain/Record.h"
 #include "domain/UniqueId.h"
@@ -31,12 +31,12 @@ QString prefText(const Preferences &prefs, P::Key key)
 
 Record *DocumentCommands::duplicateInvoice(bool toTheCent)
 {
-    Record *source = m_app.currentInvoice();
-    if (!source || !m_app.store())
+    Record *source = m_current.currentInvoice();
+    if (!source || !m_access.store())
         return nullptr;
-    Preferences &prefs = m_app.prefs();
-    m_app.syncWithStore();
-    m_app.setFilterTag(0);
+    Preferences &prefs = m_prefs;
+    m_access.syncWithStore();
+    m_list.setFilterTag(0);
 
     static const QStringList kNotCopied = {
         QStringLiteral("dueAmount"), QStringLiteral("paidAmount"),     QStringLiteral("dispatched"),
@@ -54,14 +54,14 @@ Record *DocumentCommands::duplicateInvoice(bool toTheCent)
     copy->setText(Invoice::uniqueID, newUniqueId());
     // Quotes too are numbered by the invoice pattern; their kind stays.
     copy->setText(Invoice::number,
-                  prefs.boolean(P::invHaveNumber) ? m_app.invoiceNumberString() : QStringLiteral(""));
+                  prefs.boolean(P::invHaveNumber) ? m_numbers.nextNumber(DocumentNumbers::Kind::Invoice) : QStringLiteral(""));
     if (prefs.boolean(P::invHaveNumber))
-        m_app.numberInSave(copy, &AppController::invoiceNumberString, false);
+        m_numbers.numberInSave(copy, DocumentNumbers::Kind::Invoice);
     const Date created = now();
     // Without due dates the copy gets today, like a new document, rather than
     // no due date at all.
     copy->setDate(Invoice::due, prefs.boolean(P::invHaveDueDate)
-                                    ? m_app.futureDateFromTodayWithDays(prefs.integer(P::invDefaultDueDate))
+                                    ? futureDateFromTodayWithDays(prefs.integer(P::invDefaultDueDate))
                                     : created);
     copy->setText(Invoice::dispatchNumber, QStringLiteral(""));
     for (int a : {Invoice::date, Invoice::paid, Invoice::sent, Invoice::dispatched})
@@ -72,19 +72,19 @@ Record *DocumentCommands::duplicateInvoice(bool toTheCent)
     copy->setBool(Invoice::isDispatched, false);
     if (toTheCent) {
         copy->setBool(Invoice::centExactTotals, true);
-        m_app.calculateInvoice(copy);
+        m_current.calculateInvoice(copy);
     }
 
-    m_app.documentCreated(copy);
+    m_current.documentCreated(copy);
     return copy;
 }
 
 Record *DocumentCommands::cancelInvoice()
 {
-    Record *original = m_app.currentInvoice();
+    Record *original = m_current.currentInvoice();
     if (!original)
         return nullptr;
-    Interaction &ui = m_app.ui();
+    Interaction &ui = m_ui;
     if (original->integer(Invoice::kind) != 1) {
         ui.alert(QStringLiteral("Sorry!"),
                  QStringLiteral("A quote is not cancelled by a credit note: nothing was charged. Change or delete "
@@ -111,7 +111,7 @@ Record *DocumentCommands::cancelInvoice()
     Record *note = duplicateInvoice();
     if (!note)
         return nullptr;
-    const Preferences &prefs = m_app.prefs();
+    const Preferences &prefs = m_prefs;
     note->setText(Invoice::precedingNumber, number);
     note->setText(Invoice::precedingDate, day.toString(Qt::ISODate));
     note->setText(Invoice::title, prefs.string(P::locCreditNote));
@@ -126,16 +126,16 @@ Record *DocumentCommands::cancelInvoice()
         note->setNum(Invoice::shippingAmount, -note->num(Invoice::shippingAmount));
     if (note->boolean(Invoice::isDiscountEnabled))
         note->setNum(Invoice::discountAmount, -note->num(Invoice::discountAmount));
-    m_app.documentChanged(note);
+    m_current.documentChanged(note);
     return note;
 }
 
 bool DocumentCommands::convertQuoteToInvoice()
 {
-    Record *doc = m_app.currentInvoice();
+    Record *doc = m_current.currentInvoice();
     if (!doc)
         return false;
-    Interaction &ui = m_app.ui();
+    Interaction &ui = m_ui;
     if (doc->integer(Invoice::kind) != 0) {
         ui.alert(QStringLiteral("Sorry!"), QStringLiteral("You can't convert an invoice into a quote."), {kOk});
         return false;
@@ -149,34 +149,34 @@ bool DocumentCommands::convertQuoteToInvoice()
     if (answer != 0)
         return false;
 
-    Preferences &prefs = m_app.prefs();
+    Preferences &prefs = m_prefs;
     doc->setInt(Invoice::kind, 1);
     // The change observer counts the new invoice before it is numbered, which
     // is why the converted number carries no "+ 1".
-    m_app.calculateDatabase();
+    m_list.calculateDatabase();
     if (prefs.boolean(P::invHaveDueDate))
-        doc->setDate(Invoice::due, m_app.futureDateFromTodayWithDays(prefs.integer(P::invDefaultDueDate)));
+        doc->setDate(Invoice::due, futureDateFromTodayWithDays(prefs.integer(P::invDefaultDueDate)));
     doc->setText(Invoice::number,
-                 prefs.boolean(P::invHaveNumber) ? m_app.convertedInvoiceNumberString() : QStringLiteral(""));
+                 prefs.boolean(P::invHaveNumber) ? m_numbers.nextNumber(DocumentNumbers::Kind::ConvertedInvoice) : QStringLiteral(""));
     if (prefs.boolean(P::invHaveNumber))
-        m_app.numberInSave(doc, &AppController::convertedInvoiceNumberString, true);
+        m_numbers.numberInSave(doc, DocumentNumbers::Kind::ConvertedInvoice);
     doc->setText(Invoice::title, prefText(prefs, P::locInvoice));
     doc->setText(Invoice::conditions, prefText(prefs, P::tempInvConditions));
     doc->setText(Invoice::footer, prefText(prefs, P::tempInvFooter));
     doc->setText(Invoice::misc1, prefText(prefs, P::tempInvMisc));
 
-    m_app.setFilterTag(0);
-    m_app.documentChanged(doc);
+    m_list.setFilterTag(0);
+    m_current.documentChanged(doc);
     return true;
 }
 
 bool DocumentCommands::deleteInvoice()
 {
-    Record *doc = m_app.currentInvoice();
-    Store *store = m_app.store();
+    Record *doc = m_current.currentInvoice();
+    Store *store = m_access.store();
     if (!doc || !store)
         return false;
-    Interaction &ui = m_app.ui();
+    Interaction &ui = m_ui;
     const bool invoice = doc->integer(Invoice::kind) == 1;
     if (invoice && isCurrentInvoiceSent()) {
         ui.alert(QStringLiteral("Error!"),
@@ -203,19 +203,19 @@ bool DocumentCommands::deleteInvoice()
         return false;
 
     // What the history holds may refer to the document: it goes with it.
-    m_app.undo().clear();
-    m_app.setFilterTag(0);
+    m_undo.clear();
+    m_list.setFilterTag(0);
     store->remove(doc);
-    m_app.documentRemoved(doc);
-    m_app.save();
+    m_list.documentRemoved(doc);
+    m_access.save();
 
     // Numbers come from the count of documents, which the deletion lowered:
     // the two next numbers say what each answer means.
-    Preferences &prefs = m_app.prefs();
+    Preferences &prefs = m_prefs;
     const P::Key counter = invoice ? P::invCount : P::quotCount;
     const QString counterName = Preferences::info(counter).name;
     const QVariant counted = prefs.raw(counterName);
-    const auto nextNumber = [&] { return invoice ? m_app.invoiceNumberString() : m_app.quoteNumberString(); };
+    const auto nextNumber = [&] { return invoice ? m_numbers.nextNumber(DocumentNumbers::Kind::Invoice) : m_numbers.nextNumber(DocumentNumbers::Kind::Quote); };
     const QString unchanged = nextNumber();
     prefs.setString(counter, QString::number(prefs.integer(counter) + 1));
     const QString adjusted = nextNumber();
@@ -239,7 +239,7 @@ bool DocumentCommands::deleteInvoice()
             + consequences,
         {QStringLiteral("Adjust Counter"), kCancel});
     if (adjust == 0)
-        if (const Error e = m_app.raiseNumberCounter(counter))
+        if (const Error e = m_numbers.raiseNumberCounter(counter))
             ui.presentError(e);
     return true;
 }
@@ -255,19 +255,19 @@ QString DocumentCommands::describe(const Record &document) const
     if (!client.isEmpty())
         text += QStringLiteral(" for ") + client;
     if (!document.isNull(Invoice::amount))
-        text += QStringLiteral(", ") + m_app.outputs().formatters().stringFromNumber(document.num(Invoice::amount));
+        text += QStringLiteral(", ") + m_formatters.stringFromNumber(document.num(Invoice::amount));
     return text;
 }
 
 bool DocumentCommands::isCurrentInvoiceSent() const
 {
-    const Record *doc = m_app.currentInvoice();
+    const Record *doc = m_current.currentInvoice();
     return doc && doc->integer(Invoice::status) != 0;
 }
 
 QList<Record *> DocumentCommands::addressBook() const
 {
-    Store *store = m_app.store();
+    Store *store = m_access.store();
     if (!store)
         return {};
     QList<Record *> entries = store->all(EntityId::Address);
@@ -279,18 +279,18 @@ QList<Record *> DocumentCommands::addressBook() const
 
 void DocumentCommands::useAddress(Record &document, AddressFields fields)
 {
-    Store *store = m_app.store();
+    Store *store = m_access.store();
     if (!store)
         return;
-    const Preferences &prefs = m_app.prefs();
+    const Preferences &prefs = m_prefs;
     Contacts::completeAddress(fields, Contacts::countryCode(prefs.string(Preferences::prefsCountryCode)));
     Contacts::selectAddress(*store, document, fields, prefs.integer(Preferences::clientNamePatternTag));
-    m_app.documentChanged(&document);
+    m_current.documentChanged(&document);
 }
 
 void DocumentCommands::loadFully(const QList<Record *> &records)
 {
-    if (Store *store = m_app.store())
+    if (Store *store = m_access.store())
         store->loadFully(records);
 }
 

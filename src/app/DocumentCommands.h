@@ -7,8 +7,15 @@
 
 namespace tabo {
 
-class AppController;
+class CurrentDocument;
+class DocumentNumbers;
+class Formatters;
+class Interaction;
+class ListedDocuments;
+class Preferences;
 class Record;
+class StoreAccess;
+class UndoHistory;
 
 // Duplicate, convert and delete the current document. Every refusal and
 // confirmation goes through the controller's Interaction with its exact texts;
@@ -16,7 +23,12 @@ class Record;
 class DocumentCommands
 {
 public:
-    explicit DocumentCommands(AppController &app) : m_app(app) {}
+    DocumentCommands(StoreAccess &store, CurrentDocument &current, ListedDocuments &list, DocumentNumbers &numbers,
+                     UndoHistory &undo, const Formatters &formatters, Preferences &prefs, Interaction &ui)
+        : m_access(store), m_current(current), m_list(list), m_numbers(numbers), m_undo(undo),
+          m_formatters(formatters), m_prefs(prefs), m_ui(ui)
+    {
+    }
 
     // duplicateInvoice: a copy of the current document, selected and saved;
     // nullptr without a current document. `toTheCent` makes the copy's
@@ -47,7 +59,14 @@ public:
     QString describe(const Record &document) const;
 
 private:
-    AppController &m_app;
+    StoreAccess &m_access;
+    CurrentDocument &m_current;
+    ListedDocuments &m_list;
+    DocumentNumbers &m_numbers;
+    UndoHistory &m_undo;
+    const Formatters &m_formatters;
+    Preferences &m_prefs;
+    Interaction &m_ui;
 };
 
 } // namespace tabo

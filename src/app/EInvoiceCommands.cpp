@@ -1,9 +1,9 @@
 #include "app/EInvoiceCommands.h"
 
-#include "app/AppController.h"
 #include "app/DocumentCommands.h"
 #include "app/Interaction.h"
 #include "app/OutputCommands.h"
+#include "app/Workspace.h"
 #include "domain/LineOrder.h"
 #include "domain/Record.h"
 #include "einvoice/FacturX.h"
@@ -21,13 +21,13 @@ namespace tabo {
 
 einvoice::Mapping EInvoiceCommands::map(Record &document)
 {
-    return map(document, orderedLines(document, m_app.prefs()));
+    return map(document, orderedLines(document, m_prefs));
 }
 
 einvoice::Mapping EInvoiceCommands::map(Record &document, const QList<Record *> &lines)
 {
-    m_app.calculateInvoice(&document);
-    return einvoice::fromDocument(document, lines, m_app.prefs());
+    m_current.calculateInvoice(&document);
+    return einvoice::fromDocument(document, lines, m_prefs);
 }
 
 QString EInvoiceCommands::problemsText(const einvoice::Mapping &mapping)
@@ -50,16 +50,16 @@ bool EInvoiceCommands::checked(const einvoice::Mapping &mapping, Record &documen
     if (mapping.ok())
         return true;
     if (!mapping.toTheCentHelps || !mapping.missing.isEmpty()) {
-        m_app.ui().alert(QStringLiteral("The e-invoice cannot be written yet"), problemsText(mapping),
+        m_ui.alert(QStringLiteral("The e-invoice cannot be written yet"), problemsText(mapping),
                          {QStringLiteral("OK")});
         return false;
     }
-    const int answer = m_app.ui().alert(QStringLiteral("The e-invoice cannot be written yet"),
+    const int answer = m_ui.alert(QStringLiteral("The e-invoice cannot be written yet"),
                                         problemsText(mapping) + QStringLiteral("\n\n") + toTheCentAdvice(),
                                         {QStringLiteral("OK"), QStringLiteral("Make a copy calculated to the cent")});
     if (answer == 1) {
-        m_app.setCurrentInvoice(&document);
-        m_app.documents().duplicateInvoice(true);
+        m_current.setCurrentInvoice(&document);
+        m_documents.duplicateInvoice(true);
     }
     return false;
 }
@@ -67,7 +67,7 @@ bool EInvoiceCommands::checked(const einvoice::Mapping &mapping, Record &documen
 bool EInvoiceCommands::write(const QString &path, const QByteArray &data) const
 {
     if (const Error e = ProtectedFiles::writeAtomically(path, data)) {
-        m_app.ui().presentError(e);
+        m_ui.presentError(e);
         return false;
     }
     return true;
@@ -90,7 +90,7 @@ QString EInvoiceCommands::openReceived()
     Interaction::FileRequest request;
     request.title = QStringLiteral("Open E-Invoice");
     request.extensions = {QStringLiteral("xml"), QStringLiteral("pdf")};
-    const QString path = m_app.ui().openFile(request);
+    const QString path = m_ui.openFile(request);
     return path.isEmpty() ? QString() : viewReceived(path);
 }
 
@@ -98,14 +98,14 @@ QString EInvoiceCommands::viewReceived(const QString &path)
 {
     const Result<einvoice::Received> read = einvoice::readReceivedFile(path);
     if (!read) {
-        m_app.ui().alert(QStringLiteral("The e-invoice cannot be shown"), read.error().text, {QStringLiteral("OK")});
+        m_ui.alert(QStringLiteral("The e-invoice cannot be shown"), read.error().text, {QStringLiteral("OK")});
         return {};
     }
     const einvoice::Received &received = read.value();
     QDir().mkpath(Locations::dataFolder());
     const QString pdf = QDir(Locations::dataFolder()).filePath(QStringLiteral("Received.pdf"));
-    if (!m_app.outputs().renderHtmlToFile(einvoice::viewPage(received), pdf)) {
-        m_app.ui().alert(QStringLiteral("The e-invoice cannot be shown"),
+    if (!m_outputs.renderHtmlToFile(einvoice::viewPage(received), pdf)) {
+        m_ui.alert(QStringLiteral("The e-invoice cannot be shown"),
                          QStringLiteral("Its page could not be made."), {QStringLiteral("OK")});
         return {};
     }
@@ -120,7 +120,7 @@ QStringList EInvoiceCommands::outputFormLabels()
 
 bool EInvoiceCommands::exportFacturX(Record &document, const QString &path)
 {
-    const RenderRequest request = m_app.outputs().request(document);
+    const RenderRequest request = m_outputs.request(document);
     const einvoice::Mapping mapping = map(document, request.lines);
     return checked(mapping, document) && exportFacturX(request, mapping, path);
 }
@@ -130,7 +130,7 @@ bool EInvoiceCommands::exportFacturX(const RenderRequest &request, const einvoic
 {
     QTemporaryDir scratch;
     const QString printed = scratch.filePath(QStringLiteral("printed.pdf"));
-    if (!scratch.isValid() || !m_app.outputs().renderToFile(request, printed))
+    if (!scratch.isValid() || !m_outputs.renderToFile(request, printed))
         return false; // the renderer has said why
     return writeFacturX(*request.document, mapping, printed, path);
 }
@@ -146,7 +146,7 @@ bool EInvoiceCommands::writeFacturX(const Record &document, const einvoice::Mapp
 {
     QFile page(printedPdf);
     if (!page.open(QIODevice::ReadOnly)) {
-        m_app.ui().presentError(Error::file(QStringLiteral("The printed invoice “%1” cannot be read.").arg(printedPdf)));
+        m_ui.presentError(Error::file(QStringLiteral("The printed invoice “%1” cannot be read.").arg(printedPdf)));
         return false;
     }
     einvoice::PdfInfo info;
@@ -156,7 +156,7 @@ bool EInvoiceCommands::writeFacturX(const Record &document, const einvoice::Mapp
     const Result<QByteArray> hybrid =
         einvoice::makeFacturX(page.readAll(), einvoice::writeCii(mapping.invoice, einvoice::Profile::EN16931), info);
     if (!hybrid) {
-        m_app.ui().presentError(hybrid.error());
+        m_ui.presentError(hybrid.error());
         return false;
     }
     return write(path, hybrid.value());

@@ -7,7 +7,11 @@
 
 namespace tabo {
 
-class AppController;
+class CurrentDocument;
+class DocumentCommands;
+class Interaction;
+class OutputCommands;
+class Preferences;
 class Record;
 
 // E-invoices of the user's invoices: the check of what the standard needs,
@@ -15,7 +19,14 @@ class Record;
 class EInvoiceCommands
 {
 public:
-    explicit EInvoiceCommands(AppController &app) : m_app(app) {}
+    // The outputs render the printed invoice inside a Factur-X; the document
+    // commands make the cent-exact copy offered when a document cannot be
+    // mapped.
+    EInvoiceCommands(CurrentDocument &current, DocumentCommands &documents, OutputCommands &outputs,
+                     Preferences &prefs, Interaction &ui)
+        : m_current(current), m_documents(documents), m_outputs(outputs), m_prefs(prefs), m_ui(ui)
+    {
+    }
 
     // The document as the standard sees it, calculated afresh first, its
     // lines in `lines`' order (by default the order they print in).
@@ -61,7 +72,12 @@ public:
 
 private:
     bool write(const QString &path, const QByteArray &data) const;
-    AppController &m_app;
+
+    CurrentDocument &m_current;
+    DocumentCommands &m_documents;
+    OutputCommands &m_outputs;
+    Preferences &m_prefs;
+    Interaction &m_ui;
 };
 
 } // namespace tabo

@@ -27,27 +27,15 @@ namespace OD = ObjectDictionary;
 const QString kTaboDic = QStringLiteral("taboDic");
 const QString kDatabaseTitle = QStringLiteral("Export Tabo Database As XML");
 
-bool writeAtomically(const QString &path, const QByteArray &data, QString *error)
+Error writeArchive(const QString &path, const QVariantMap &root)
 {
-    if (const Error e = ProtectedFiles::writeAtomically(path, data)) {
-        if (error)
-            *error = e.text;
-        return false;
-    }
-    return true;
+    const Result<QByteArray> data = KeyedArchive::archive(root);
+    if (!data)
+        return Error::file(QStringLiteral("The archive could not be built: %1").arg(data.error().text));
+    return ProtectedFiles::writeAtomically(path, data.value());
 }
 
-bool writeArchive(const QString &path, const QVariantMap &root, QString *error)
-{
-    QString reason;
-    const QByteArray data = KeyedArchive::archive(root, &reason);
-    if (data.isEmpty()) {
-        if (error)
-            *error = QStringLiteral("The archive could not be built: %1").arg(reason);
-        return false;
-    }
-    return writeAtomically(path, data, error);
-}
+const Error kNoDatabase = Error::file(QStringLiteral("There is no database."));
 
 // Each record is its own top-level walk, so each carries its own copies of
 // whatever it shares with the others.
@@ -61,8 +49,6 @@ QVariantList dictionaries(Store &store, const QList<Record *> &records)
     return list;
 }
 
-// The dictionary stored under `key` in an archive, or an empty map with a
-// reason.
 } // namespace
 
 bool FileCommands::exportInvoice(int exportFormat)
@@ -82,19 +68,17 @@ bool FileCommands::exportInvoice(int exportFormat)
     const QString path = m_ui.saveTarget(request);
     if (path.isEmpty())
         return false;
-    return writeInvoiceFile(*invoice, exportFormat, path, nullptr);
+    return !writeInvoiceFile(*invoice, exportFormat, path);
 }
 
-bool FileCommands::writeInvoiceFile(const Record &invoice, int exportFormat, const QString &path, QString *error)
+Error FileCommands::writeInvoiceFile(const Record &invoice, int exportFormat, const QString &path)
 {
     const QVariantMap dictionary = OD::toDictionary(invoice);
     if (exportFormat == 0)
-        return writeArchive(path, {{kTaboDic, dictionary}}, error);
+        return writeArchive(path, {{kTaboDic, dictionary}});
     if (exportFormat == 1)
-        return plist::writeFile(path, dictionary, plist::Format::Xml, error);
-    if (error)
-        *error = QStringLiteral("Unknown export format %1.").arg(exportFormat);
-    return false;
+        return plist::writeFile(path, dictionary, plist::Format::Xml);
+    return Error{Error::Tabo, 1, QStringLiteral("Unknown export format %1.").arg(exportFormat), {}};
 }
 
 bool FileCommands::exportItems()
@@ -104,7 +88,7 @@ bool FileCommands::exportItems()
     request.extensions = {QStringLiteral("xml")};
     request.canCreateFolders = true;
     const QString path = m_ui.saveTarget(request);
-    return !path.isEmpty() && writeItemsXml(true, path, nullptr);
+    return !path.isEmpty() && !writeItemsXml(true, path);
 }
 
 bool FileCommands::exportTaboDataXML()
@@ -115,7 +99,7 @@ bool FileCommands::exportTaboDataXML()
     request.suggestedName = QStringLiteral("Tabo Database");
     request.canCreateFolders = true;
     const QString path = m_ui.saveTarget(request);
-    return !path.isEmpty() && writeItemsXml(false, path, nullptr);
+    return !path.isEmpty() && !writeItemsXml(false, path);
 }
 
 bool FileCommands::exportAsInvoiceFile()
@@ -127,29 +111,23 @@ bool FileCommands::exportAsInvoiceFile()
     request.suggestedName = QStringLiteral("Invoices Dump");
     request.canCreateFolders = true;
     const QString path = m_ui.saveTarget(request);
-    return !path.isEmpty() && writeInvoiceDump(path, nullptr);
+    return !path.isEmpty() && !writeInvoiceDump(path);
 }
 
-bool FileCommands::writeItemsXml(bool arrangedOnly, const QString &path, QString *error)
+Error FileCommands::writeItemsXml(bool arrangedOnly, const QString &path)
 {
     Store *store = m_store.store();
-    if (!store) {
-        if (error)
-            *error = QStringLiteral("There is no database.");
-        return false;
-    }
+    if (!store)
+        return kNoDatabase;
     const QList<Record *> &records = arrangedOnly ? m_list.shown() : store->all(EntityId::Invoice);
-    return plist::writeFile(path, dictionaries(*store, records), plist::Format::Xml, error);
+    return plist::writeFile(path, dictionaries(*store, records), plist::Format::Xml);
 }
 
-bool FileCommands::writeInvoiceDump(const QString &path, QString *error)
+Error FileCommands::writeInvoiceDump(const QString &path)
 {
     Store *store = m_store.store();
-    if (!store) {
-        if (error)
-            *error = QStringLiteral("There is no database.");
-        return false;
-    }
+    if (!store)
+        return kNoDatabase;
     const QVariantMap root = {
         {QStringLiteral("invoices"), dictionaries(*store, store->all(EntityId::Invoice))},
         {QStringLiteral("items"), dictionaries(*store, store->all(EntityId::RecentItem))},
@@ -158,7 +136,7 @@ bool FileCommands::writeInvoiceDump(const QString &path, QString *error)
         {QStringLiteral("shippings"), dictionaries(*store, store->all(EntityId::RecentShipping))},
         {QStringLiteral("templates"), dictionaries(*store, store->all(EntityId::Template))},
     };
-    return writeArchive(path, root, error);
+    return writeArchive(path, root);
 }
 
 Record *FileCommands::importInvoice()
@@ -179,7 +157,7 @@ Record *FileCommands::importInvoice()
     const QString path = ui.openFile(request);
     if (path.isEmpty())
         return nullptr;
-    Record *invoice = importInvoiceFile(path, nullptr);
+    Record *invoice = importInvoiceFile(path).value();
     if (!invoice && m_store.store())
         ui.alert(QStringLiteral("Error!"),
                  QStringLiteral("The file “%1” is not a Tabo document.").arg(QFileInfo(path).fileName()),
@@ -187,26 +165,17 @@ Record *FileCommands::importInvoice()
     return invoice;
 }
 
-Record *FileCommands::importInvoiceFile(const QString &path, QString *error)
+Result<Record *> FileCommands::importInvoiceFile(const QString &path)
 {
     Store *store = m_store.store();
-    if (!store) {
-        if (error)
-            *error = QStringLiteral("There is no database.");
-        return nullptr;
-    }
+    if (!store)
+        return kNoDatabase;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = QStringLiteral("The file “%1” could not be read: %2").arg(path, file.errorString());
-        return nullptr;
-    }
+    if (!file.open(QIODevice::ReadOnly))
+        return Error::file(QStringLiteral("The file “%1” could not be read: %2").arg(path, file.errorString()));
     Result<QVariantMap> archived = archivedDictionary(file.readAll(), kTaboDic);
-    if (!archived) {
-        if (error)
-            *error = archived.error().message();
-        return nullptr;
-    }
+    if (!archived)
+        return archived.error();
     QVariantMap &dictionary = archived.value();
     dictionary.insert(OD::kClassKey, QStringLiteral("Invoice"));
     m_store.syncWithStore();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QString>
 #include <QVariantMap>
 
@@ -33,19 +35,19 @@ public:
     // other value writes nothing. False when nothing was written.
     bool exportInvoice(int exportFormat);
     // Writes the current document to `path` without a panel (the command line).
-    bool writeInvoiceFile(const Record &invoice, int exportFormat, const QString &path, QString *error);
+    Error writeInvoiceFile(const Record &invoice, int exportFormat, const QString &path);
 
     bool exportItems();        // the list's arranged documents, XML
     bool exportTaboDataXML();  // every document, XML
     bool exportAsInvoiceFile(); // "invdump" keyed archive with six lists
-    bool writeItemsXml(bool arrangedOnly, const QString &path, QString *error);
-    bool writeInvoiceDump(const QString &path, QString *error);
+    Error writeItemsXml(bool arrangedOnly, const QString &path);
+    Error writeInvoiceDump(const QString &path);
 
     // importInvoice: the warning, the open panel, the new document (selected,
     // saved). nullptr when cancelled or when the file holds no document (then
     // with a message).
     Record *importInvoice();
-    Record *importInvoiceFile(const QString &path, QString *error);
+    Result<Record *> importInvoiceFile(const QString &path);
 
 private:
     StoreAccess &m_store;

@@ -60,19 +60,17 @@ QString tooLarge(const QString &what, const QString &text)
     return QStringLiteral("The %1 “%2” is too large; it can be at most about 3.4e38.").arg(what, text);
 }
 
-// A typed number for the field called `what`; sets *error when it is not one.
-bool readField(const ItemCommands &commands, const QString &text, const QString &what, double *value, QString *error)
+// A typed number for the field called `what`, or why it is not one.
+Error readField(const ItemCommands &commands, const QString &text, const QString &what, double *value)
 {
     // Price and quantity are single precision: a larger number would be
     // stored as infinity.
     const bool number = commands.parseInRegion(text, value);
     if (number && fitsAttribute(AttrType::Float, *value))
-        return true;
-    if (error)
-        *error = text.trimmed().isEmpty() ? QStringLiteral("The %1 is empty; please enter a number.").arg(what)
-                 : number ? tooLarge(what, text)
-                          : QStringLiteral("The %1 “%2” is not a number.").arg(what, text);
-    return false;
+        return {};
+    return Error::input(text.trimmed().isEmpty() ? QStringLiteral("The %1 is empty; please enter a number.").arg(what)
+                        : number ? tooLarge(what, text)
+                                 : QStringLiteral("The %1 “%2” is not a number.").arg(what, text));
 }
 
 // A line's field as the person knows it.
@@ -88,12 +86,6 @@ QString fieldWords(const QString &key)
         {QStringLiteral("subAmount"), QStringLiteral("net amount")},
     };
     return words.value(key, key);
-}
-
-void setError(QString *error, const QString &text)
-{
-    if (error)
-        *error = text;
 }
 
 Record *documentOf(const Record &item)
@@ -207,33 +199,29 @@ QList<Record *> ItemCommands::rememberedShippings() const
     return entries;
 }
 
-bool ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const QVariant &value, QString *error)
+Error ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const QVariant &value)
 {
     Store *store = m_store.store();
     if (!store || !entry || entry->isDeleted())
-        return false;
+        return Error::input(QStringLiteral("The catalogue entry is no longer there."));
     static const QStringList editable = {QStringLiteral("title"),         QStringLiteral("subtitle"),
                                          QStringLiteral("unit"),          QStringLiteral("sku"),
                                          QStringLiteral("note"),          QStringLiteral("baseAmount"),
                                          QStringLiteral("isTax1Applied"), QStringLiteral("isTax2Applied"),
                                          QStringLiteral("isTax3Applied")};
-    if (!editable.contains(key)) {
-        setError(error, QStringLiteral("A catalogue entry has no field “%1” to change.").arg(key));
-        return false;
-    }
+    if (!editable.contains(key))
+        return Error::input(QStringLiteral("A catalogue entry has no field “%1” to change.").arg(key));
     const int attr = entry->desc().attributeIndex(key);
     if (key == QLatin1String("baseAmount")) {
         double price = 0;
         if (value.metaType() == QMetaType::fromType<QString>()) {
-            if (!readField(*this, value.toString(), QStringLiteral("price"), &price, error))
-                return false;
+            if (Error e = readField(*this, value.toString(), QStringLiteral("price"), &price))
+                return e;
         } else {
             bool ok = false;
             price = value.toDouble(&ok);
-            if (!ok || !fitsAttribute(AttrType::Float, price)) {
-                setError(error, QStringLiteral("The price is not a number."));
-                return false;
-            }
+            if (!ok || !fitsAttribute(AttrType::Float, price))
+                return Error::input(QStringLiteral("The price is not a number."));
         }
         entry->setSingle(attr, float(price));
     } else if (key.startsWith(QLatin1String("isTax"))) {
@@ -242,7 +230,7 @@ bool ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const Q
         entry->setText(attr, value.toString());
     }
     m_store.save();
-    return true;
+    return {};
 }
 
 bool ItemCommands::deleteCatalogueEntries(const QList<Record *> &entries)
@@ -265,19 +253,18 @@ bool ItemCommands::deleteCatalogueEntries(const QList<Record *> &entries)
     return true;
 }
 
-Record *ItemCommands::addItem(const ItemFields &fields, QString *error)
+Result<Record *> ItemCommands::addItem(const ItemFields &fields)
 {
     Record *doc = m_current.currentInvoice();
     Store *store = m_store.store();
-    if (!doc || !store) {
-        setError(error, QStringLiteral("There is no document to add the line to."));
-        return nullptr;
-    }
+    if (!doc || !store)
+        return Error::input(QStringLiteral("There is no document to add the line to."));
     double price = 0;
     double quantity = 0;
-    if (!readField(*this, fields.price, QStringLiteral("price"), &price, error)
-        || !readField(*this, fields.quantity, QStringLiteral("quantity"), &quantity, error))
-        return nullptr;
+    if (Error e = readField(*this, fields.price, QStringLiteral("price"), &price))
+        return e;
+    if (Error e = readField(*this, fields.quantity, QStringLiteral("quantity"), &quantity))
+        return e;
 
     const UndoHistory::Step step(m_undo, doc, QStringLiteral("Add Line"));
     const Preferences &prefs = m_prefs;
@@ -401,24 +388,18 @@ void ItemCommands::withdrawItem(Record *item)
         m_current.documentChanged(doc);
 }
 
-bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &value, QString *error)
+Error ItemCommands::editItem(Record *item, const QString &key, const QVariant &value)
 {
-    if (!item) {
-        setError(error, QStringLiteral("There is no line to change."));
-        return false;
-    }
+    if (!item)
+        return Error::input(QStringLiteral("There is no line to change."));
     const int attr = item->desc().attributeIndex(key);
-    if (attr < 0) {
-        setError(error, QStringLiteral("A line has no field “%1”.").arg(key));
-        return false;
-    }
+    if (attr < 0)
+        return Error::input(QStringLiteral("A line has no field “%1”.").arg(key));
     Record *doc = documentOf(*item);
     // A sent invoice must not change silently, whichever way a line is touched.
     if (doc && doc->integer(Invoice::status) != 0) {
-        // The alert is the message: *error stays empty so it is not shown twice.
         m_ui.alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
-        setError(error, QString());
-        return false;
+        return Error::shownAlready();
     }
     const AttrType type = item->desc().attributes[attr].type;
     const UndoHistory::Step step(m_undo, doc, QStringLiteral("Edit Line"));
@@ -431,38 +412,33 @@ bool ItemCommands::editItem(Record *item, const QString &key, const QVariant &va
             ok = parseInRegion(value.toString(), &d);
         else if (value.metaType() != QMetaType::fromType<Date>())
             d = value.toDouble(&ok);
-        if (!ok || !fitsAttribute(type, d)) {
-            setError(error, ok ? tooLarge(fieldWords(key), value.toString())
-                               : QStringLiteral("The %1 “%2” is not a number.").arg(fieldWords(key), value.toString()));
-            return false;
-        }
+        if (!ok || !fitsAttribute(type, d))
+            return Error::input(ok ? tooLarge(fieldWords(key), value.toString())
+                                   : QStringLiteral("The %1 “%2” is not a number.").arg(fieldWords(key),
+                                                                                         value.toString()));
         v = d;
     }
-    if (!item->setValue(attr, v)) {
-        setError(error, QStringLiteral("The value “%1” does not fit the field “%2”.").arg(value.toString(), key));
-        return false;
-    }
+    if (!item->setValue(attr, v))
+        return Error::input(QStringLiteral("The value “%1” does not fit the field “%2”.").arg(value.toString(), key));
     if (doc)
         m_current.documentChanged(doc);
     else
         m_store.save();
-    return true;
+    return {};
 }
 
-bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *error)
+Error ItemCommands::closeShippingPopover(const ShippingFields &fields)
 {
     Record *doc = m_current.currentInvoice();
     Store *store = m_store.store();
-    if (!doc || !store) {
-        setError(error, QStringLiteral("There is no document to add the shipping to."));
-        return false;
-    }
+    if (!doc || !store)
+        return Error::input(QStringLiteral("There is no document to add the shipping to."));
     const UndoHistory::Step step(m_undo, doc, QStringLiteral("Shipping"));
     double amount = 0;
     // A blank amount only matters when shipping is switched on.
-    if ((fields.enabled || !fields.amount.trimmed().isEmpty())
-        && !readField(*this, fields.amount, QStringLiteral("shipping amount"), &amount, error))
-        return false;
+    if (fields.enabled || !fields.amount.trimmed().isEmpty())
+        if (Error e = readField(*this, fields.amount, QStringLiteral("shipping amount"), &amount))
+            return e;
 
     doc->setBool(Invoice::isShippingEnabled, fields.enabled);
     doc->setText(Invoice::shippingTitle, fields.title);
@@ -476,7 +452,7 @@ bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *e
 
     for (const Record *entry : store->all(EntityId::RecentShipping))
         if (entry->text(RecentShipping::title) == fields.title && entry->num(RecentShipping::amount) == amount)
-            return true;
+            return {};
     Record *entry = store->insert(EntityId::RecentShipping);
     entry->setText(RecentShipping::uniqueID, newUniqueId());
     entry->setText(RecentShipping::title, fields.title);
@@ -487,7 +463,7 @@ bool ItemCommands::closeShippingPopover(const ShippingFields &fields, QString *e
         entry->setBool(kRecentShippingTax[k], taxes[k]);
     entry->setNum(RecentShipping::amount, amount);
     m_store.save();
-    return true;
+    return {};
 }
 
 ShippingFields ItemCommands::shippingFields() const
@@ -523,25 +499,23 @@ void ItemCommands::selectRecentShipping(const Record &recentShipping)
     m_current.documentChanged(doc);
 }
 
-bool ItemCommands::closeDiscountPopover(const DiscountFields &fields, QString *error)
+Error ItemCommands::closeDiscountPopover(const DiscountFields &fields)
 {
     Record *doc = m_current.currentInvoice();
-    if (!doc) {
-        setError(error, QStringLiteral("There is no document to add the discount to."));
-        return false;
-    }
+    if (!doc)
+        return Error::input(QStringLiteral("There is no document to add the discount to."));
     const UndoHistory::Step step(m_undo, doc, QStringLiteral("Discount"));
     // Only the field the kind selects must be filled in; a blank other one is 0.
     const bool fixed = fields.kind == 0;
     const bool needed = fields.enabled;
     double amount = 0;
     double percent = 0;
-    if (((needed && fixed) || !fields.amount.trimmed().isEmpty())
-        && !readField(*this, fields.amount, QStringLiteral("discount amount"), &amount, error))
-        return false;
-    if (((needed && !fixed) || !fields.percent.trimmed().isEmpty())
-        && !readField(*this, fields.percent, QStringLiteral("discount percentage"), &percent, error))
-        return false;
+    if ((needed && fixed) || !fields.amount.trimmed().isEmpty())
+        if (Error e = readField(*this, fields.amount, QStringLiteral("discount amount"), &amount))
+            return e;
+    if ((needed && !fixed) || !fields.percent.trimmed().isEmpty())
+        if (Error e = readField(*this, fields.percent, QStringLiteral("discount percentage"), &percent))
+            return e;
 
     doc->setBool(Invoice::isDiscountEnabled, fields.enabled);
     doc->setInt(Invoice::discountKind, fields.kind);
@@ -551,7 +525,7 @@ bool ItemCommands::closeDiscountPopover(const DiscountFields &fields, QString *e
     doc->setText(Invoice::discountSubtitle, fields.subtitle);
     doc->setBool(Invoice::hasDiscountSubtitle, fields.hasSubtitle);
     m_current.documentChanged(doc);
-    return true;
+    return {};
 }
 
 DiscountFields ItemCommands::discountFields() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QList>
 #include <QLocale>
 #include <QString>
@@ -72,10 +74,10 @@ public:
     {
     }
 
-    // addItem: a new line from the popover; nullptr with *error set (and the
-    // document unchanged) when price or quantity is not a number, or when
-    // there is no current document.
-    Record *addItem(const ItemFields &fields, QString *error);
+    // addItem: a new line from the popover; refused (the document
+    // unchanged) when price or quantity is not a number, or when there is no
+    // current document.
+    Result<Record *> addItem(const ItemFields &fields);
     // An empty popover: quantity 1 and one tax, the taxes of the last line
     // added (as far as they are still charged), else the first charged one.
     ItemFields newItemFields() const;
@@ -85,8 +87,8 @@ public:
     // The remembered shipping lines, by title.
     QList<Record *> rememberedShippings() const;
     // One field of a catalogue entry by key (title, subtitle, unit, sku,
-    // note, baseAmount, isTax1Applied..3), as typed; false with *error set.
-    bool editCatalogueEntry(Record *entry, const QString &key, const QVariant &value, QString *error);
+    // note, baseAmount, isTax1Applied..3), as typed.
+    Error editCatalogueEntry(Record *entry, const QString &key, const QVariant &value);
     // Deletes entries after asking; the lines made from them stay as they are.
     bool deleteCatalogueEntries(const QList<Record *> &entries);
     // addItemRecent: the popover's fields from a catalogue entry.
@@ -98,19 +100,19 @@ public:
     // was refused): no question, the document recalculated.
     void withdrawItem(Record *item);
     // Editing a line: one attribute by key (value parsed by its type), then
-    // calculateInvoice: and a save. False when refused, with *error set, or
-    // empty when the refusal was already shown as an alert (a sent document).
-    bool editItem(Record *item, const QString &key, const QVariant &value, QString *error);
+    // calculateInvoice: and a save. A sent document's refusal is shown as an
+    // alert and returned as Error::shownAlready().
+    Error editItem(Record *item, const QString &key, const QVariant &value);
 
     // closeShippingPopover: stores the fields, recalculates, remembers the
     // shipping line unless one with the same title and amount exists.
-    bool closeShippingPopover(const ShippingFields &fields, QString *error);
+    Error closeShippingPopover(const ShippingFields &fields);
     ShippingFields shippingFields() const; // the current document's, for the popover
     // selectRecentShipping: the remembered line into the current document.
     void selectRecentShipping(const Record &recentShipping);
 
     // The discount popover's confirmation: stores the fields and recalculates.
-    bool closeDiscountPopover(const DiscountFields &fields, QString *error);
+    Error closeDiscountPopover(const DiscountFields &fields);
     DiscountFields discountFields() const;
 
     // The lines of a document in the order the editor shows (and prints)

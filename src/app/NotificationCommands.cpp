@@ -1,9 +1,9 @@
 #include "app/NotificationCommands.h"
 
-#include "app/AppController.h"
 #include "app/Interaction.h"
 #include "app/Notifier.h"
 #include "app/ReminderTimer.h"
+#include "app/Workspace.h"
 #include "base/Clock.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
@@ -26,7 +26,9 @@ constexpr qint64 kRecheckMs = 60 * 1000;
 
 } // namespace
 
-NotificationCommands::NotificationCommands(AppController &app) : m_app(app)
+NotificationCommands::NotificationCommands(StoreAccess &store, CurrentDocument &current, ListedDocuments &list,
+                                           Preferences &prefs, Interaction &ui)
+    : m_access(store), m_current(current), m_list(list), m_prefs(prefs), m_ui(ui)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &NotificationCommands::deliverNow);
@@ -54,11 +56,11 @@ QString NotificationCommands::unavailableReason()
 
 bool NotificationCommands::openNotificationSheet()
 {
-    Record *invoice = m_app.currentInvoice();
+    Record *invoice = m_current.currentInvoice();
     if (!invoice)
         return false;
     if (invoice->boolean(Invoice::misc4)) {
-        const int answer = m_app.ui().alert(
+        const int answer = m_ui.alert(
             QStringLiteral("Notification Already Created"),
             QStringLiteral("You've already created a notification for this invoice. Do you really want to create "
                            "another one?"),
@@ -80,7 +82,7 @@ Date NotificationCommands::reminderDate(Date due)
 NotificationCommands::Draft NotificationCommands::prepareNotification() const
 {
     Draft draft;
-    const Record *invoice = m_app.currentInvoice();
+    const Record *invoice = m_current.currentInvoice();
     if (!invoice)
         return draft;
     draft.title = QStringLiteral("%1 | %2").arg(invoice->text(Invoice::title), invoice->text(Invoice::number));
@@ -94,8 +96,8 @@ NotificationCommands::Draft NotificationCommands::prepareNotification() const
 Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice, qint64 *id)
 {
     if (!invoice)
-        invoice = m_app.currentInvoice();
-    Store *store = m_app.store();
+        invoice = m_current.currentInvoice();
+    Store *store = m_access.store();
     if (!invoice || !store)
         return Error{Error::Tabo, 1, QStringLiteral("There is no invoice to remind of."), {}};
     ScheduledNotification n;
@@ -104,14 +106,14 @@ Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice
     n.subtitle = draft.subtitle;
     n.text = draft.text;
     n.date = draft.date;
-    n.sound = m_app.prefs().boolean(P::prefsDeliverNotificationsWithSound);
+    n.sound = m_prefs.boolean(P::prefsDeliverNotificationsWithSound);
     if (Error e = NotificationSchedule(*store).schedule(n)) {
-        m_app.ui().presentError(e);
+        m_ui.presentError(e);
         return e;
     }
     if (id)
         *id = n.id;
-    m_app.setDocumentValue(invoice, Invoice::misc4, true);
+    m_current.setDocumentValue(invoice, Invoice::misc4, true);
     armTimer();
     Q_EMIT scheduleChanged();
     return {};
@@ -119,32 +121,31 @@ Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice
 
 QList<ScheduledNotification> NotificationCommands::scheduled(bool pendingOnly)
 {
-    Store *store = m_app.store();
+    Store *store = m_access.store();
     return store ? NotificationSchedule(*store).list(pendingOnly) : QList<ScheduledNotification>();
 }
 
 bool NotificationCommands::cancel(qint64 id)
 {
-    Store *store = m_app.store();
+    Store *store = m_access.store();
     if (!store)
         return false;
-    Error e;
-    if (NotificationSchedule(*store).cancel(id, &e)) {
+    const Result<bool> cancelled = NotificationSchedule(*store).cancel(id);
+    if (cancelled && cancelled.value()) {
         armTimer();
         Q_EMIT scheduleChanged();
         return true;
     }
-    if (!e)
-        e = Error{Error::Tabo, 1, QStringLiteral("There is no notification %1.").arg(id), {}};
-    m_app.ui().presentError(e);
+    m_ui.presentError(cancelled ? Error::input(QStringLiteral("There is no notification %1.").arg(id))
+                                : cancelled.error());
     return false;
 }
 
-int NotificationCommands::deliverDue(Error *error)
+NotificationCommands::Delivery NotificationCommands::deliverDue()
 {
-    Store *store = m_app.store();
+    Store *store = m_access.store();
     if (!store)
-        return 0;
+        return {};
     NotificationSchedule schedule(*store);
     Error e;
     // Ask the bus only when something is due: an hourly run with nothing to
@@ -155,7 +156,9 @@ int NotificationCommands::deliverDue(Error *error)
         if (!reason.isEmpty()) {
             e = Error{Error::Tabo, 2, reason, QStringLiteral("The notifications stay scheduled.")};
         } else {
-            const QList<ScheduledNotification> due = schedule.claimDue(now(), &e);
+            const Result<QList<ScheduledNotification>> claimed = schedule.claimDue(now());
+            e = claimed.error();
+            const QList<ScheduledNotification> &due = claimed.value();
             const QList<qint64> shown = due.isEmpty() ? QList<qint64>() : notifier().show(due);
             QList<qint64> refused;
             for (const ScheduledNotification &n : due)
@@ -167,16 +170,12 @@ int NotificationCommands::deliverDue(Error *error)
                           QStringLiteral("The notification service did not show %1 of the reminders.").arg(refused.size()),
                           QStringLiteral("They stay scheduled.")};
             }
-            if (error)
-                *error = e;
             if (!shown.isEmpty())
                 Q_EMIT scheduleChanged();
-            return int(shown.size());
+            return {int(shown.size()), e};
         }
     }
-    if (error)
-        *error = e;
-    return 0;
+    return {0, e};
 }
 
 void NotificationCommands::startDelivering()
@@ -189,9 +188,7 @@ void NotificationCommands::deliverNow()
 {
     if (!m_delivering)
         return;
-    Error e;
-    deliverDue(&e);
-    if (e)
+    if (const Error e = deliverDue().problem)
         qWarning("%s", qPrintable(e.message()));
     armTimer();
 }
@@ -201,7 +198,7 @@ void NotificationCommands::armTimer()
     if (!m_delivering)
         return;
     qint64 wait = kRecheckMs;
-    if (Store *store = m_app.store())
+    if (Store *store = m_access.store())
         if (const std::optional<Date> next = NotificationSchedule(*store).nextDate())
             wait = std::clamp(qint64((next->referenceSeconds() - now().referenceSeconds()) * 1000), qint64(0), kRecheckMs);
     m_timer.start(std::chrono::milliseconds(wait));
@@ -210,12 +207,12 @@ void NotificationCommands::armTimer()
 void NotificationCommands::offerReminderTimerOnce()
 {
     const QString offered = QStringLiteral("notifications/timerOffered");
-    Preferences &prefs = m_app.prefs();
+    Preferences &prefs = m_prefs;
     if (prefs.raw(offered).toBool() || ReminderTimer().isInstalled())
         return;
     prefs.setRaw(offered, true);
     prefs.sync();
-    const int answer = m_app.ui().alert(
+    const int answer = m_ui.alert(
         QStringLiteral("Reminders While Tabo Is Closed"),
         QStringLiteral("Tabo shows this reminder when its moment comes while Tabo is open. Shall a small timer of "
                        "your desktop session look for due reminders every hour, so that they also arrive while "
@@ -229,7 +226,7 @@ bool NotificationCommands::setReminderTimerInstalled(bool installed)
 {
     ReminderTimer timer;
     if (const Error e = installed ? timer.install() : timer.remove()) {
-        m_app.ui().presentError(e);
+        m_ui.presentError(e);
         return false;
     }
     return true;
@@ -238,7 +235,7 @@ bool NotificationCommands::setReminderTimerInstalled(bool installed)
 void NotificationCommands::didActivateNotification(const QString &uniqueID)
 {
     Q_EMIT bringForward();
-    QTimer::singleShot(kFilterDelayMs, this, [this, uniqueID] { m_app.filterForInvoice(uniqueID); });
+    QTimer::singleShot(kFilterDelayMs, this, [this, uniqueID] { m_list.filterForInvoice(uniqueID); });
 }
 
 } // namespace tabo

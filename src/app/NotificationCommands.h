@@ -11,7 +11,11 @@
 
 namespace tabo {
 
-class AppController;
+class CurrentDocument;
+class Interaction;
+class ListedDocuments;
+class Preferences;
+class StoreAccess;
 class Notifier;
 class Record;
 
@@ -24,7 +28,8 @@ class NotificationCommands : public QObject
     Q_OBJECT
 
 public:
-    explicit NotificationCommands(AppController &app);
+    NotificationCommands(StoreAccess &store, CurrentDocument &current, ListedDocuments &list, Preferences &prefs,
+                         Interaction &ui);
     ~NotificationCommands() override;
 
     struct Draft
@@ -58,9 +63,14 @@ public:
     // False (after saying so) when there is no such notification.
     bool cancel(qint64 id);
 
-    // Shows every notification whose moment has come and returns how many
-    // were shown; those the service refused stay scheduled.
-    int deliverDue(Error *error = nullptr);
+    // Shows every notification whose moment has come; those the service
+    // refused stay scheduled, and `problem` says so.
+    struct Delivery
+    {
+        int shown = 0;
+        Error problem;
+    };
+    Delivery deliverDue();
     // While the application runs: what came due while it was closed is shown
     // now, the rest at its moment.
     void startDelivering();
@@ -85,7 +95,11 @@ private:
     void armTimer();
     void deliverNow();
 
-    AppController &m_app;
+    StoreAccess &m_access;
+    CurrentDocument &m_current;
+    ListedDocuments &m_list;
+    Preferences &m_prefs;
+    Interaction &m_ui;
     std::unique_ptr<Notifier> m_notifier;
     QTimer m_timer;
     bool m_delivering = false;

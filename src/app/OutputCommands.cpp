@@ -1,11 +1,11 @@
 #include "app/OutputCommands.h"
 
-#include "app/AppController.h"
 #include "app/DesignLibrary.h"
 #include "app/FileCommands.h"
 #include "app/EInvoiceCommands.h"
 #include "app/Interaction.h"
 #include "app/UndoHistory.h"
+#include "app/Workspace.h"
 #include "domain/LineOrder.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
@@ -42,26 +42,27 @@ bool isPdfFile(const QString &path)
 
 // The whole file or nothing at `to`: an existing file is only replaced once
 // the copy is complete.
-bool copyPdf(const QString &from, const QString &to, QString *error)
+Error copyPdf(const QString &from, const QString &to)
 {
     QFile source(from);
-    if (!isPdfFile(from) || !source.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("The PDF file “%1” could not be read.").arg(from);
-        return false;
-    }
-    if (const Error e = ProtectedFiles::writeAtomically(to, source.readAll())) {
-        *error = e.text;
-        return false;
-    }
-    return true;
+    if (!isPdfFile(from) || !source.open(QIODevice::ReadOnly))
+        return Error::file(QStringLiteral("The PDF file “%1” could not be read.").arg(from));
+    return ProtectedFiles::writeAtomically(to, source.readAll());
 }
 
 } // namespace
 
-OutputCommands::OutputCommands(AppController &app)
-    : m_app(app)
-    , m_formatters(std::make_unique<Formatters>(app.prefs()))
-    , m_renderer(std::make_unique<PageRenderer>(app.prefs(), *m_formatters))
+OutputCommands::OutputCommands(CurrentDocument &current, DesignLibrary &designs, FileCommands &files,
+                               UndoHistory &undo, WorkingFiles &workingFiles, Preferences &prefs, Interaction &ui)
+    : m_current(current)
+    , m_designs(designs)
+    , m_files(files)
+    , m_undo(undo)
+    , m_workingFiles(workingFiles)
+    , m_prefs(prefs)
+    , m_ui(ui)
+    , m_formatters(std::make_unique<Formatters>(prefs))
+    , m_renderer(std::make_unique<PageRenderer>(prefs, *m_formatters))
 {
 }
 
@@ -76,10 +77,10 @@ RenderRequest OutputCommands::request(const Record &document, const LetterMode &
 {
     RenderRequest r;
     r.document = &document;
-    r.design = design ? design : m_app.designs().currentDesign();
+    r.design = design ? design : m_designs.currentDesign();
     r.letter = letter;
     r.page = pageSetupFor(document);
-    r.lines = orderedLines(document, m_app.prefs());
+    r.lines = orderedLines(document, m_prefs);
     return r;
 }
 
@@ -91,21 +92,21 @@ QString OutputCommands::invoiceHTMLString(const RenderRequest &r) const
 QString OutputCommands::jobTitle(const Record &invoice) const
 {
     return QStringLiteral("%1 | %2 | %3")
-        .arg(m_app.prefs().string(P::prefsName), invoice.text(Invoice::title), invoice.text(Invoice::number));
+        .arg(m_prefs.string(P::prefsName), invoice.text(Invoice::title), invoice.text(Invoice::number));
 }
 
 bool OutputCommands::checkDesignsAvailable()
 {
-    if (!m_app.designs().designs().isEmpty())
+    if (!m_designs.designs().isEmpty())
         return true;
-    m_app.ui().alert(QStringLiteral("Error!"), QStringLiteral("No design available. Please download or create a design."),
+    m_ui.alert(QStringLiteral("Error!"), QStringLiteral("No design available. Please download or create a design."),
                      {kOK});
     return false;
 }
 
 bool OutputCommands::showPreview()
 {
-    if (!m_app.currentInvoice() || !checkDesignsAvailable())
+    if (!m_current.currentInvoice() || !checkDesignsAvailable())
         return false;
     generatePreview();
     return true;
@@ -115,20 +116,20 @@ void OutputCommands::generatePreview()
 {
     m_mode.isReminderAction = false;
     m_mode.isSlipAction = false;
-    m_app.prefs().setBool(P::isMainPreviewAction, true);
-    renderInto(Target::Preview, m_app.designs().currentDesign());
+    m_prefs.setBool(P::isMainPreviewAction, true);
+    renderInto(Target::Preview, m_designs.currentDesign());
 }
 
 LetterTexts OutputCommands::openReminderSheet() const
 {
-    const Preferences &prefs = m_app.prefs();
+    const Preferences &prefs = m_prefs;
     return {prefs.string(P::locReminder), prefs.string(P::tempRemConditions), prefs.string(P::tempRemMisc),
             prefs.string(P::tempRemFooter)};
 }
 
 LetterTexts OutputCommands::openSlipSheet() const
 {
-    const Preferences &prefs = m_app.prefs();
+    const Preferences &prefs = m_prefs;
     return {prefs.string(P::locSlip), prefs.string(P::tempSlipConditions), prefs.string(P::tempSlipMisc),
             prefs.string(P::tempSlipFooter)};
 }
@@ -138,8 +139,8 @@ void OutputCommands::generateReminder(const LetterTexts &texts)
     m_mode.isReminderAction = true;
     m_mode.isSlipAction = false;
     m_mode.reminder = texts;
-    m_app.prefs().setBool(P::isMainPreviewAction, true);
-    renderInto(Target::Preview, m_app.designs().currentDesign());
+    m_prefs.setBool(P::isMainPreviewAction, true);
+    renderInto(Target::Preview, m_designs.currentDesign());
 }
 
 void OutputCommands::generateSlip(const LetterTexts &texts)
@@ -147,8 +148,8 @@ void OutputCommands::generateSlip(const LetterTexts &texts)
     m_mode.isSlipAction = true;
     m_mode.isReminderAction = false;
     m_mode.slip = texts;
-    m_app.prefs().setBool(P::isMainPreviewAction, true);
-    renderInto(Target::Preview, m_app.designs().currentDesign());
+    m_prefs.setBool(P::isMainPreviewAction, true);
+    renderInto(Target::Preview, m_designs.currentDesign());
 }
 
 QString OutputCommands::exportSheetTitle(int kind)
@@ -169,19 +170,19 @@ QString OutputCommands::exportSheetTitle(int kind)
 
 bool OutputCommands::openExport(int kind)
 {
-    const Record *invoice = m_app.currentInvoice();
+    const Record *invoice = m_current.currentInvoice();
     if (!invoice || !checkDesignsAvailable())
         return false;
     m_exportKind = kind;
     if (kind == Print)
-        m_app.prefs().setString(P::currentPrintJobTitle, jobTitle(*invoice));
+        m_prefs.setString(P::currentPrintJobTitle, jobTitle(*invoice));
     loadExportPDF();
     return true;
 }
 
 void OutputCommands::loadExportPDF()
 {
-    renderInto(Target::Export, m_app.designs().currentDesign());
+    renderInto(Target::Export, m_designs.currentDesign());
 }
 
 void OutputCommands::cancelExport()
@@ -195,7 +196,7 @@ void OutputCommands::exportCommand()
     // presses it at once.
     waitUntilIdle();
     Q_EMIT exportFinished();
-    Record *invoice = m_app.currentInvoice();
+    Record *invoice = m_current.currentInvoice();
     if (invoice) {
         switch (m_exportKind) {
         case Print:
@@ -208,7 +209,7 @@ void OutputCommands::exportCommand()
             emailPdf(*invoice);
             break;
         case ExportDocument:
-            m_app.files().exportInvoice(int(m_app.prefs().integer(P::exportFormat)));
+            m_files.exportInvoice(int(m_prefs.integer(P::exportFormat)));
             break;
         default:
             break;
@@ -219,7 +220,7 @@ void OutputCommands::exportCommand()
 
 bool OutputCommands::printWorkingPdf(const Record &invoice)
 {
-    return printPdf(m_app.pdfPath(), jobTitle(invoice));
+    return printPdf(m_workingFiles.pdfPath(), jobTitle(invoice));
 }
 
 bool OutputCommands::printPdf(const QString &path, const QString &title)
@@ -227,12 +228,12 @@ bool OutputCommands::printPdf(const QString &path, const QString &title)
     PrintRequest request;
     request.jobTitle = title;
     request.printer = m_printer;
-    if (m_app.prefs().integer(P::printBehavior) == 1 && !m_app.ui().printDialog(request))
+    if (m_prefs.integer(P::printBehavior) == 1 && !m_ui.printDialog(request))
         return false;
     const Error error = PrintSystem::printFile(path, request);
     if (!error)
         return true;
-    m_app.ui().alert(QStringLiteral("Error!"), error.message(), {kOK});
+    m_ui.alert(QStringLiteral("Error!"), error.message(), {kOK});
     return false;
 }
 
@@ -240,10 +241,10 @@ bool OutputCommands::savePdf(Record &invoice)
 {
     // A slash cannot stand in a file name; numbers such as "2026/17" are common.
     const QString name = jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-'));
-    const qint64 form = invoice.integer(Invoice::kind) == 1 ? m_app.prefs().integer(P::einvoiceForm) : 0;
+    const qint64 form = invoice.integer(Invoice::kind) == 1 ? m_prefs.integer(P::einvoiceForm) : 0;
     if (form == EInvoiceCommands::PlainPdf)
-        return savePdfAs(m_app.pdfPath(), QStringLiteral("Export As PDF File"), name);
-    EInvoiceCommands &einvoices = m_app.einvoices();
+        return savePdfAs(m_workingFiles.pdfPath(), QStringLiteral("Export As PDF File"), name);
+    EInvoiceCommands &einvoices = *m_einvoices;
     // Asked before the panel: a missing detail is found before a file name is chosen.
     const einvoice::Mapping mapping = einvoices.map(invoice);
     if (!einvoices.checked(mapping, invoice))
@@ -254,13 +255,13 @@ bool OutputCommands::savePdf(Record &invoice)
     request.extensions = {xml ? QStringLiteral("xml") : QStringLiteral("pdf")};
     request.suggestedName = name;
     request.canCreateFolders = true;
-    QString target = m_app.ui().saveTarget(request);
+    QString target = m_ui.saveTarget(request);
     if (target.isEmpty())
         return false;
     if (QFileInfo(target).suffix().isEmpty())
         target += xml ? QStringLiteral(".xml") : QStringLiteral(".pdf");
     return xml ? einvoices.writeXml(mapping, target, EInvoiceCommands::Form::XRechnungCii)
-               : einvoices.writeFacturX(invoice, mapping, m_app.pdfPath(), target);
+               : einvoices.writeFacturX(invoice, mapping, m_workingFiles.pdfPath(), target);
 }
 
 bool OutputCommands::savePdfAs(const QString &path, const QString &panelTitle, const QString &suggestedName)
@@ -270,32 +271,31 @@ bool OutputCommands::savePdfAs(const QString &path, const QString &panelTitle, c
     request.extensions = {QStringLiteral("pdf")};
     request.suggestedName = suggestedName;
     request.canCreateFolders = true;
-    QString target = m_app.ui().saveTarget(request);
+    QString target = m_ui.saveTarget(request);
     if (target.isEmpty())
         return false;
     if (QFileInfo(target).suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive) != 0)
         target += QStringLiteral(".pdf");
-    QString error;
-    if (copyPdf(path, target, &error))
+    const Error e = copyPdf(path, target);
+    if (!e)
         return true;
-    m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
+    m_ui.alert(QStringLiteral("Error!"), e.text, {kOK});
     return false;
 }
 
 bool OutputCommands::emailPdf(Record &invoice)
 {
-    const qint64 form = invoice.integer(Invoice::kind) == 1 ? m_app.prefs().integer(P::einvoiceForm) : 0;
+    const qint64 form = invoice.integer(Invoice::kind) == 1 ? m_prefs.integer(P::einvoiceForm) : 0;
     if (form == EInvoiceCommands::FacturXPdf)
-        return m_app.einvoices().facturXFromPrinted(invoice, m_app.pdfPath(), m_app.pdfEmailPath()) && sendEmail();
+        return m_einvoices->facturXFromPrinted(invoice, m_workingFiles.pdfPath(), m_workingFiles.pdfEmailPath()) && sendEmail();
     if (form == EInvoiceCommands::XRechnungXml) {
         // The XML goes alone: a public authority's inbox takes nothing else.
-        const QString xml = QFileInfo(m_app.pdfEmailPath()).absolutePath() + QLatin1Char('/')
+        const QString xml = QFileInfo(m_workingFiles.pdfEmailPath()).absolutePath() + QLatin1Char('/')
                             + jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-')) + QStringLiteral(".xml");
-        return m_app.einvoices().exportXml(invoice, xml, EInvoiceCommands::Form::XRechnungCii) && sendEmail(xml);
+        return m_einvoices->exportXml(invoice, xml, EInvoiceCommands::Form::XRechnungCii) && sendEmail(xml);
     }
-    QString error;
-    if (!copyPdf(m_app.pdfPath(), m_app.pdfEmailPath(), &error)) {
-        m_app.ui().alert(QStringLiteral("Error!"), error, {kOK});
+    if (const Error e = copyPdf(m_workingFiles.pdfPath(), m_workingFiles.pdfEmailPath())) {
+        m_ui.alert(QStringLiteral("Error!"), e.text, {kOK});
         return false;
     }
     return sendEmail();
@@ -303,42 +303,42 @@ bool OutputCommands::emailPdf(Record &invoice)
 
 bool OutputCommands::sendEmail()
 {
-    return sendEmail(m_app.pdfEmailPath());
+    return sendEmail(m_workingFiles.pdfEmailPath());
 }
 
 bool OutputCommands::sendEmail(const QString &attachment)
 {
-    Record *invoice = m_app.currentInvoice();
+    Record *invoice = m_current.currentInvoice();
     if (!invoice)
         return false;
     MailMessage message;
-    const QString body = m_app.prefs().string(P::tempEmailBody);
+    const QString body = m_prefs.string(P::tempEmailBody);
     if (!body.isEmpty())
         message.body = QStringLiteral("%1\n\n\n").arg(body) + QString(96, QLatin1Char('-')) + QStringLiteral("\n\n");
     message.subject = jobTitle(*invoice);
     message.attachment = attachment;
     message.recipient = invoice->text(Invoice::emailAddress);
-    QString error;
-    if (MailHandoff::compose(message, &error))
+    const Error error = MailHandoff::compose(message);
+    if (!error)
         return true;
     // The PDF is made: offer it another way out.
-    const int answer = m_app.ui().alert(
+    const int answer = m_ui.alert(
         QStringLiteral("The E-Mail Could Not Be Written"),
-        error + QStringLiteral("\n\nYou can save the PDF and attach it to a message yourself, or open the folder "
+        error.text + QStringLiteral("\n\nYou can save the PDF and attach it to a message yourself, or open the folder "
                                "that holds it."),
         {QStringLiteral("Save PDF…"), QStringLiteral("Open Folder"), QStringLiteral("Cancel")});
     if (answer == 0)
         savePdf(*invoice);
     else if (answer == 1)
-        m_app.ui().openWithDefaultApplication(QFileInfo(message.attachment).absolutePath());
+        m_ui.openWithDefaultApplication(QFileInfo(message.attachment).absolutePath());
     return false;
 }
 
 void OutputCommands::markInvoiceAsSent(Record *document)
 {
-    if (!document || document->integer(Invoice::kind) != 1 || !m_app.prefs().boolean(P::markInvoiceAsSent))
+    if (!document || document->integer(Invoice::kind) != 1 || !m_prefs.boolean(P::markInvoiceAsSent))
         return;
-    const UndoHistory::Step step(m_app.undo(), document, QStringLiteral("Mark as Sent"));
+    const UndoHistory::Step step(m_undo, document, QStringLiteral("Mark as Sent"));
     // A paid invoice sent again is open again, and so no longer counts as
     // paid (a part payment stays received).
     if (document->integer(Invoice::status) == 3) {
@@ -346,16 +346,16 @@ void OutputCommands::markInvoiceAsSent(Record *document)
         document->setBool(Invoice::isPaid, false);
     }
     document->setInt(Invoice::status, 1);
-    m_app.documentChanged(document);
+    m_current.documentChanged(document);
 }
 
 void OutputCommands::selectDesign(int index)
 {
-    m_app.prefs().setInteger(P::selectedDesign, index);
+    m_prefs.setInteger(P::selectedDesign, index);
     if (!checkDesignsAvailable())
         return;
-    const QList<Record *> designs = m_app.designs().designs();
-    if (index < 0 || index >= designs.size() || !m_app.currentInvoice()) {
+    const QList<Record *> designs = m_designs.designs();
+    if (index < 0 || index >= designs.size() || !m_current.currentInvoice()) {
         failureAlert(Target::DesignChoice);
         return;
     }
@@ -364,8 +364,8 @@ void OutputCommands::selectDesign(int index)
 
 PageSetup OutputCommands::pageSetupFor(const Record &document) const
 {
-    PageSetup setup = PageSetup::fromPreferences(m_app.prefs());
-    setup.pageStamp = PageStamp::patternFor(document.text(Invoice::number), m_app.prefs().string(P::locPageOf));
+    PageSetup setup = PageSetup::fromPreferences(m_prefs);
+    setup.pageStamp = PageStamp::patternFor(document.text(Invoice::number), m_prefs.string(P::locPageOf));
     // Generous: a line with a long text may take a page of its own, and
     // the letter around the lines a few more.
     setup.maxPages = 10 * int(document.toMany(Invoice::items).size()) + 10;
@@ -382,13 +382,13 @@ bool OutputCommands::renderToFile(const RenderRequest &r, const QString &path)
 
 bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path)
 {
-    return renderHtmlToFile(html, path, PageSetup::fromPreferences(m_app.prefs()));
+    return renderHtmlToFile(html, path, PageSetup::fromPreferences(m_prefs));
 }
 
 bool OutputCommands::renderHtmlToFile(const QString &html, const QString &path, const PageSetup &setup)
 {
     if (const Error refused = ProtectedFiles::check(path)) {
-        m_app.ui().presentError(refused);
+        m_ui.presentError(refused);
         return false;
     }
     if (!canRender())
@@ -457,7 +457,7 @@ bool OutputCommands::canRender()
 
 void OutputCommands::renderInto(Target target, const Record *design)
 {
-    const Record *invoice = m_app.currentInvoice();
+    const Record *invoice = m_current.currentInvoice();
     if (!invoice || !canRender()) {
         failureAlert(target);
         return;
@@ -465,7 +465,7 @@ void OutputCommands::renderInto(Target target, const Record *design)
     LetterMode letter = m_mode;
     letter.onScreen = target != Target::Export;
     const RenderRequest r = request(*invoice, letter, design);
-    const QString path = m_app.pdfPath();
+    const QString path = m_workingFiles.pdfPath();
     m_renderingDesign = design ? design->text(Design::title) : QString();
     setBusy(+1);
     engine().render(invoiceHTMLString(r), r.page, path,
@@ -481,7 +481,7 @@ void OutputCommands::finishRender(Target target, bool ok)
         failureAlert(target);
         return;
     }
-    const QString path = m_app.pdfPath();
+    const QString path = m_workingFiles.pdfPath();
     switch (target) {
     case Target::Preview:
         Q_EMIT previewReady(path);
@@ -505,7 +505,7 @@ bool OutputCommands::reportRunaway(const QString &designTitle)
     const int pages = engine().lastRunawayPages();
     if (pages <= 0)
         return false;
-    m_app.ui().presentError(Error::file(QStringLiteral("The design “%1” laid the document out on %2 pages, far more than "
+    m_ui.presentError(Error::file(QStringLiteral("The design “%1” laid the document out on %2 pages, far more than "
                                                  "its lines can fill, so no PDF was made. Choose another design or "
                                                  "fix this one in Preferences ▸ Designs.")
                                       .arg(designTitle)
@@ -517,7 +517,7 @@ void OutputCommands::failureAlert(Target target)
 {
     if (reportRunaway(m_renderingDesign))
         return;
-    m_app.ui().alert(QStringLiteral("Ooops!"),
+    m_ui.alert(QStringLiteral("Ooops!"),
                      target == Target::DesignChoice
                          ? QStringLiteral("Something went really wrong while creating the design preview.")
                          : QStringLiteral("Something went really wrong while creating the preview."),

@@ -9,7 +9,14 @@
 
 namespace tabo {
 
-class AppController;
+class CurrentDocument;
+class DesignLibrary;
+class EInvoiceCommands;
+class FileCommands;
+class Interaction;
+class Preferences;
+class UndoHistory;
+class WorkingFiles;
 class Formatters;
 class PdfEngine;
 struct PageSetup;
@@ -26,7 +33,11 @@ class OutputCommands : public QObject
 public:
     enum ExportKind { Print = 0, SavePdf = 1, Email = 2, ExportDocument = 3 };
 
-    explicit OutputCommands(AppController &app);
+    OutputCommands(CurrentDocument &current, DesignLibrary &designs, FileCommands &files, UndoHistory &undo,
+                   WorkingFiles &workingFiles, Preferences &prefs, Interaction &ui);
+    // The export sheet writes e-invoices, and e-invoices are rendered here:
+    // the two are wired once both exist.
+    void setEInvoices(EInvoiceCommands &einvoices) { m_einvoices = &einvoices; }
     ~OutputCommands() override;
 
     // Everything a rendering of `document` depends on, from the preferences:
@@ -140,7 +151,14 @@ private:
     bool savePdf(Record &invoice);
     bool emailPdf(Record &invoice);
 
-    AppController &m_app;
+    CurrentDocument &m_current;
+    DesignLibrary &m_designs;
+    FileCommands &m_files;
+    UndoHistory &m_undo;
+    WorkingFiles &m_workingFiles;
+    Preferences &m_prefs;
+    Interaction &m_ui;
+    EInvoiceCommands *m_einvoices = nullptr;
     std::unique_ptr<Formatters> m_formatters;
     std::unique_ptr<PageRenderer> m_renderer;
     std::unique_ptr<PdfEngine> m_engine;

@@ -1,14 +1,17 @@
 #include "app/ReportCommands.h"
 
-#include "app/AppController.h"
 #include "app/Interaction.h"
 #include "app/OutputCommands.h"
+#include "app/Workspace.h"
 #include "base/Clock.h"
+#include "domain/DocumentList.h"
+#include "domain/Numbering.h"
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
 
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 
 namespace tabo {
 
@@ -19,12 +22,35 @@ QString ReportCommands::reportPdfPath()
     return QDir(Locations::dataFolder()).filePath(QStringLiteral("Report.pdf"));
 }
 
+ReportFigures ReportCommands::generateReport()
+{
+    Report::Range range;
+    if (m_prefs.boolean(P::useReportDateRange))
+        range = std::pair(m_prefs.date(P::reportDateL), m_prefs.date(P::reportDateR));
+    return generateReport(range);
+}
+
+ReportFigures ReportCommands::generateReport(const Report::Range &range)
+{
+    m_list.calculateDatabase();
+    return Report::compute(m_list.documentList().shown(), range);
+}
+
+QString ReportCommands::reportPage(const ReportFigures &figures) const
+{
+    const QString comment = QStringLiteral("%1 | %2 | %3")
+                                .arg(QStringLiteral("Report"), m_prefs.string(P::prefsName),
+                                     Numbering::getPatternDateStringFromDate(m_prefs, now()));
+    return Report::page(Report::chartTemplate(), figures, Report::chartScript(), comment,
+                        QLocale(m_prefs.documentRegion()));
+}
+
 void ReportCommands::showHintOnce()
 {
-    Preferences &prefs = m_app.prefs();
+    Preferences &prefs = m_prefs;
     if (prefs.boolean(P::isReportHintShown))
         return;
-    m_app.ui().alert(QStringLiteral("Hint!"),
+    m_ui.alert(QStringLiteral("Hint!"),
                      QStringLiteral("The report is bound to the arranged invoices in Tabo's main window. This means "
                                     "you can, for example, search for a client and therefore see the report just for "
                                     "this single client or you can pre-filter all your invoices to see a report only "
@@ -40,9 +66,9 @@ QString ReportCommands::render()
 {
     QDir().mkpath(Locations::dataFolder());
     const QString path = reportPdfPath();
-    if (m_app.outputs().renderHtmlToFile(m_app.reportPage(m_app.generateReport()), path))
+    if (m_outputs.renderHtmlToFile(reportPage(generateReport()), path))
         return path;
-    m_app.ui().alert(QStringLiteral("Ooops!"), QStringLiteral("Something went really wrong while creating the report."),
+    m_ui.alert(QStringLiteral("Ooops!"), QStringLiteral("Something went really wrong while creating the report."),
                      {QStringLiteral("OK")});
     return QString();
 }
@@ -51,15 +77,15 @@ bool ReportCommands::savePdf()
 {
     const QString path = render();
     return !path.isEmpty()
-           && m_app.outputs().savePdfAs(path, QStringLiteral("Save Report as PDF"),
-                                        QStringLiteral("%1 | Report").arg(m_app.prefs().string(P::prefsName)));
+           && m_outputs.savePdfAs(path, QStringLiteral("Save Report as PDF"),
+                                        QStringLiteral("%1 | Report").arg(m_prefs.string(P::prefsName)));
 }
 
 bool ReportCommands::print()
 {
     const QString path = render();
     return !path.isEmpty()
-           && m_app.outputs().printPdf(path, QStringLiteral("%1 | Report").arg(m_app.prefs().string(P::prefsName)));
+           && m_outputs.printPdf(path, QStringLiteral("%1 | Report").arg(m_prefs.string(P::prefsName)));
 }
 
 } // namespace tabo

@@ -1,17 +1,32 @@
 #pragma once
 
+#include "reports/Report.h"
+
 #include <QString>
 
 namespace tabo {
 
-class AppController;
+class Interaction;
+class ListedDocuments;
+class OutputCommands;
+class Preferences;
 
 // The report window's commands: the one-time hint, the report rendered to a
 // PDF of its own ("Report.pdf" in the data folder), saving and printing it.
 class ReportCommands
 {
 public:
-    explicit ReportCommands(AppController &app) : m_app(app) {}
+    ReportCommands(ListedDocuments &list, OutputCommands &outputs, Preferences &prefs, Interaction &ui)
+        : m_list(list), m_outputs(outputs), m_prefs(prefs), m_ui(ui)
+    {
+    }
+
+    // The report over what the list shows, after a summary pass; the range
+    // from the preferences when `useReportDateRange` is on.
+    ReportFigures generateReport();
+    ReportFigures generateReport(const Report::Range &range);
+    // The report page of those figures ("Report | company | today").
+    QString reportPage(const ReportFigures &figures) const;
 
     // The first time only: says what the report is bound to and starts the
     // date range at today.
@@ -25,7 +40,10 @@ public:
     static QString reportPdfPath();
 
 private:
-    AppController &m_app;
+    ListedDocuments &m_list;
+    OutputCommands &m_outputs;
+    Preferences &m_prefs;
+    Interaction &m_ui;
 };
 
 } // namespace tabo

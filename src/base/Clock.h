@@ -32,4 +32,7 @@ private:
 
 inline Date now() { return Clock::instance().now(); }
 
+// Due dates and validity: whole days of 24 hours from now.
+inline Date futureDateFromTodayWithDays(qint64 days) { return now().addSeconds(86400.0 * double(days)); }
+
 } // namespace tabo

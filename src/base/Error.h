@@ -28,6 +28,11 @@ struct Error
     // Files Tabo reads and writes itself (stores, copies, design files): the
     // text says what happened to which file.
     static Error file(const QString &text) { return Error{File, 1, text, {}}; }
+    // A refusal of the person's input, in a sentence for them.
+    static Error input(const QString &text) { return Error{Tabo, 1, text, {}}; }
+    // A refusal the person has been shown already (as an alert): whoever
+    // receives it shows nothing more.
+    static Error shownAlready() { return Error{Tabo, 2, {}, {}}; }
 };
 
 } // namespace tabo

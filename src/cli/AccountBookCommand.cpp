@@ -33,7 +33,7 @@ int AccountBookCommand::execute(const QStringList &args)
     if (!m_session.store())
         return kExitFailure;
     arrangeList(parser, tag);
-    AccountBook book(m_session.controller());
+    AccountBook book = m_session.controller().accountBook();
     if (!book.writePdf(parser.value(pdf)))
         return failure(QStringLiteral("The account book could not be written to “%1”.").arg(parser.value(pdf)));
     return kExitOk;

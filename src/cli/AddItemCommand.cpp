@@ -24,9 +24,14 @@ AddItemCommand::AddItemCommand(Session &session)
 {
 }
 
-bool AddItemCommand::popoverField(ItemFields &f, const QString &key, const QString &value, QString *error)
+Result<bool> AddItemCommand::popoverField(ItemFields &f, const QString &key, const QString &value)
 {
     const auto is = [&key](const char *name) { return key == QLatin1String(name); };
+    const auto flag = [&](bool *box) -> Result<bool> {
+        if (Error e = AttributeText::flag(key, value, box))
+            return e;
+        return true;
+    };
     if (is("title"))
         f.title = value;
     else if (is("subtitle"))
@@ -34,9 +39,11 @@ bool AddItemCommand::popoverField(ItemFields &f, const QString &key, const QStri
     else if (is("unit"))
         f.unit = value;
     else if (is("unitCode"))
-        return UnitCodes::isCode(value) ? (f.unitCode = value.toUpper(), true)
-                                        : (*error = QStringLiteral("“%1” is not a unit code of UN/ECE Recommendation 20 "
-                                                                   "(such as HUR, C62, DAY).").arg(value), false);
+        if (UnitCodes::isCode(value))
+            f.unitCode = value.toUpper();
+        else
+            return Error::input(QStringLiteral("“%1” is not a unit code of UN/ECE Recommendation 20 (such as HUR, "
+                                               "C62, DAY).").arg(value));
     else if (is("sku"))
         f.sku = value;
     else if (is("note"))
@@ -46,11 +53,11 @@ bool AddItemCommand::popoverField(ItemFields &f, const QString &key, const QStri
     else if (is("unitCount") || is("quantity"))
         f.quantity = value;
     else if (is("isTax1Applied") || is("tax1"))
-        return AttributeText::flag(key, value, &f.tax1, error);
+        return flag(&f.tax1);
     else if (is("isTax2Applied") || is("tax2"))
-        return AttributeText::flag(key, value, &f.tax2, error);
+        return flag(&f.tax2);
     else if (is("isTax3Applied") || is("tax3"))
-        return AttributeText::flag(key, value, &f.tax3, error);
+        return flag(&f.tax3);
     else
         return false;
     return true;
@@ -75,13 +82,15 @@ int AddItemCommand::execute(const QStringList &args)
     fields.price = fields.quantity = QStringLiteral("0");
     QList<std::pair<QString, QVariant>> edits;
     for (const auto &[key, value] : std::as_const(values)) {
-        QString reason;
-        if (popoverField(fields, key, value, &reason))
+        const Result<bool> popover = popoverField(fields, key, value);
+        if (!popover)
+            return failure(popover.error().text);
+        if (popover.value())
             continue;
-        QVariant typed;
-        if (!reason.isEmpty() || !AttributeText::convert(entityDesc(EntityId::Item), key, value, &typed, &reason))
-            return failure(reason);
-        edits.append({key, typed});
+        const Result<QVariant> typed = AttributeText::convert(entityDesc(EntityId::Item), key, value);
+        if (!typed)
+            return failure(typed.error().text);
+        edits.append({key, typed.value()});
     }
     Record *doc = m_session.select(id);
     if (!doc)
@@ -89,18 +98,18 @@ int AddItemCommand::execute(const QStringList &args)
 
     AppController &app = m_session.controller();
     ItemCommands &items = app.items();
-    QString error;
-    Record *item = items.addItem(fields, &error);
-    if (!item)
-        return failure(error);
+    const Result<Record *> added = items.addItem(fields);
+    if (!added)
+        return failure(added.error().text);
+    Record *item = added.value();
     const QString uniqueID = item->text(Item::uniqueID);
     for (const auto &[key, value] : std::as_const(edits)) {
         const int shown = m_session.ui().messagesShown();
-        if (!items.editItem(item, key, value, &error)) {
+        if (const Error e = items.editItem(item, key, value)) {
             // Half a line is worse than none.
             items.withdrawItem(item);
             // A refusal has been shown as an alert already.
-            return m_session.ui().messagesShown() > shown ? kExitFailure : failure(error);
+            return m_session.ui().messagesShown() > shown ? kExitFailure : failure(e.text);
         }
     }
     if (m_session.ui().errorPresented())

@@ -18,8 +18,8 @@ public:
 
 private:
     // Puts a popover key into `fields`: false when `key` is not one of them,
-    // with *error set when it is but the value is not valid.
-    static bool popoverField(ItemFields &fields, const QString &key, const QString &value, QString *error);
+    // refused when it is but the value is not valid.
+    static Result<bool> popoverField(ItemFields &fields, const QString &key, const QString &value);
 };
 
 } // namespace tabo::cli

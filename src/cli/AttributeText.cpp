@@ -28,19 +28,18 @@ QString invalid(const QString &text, AttrType type, const QString &key)
 
 } // namespace
 
-bool AttributeText::convert(const EntityDesc &desc, const QString &key, const QString &text, QVariant *value,
-                            QString *error)
+Result<QVariant> AttributeText::convert(const EntityDesc &desc, const QString &key, const QString &text)
 {
     const int attr = desc.attributeIndex(key);
-    if (attr < 0) {
-        *error = desc.relationIndex(key) >= 0
-                     ? QStringLiteral("“%1” is a relationship of %2, not an attribute.").arg(key, desc.name)
-                     : QStringLiteral("%1 has no attribute “%2”.").arg(desc.name, key);
-        return false;
-    }
+    if (attr < 0)
+        return Error::input(desc.relationIndex(key) >= 0
+                                ? QStringLiteral("“%1” is a relationship of %2, not an attribute.").arg(key, desc.name)
+                                : QStringLiteral("%1 has no attribute “%2”.").arg(desc.name, key));
     const AttrType type = desc.attributes[attr].type;
     const QString t = text.trimmed();
     bool ok = true;
+    QVariant converted;
+    QVariant *value = &converted;
     switch (type) {
     case AttrType::Text: *value = text; break;
     case AttrType::Date: {
@@ -68,38 +67,33 @@ bool AttributeText::convert(const EntityDesc &desc, const QString &key, const QS
     }
     // A value the attribute cannot hold (1e39 in a float) would be stored as
     // infinity and poison every total.
-    if (ok && (type == AttrType::Double || type == AttrType::Float) && !fitsAttribute(type, value->toDouble())) {
-        *error = QStringLiteral("“%1” is too large for %2 (at most %3).")
-                     .arg(text, key, type == AttrType::Float ? QStringLiteral("about 3.4e38") : QStringLiteral("about 1.8e308"));
-        return false;
-    }
+    if (ok && (type == AttrType::Double || type == AttrType::Float) && !fitsAttribute(type, value->toDouble()))
+        return Error::input(QStringLiteral("“%1” is too large for %2 (at most %3).")
+                                .arg(text, key, type == AttrType::Float ? QStringLiteral("about 3.4e38")
+                                                                        : QStringLiteral("about 1.8e308")));
     if (!ok)
-        *error = invalid(text, type, key);
-    return ok;
+        return Error::input(invalid(text, type, key));
+    return converted;
 }
 
-bool AttributeText::assign(Record &record, const QString &key, const QString &text, QString *error)
+Error AttributeText::assign(Record &record, const QString &key, const QString &text)
 {
-    QVariant value;
-    if (!convert(record.desc(), key, text, &value, error))
-        return false;
+    const Result<QVariant> value = convert(record.desc(), key, text);
+    if (!value)
+        return value.error();
     const int attr = record.desc().attributeIndex(key);
-    if (!record.setValue(attr, value)) {
-        *error = invalid(text, record.desc().attributes[attr].type, key);
-        return false;
-    }
-    return true;
+    if (!record.setValue(attr, value.value()))
+        return Error::input(invalid(text, record.desc().attributes[attr].type, key));
+    return {};
 }
 
-bool AttributeText::flag(const QString &key, const QString &text, bool *value, QString *error)
+Error AttributeText::flag(const QString &key, const QString &text, bool *value)
 {
     const int b = boolFromText(text.trimmed());
-    if (b < 0) {
-        *error = invalid(text, AttrType::Bool, key);
-        return false;
-    }
+    if (b < 0)
+        return Error::input(invalid(text, AttrType::Bool, key));
     *value = b == 1;
-    return true;
+    return {};
 }
 
 QString AttributeText::plain(const Record &record, int attr)

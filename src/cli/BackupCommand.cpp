@@ -32,10 +32,10 @@ int BackupCommand::execute(const QStringList &args)
         if (!m_session.store())
             return kExitFailure;
         AppController &app = m_session.controller();
-        QString error;
-        if (!app.backups().doTheNewBackup(&error))
-            return failure(QStringLiteral("The automatic backup “%1” could not be written. %2").arg(app.backupPath(), error));
-        printOut(app.backupPath());
+        if (const Error e = app.backups().doTheNewBackup())
+            return failure(QStringLiteral("The automatic backup “%1” could not be written. %2")
+                               .arg(app.automaticBackupFile(), e.message()));
+        printOut(app.automaticBackupFile());
         return kExitOk;
     }
     if (pos.size() != 2)
@@ -45,8 +45,7 @@ int BackupCommand::execute(const QStringList &args)
                               : QString());
     if (what == QLatin1String("database"))
         return backupDatabase(pos.at(1));
-    QString error;
-    bool (BackupCommands::*write)(const QString &, QString *) = nullptr;
+    Error (BackupCommands::*write)(const QString &) = nullptr;
     if (what == QLatin1String("invoices"))
         write = &BackupCommands::writeInvoiceBackup;
     else if (what == QLatin1String("items"))
@@ -55,8 +54,8 @@ int BackupCommand::execute(const QStringList &args)
         return usageError(QStringLiteral("Unknown backup “%1”.").arg(what));
     if (!m_session.store())
         return kExitFailure;
-    if (!(m_session.controller().backups().*write)(pos.at(1), &error))
-        return failure(error.isEmpty() ? QStringLiteral("“%1” could not be written.").arg(pos.at(1)) : error);
+    if (const Error e = (m_session.controller().backups().*write)(pos.at(1)))
+        return failure(e.message());
     return kExitOk;
 }
 
@@ -72,10 +71,9 @@ int BackupCommand::backupDatabase(const QString &file)
     const QString lasting = info.dir().absoluteFilePath(base + QStringLiteral(".tabo2db"));
     if (!m_session.store())
         return kExitFailure;
-    QString error;
-    if (!m_session.controller().backups().writeCompleteBackup(info.dir().filePath(base + QStringLiteral(".mbdb")),
-                                                              &error))
-        return failure(error.isEmpty() ? QStringLiteral("The backup “%1” could not be written.").arg(lasting) : error);
+    if (const Error e = m_session.controller().backups().writeCompleteBackup(
+            info.dir().filePath(base + QStringLiteral(".mbdb"))))
+        return failure(e.message());
     printOut(lasting);
     return kExitOk;
 }

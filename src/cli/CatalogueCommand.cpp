@@ -73,14 +73,12 @@ int CatalogueCommand::edit(const QStringList &pos)
         QVariant typed = value;
         if (attr.startsWith(QLatin1String("isTax"))) {
             bool flag = false;
-            QString reason;
-            if (!AttributeText::flag(key, value, &flag, &reason))
-                return failure(reason);
+            if (const Error e = AttributeText::flag(key, value, &flag))
+                return failure(e.text);
             typed = flag;
         }
-        QString error;
-        if (!items.editCatalogueEntry(e, attr, typed, &error))
-            return failure(error);
+        if (const Error refused = items.editCatalogueEntry(e, attr, typed))
+            return failure(refused.text);
     }
     return kExitOk;
 }

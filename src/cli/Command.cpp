@@ -65,6 +65,13 @@ int Command::failure(const QString &line)
     return kExitFailure;
 }
 
+int Command::failure(const Error &error)
+{
+    if (!error.text.isEmpty())
+        printError(error.message());
+    return kExitFailure;
+}
+
 bool Command::splitKeyValues(const QStringList &words, const QStringList &keys, KeyValues *out,
                              int *exitCode) const
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
+#include "base/Result.h"
 
 #include <QList>
 #include <QString>
@@ -43,6 +44,8 @@ protected:
                int *exitCode, bool optionsFirst = false) const;
     int usageError(const QString &reason = QString()) const;
     static int failure(const QString &line);
+    // The error's sentence on stderr, unless it was shown already.
+    static int failure(const Error &error);
 
     using KeyValues = QList<std::pair<QString, QString>>;
     // Splits KEY=VALUE words, in the order given. A word that is not one, or
@@ -81,12 +84,11 @@ protected:
         KeyValues values;
         splitKeyValues(pos, keys, &values, &code);
         Fields fields = current();
-        QString error;
         for (const auto &[key, value] : std::as_const(values))
-            if (!apply(fields, key, value, &error))
-                return failure(error);
-        if (!confirm(fields, &error))
-            return failure(error);
+            if (const Error e = apply(fields, key, value))
+                return failure(e.text);
+        if (const Error e = confirm(fields))
+            return failure(e.text);
         return popoverResult();
     }
 

@@ -142,19 +142,19 @@ int DesignCommand::add(const QString &title)
 
 int DesignCommand::remove(const QString &title)
 {
-    QString error;
-    Record *design = OutputRun::design(m_session, title, &error);
-    if (!design)
-        return error.isEmpty() ? kExitFailure : failure(error);
+    const Result<Record *> found = OutputRun::design(m_session, title);
+    if (!found)
+        return failure(found.error());
+    Record *design = found.value();
     return m_session.controller().designs().deleteDesign(design) ? kExitOk : kExitFailure;
 }
 
 int DesignCommand::makeDefault(const QString &title)
 {
-    QString error;
-    Record *design = OutputRun::design(m_session, title, &error);
-    if (!design)
-        return error.isEmpty() ? kExitFailure : failure(error);
+    const Result<Record *> found = OutputRun::design(m_session, title);
+    if (!found)
+        return failure(found.error());
+    Record *design = found.value();
     m_session.controller().designs().makeDefaultDesign(design);
     return m_session.controller().save() ? kExitFailure : kExitOk;
 }
@@ -163,24 +163,23 @@ int DesignCommand::importFile(const QString &path)
 {
     if (!m_session.store())
         return kExitFailure;
-    QString error;
-    Record *design = m_session.controller().designs().importDesignFile(path, &error);
+    const Result<Record *> design = m_session.controller().designs().importDesignFile(path);
     if (!design)
-        return failure(error.isEmpty() ? QStringLiteral("“%1” is not a design file.").arg(path) : error);
+        return failure(design.error().text);
     if (m_session.controller().save())
         return kExitFailure;
-    printOut(design->text(Design::title));
+    printOut(design.value()->text(Design::title));
     return kExitOk;
 }
 
 int DesignCommand::exportFile(const QString &title, const QString &path)
 {
-    QString error;
-    const Record *design = OutputRun::design(m_session, title, &error);
-    if (!design)
-        return error.isEmpty() ? kExitFailure : failure(error);
-    if (!m_session.controller().designs().exportDesignFile(design, path, &error))
-        return failure(error.isEmpty() ? QStringLiteral("“%1” could not be written.").arg(path) : error);
+    const Result<Record *> found = OutputRun::design(m_session, title);
+    if (!found)
+        return failure(found.error());
+    const Record *design = found.value();
+    if (const Error e = m_session.controller().designs().exportDesignFile(design, path))
+        return failure(e.text);
     return kExitOk;
 }
 
@@ -191,10 +190,10 @@ int DesignCommand::preview(const QString &path, const QString *title)
     OutputCommands &outputs = m_session.controller().outputs();
     const Record *design = nullptr;
     if (title) {
-        QString error;
-        design = OutputRun::design(m_session, *title, &error);
-        if (!design)
-            return failure(error);
+        const Result<Record *> found = OutputRun::design(m_session, *title);
+        if (!found)
+            return failure(found.error());
+        design = found.value();
     } else {
         if (!outputs.checkDesignsAvailable())
             return kExitFailure;
@@ -209,10 +208,10 @@ int DesignCommand::preview(const QString &path, const QString *title)
 
 int DesignCommand::getTexts(const QString &title, const TextFiles &files)
 {
-    QString error;
-    const Record *design = OutputRun::design(m_session, title, &error);
-    if (!design)
-        return error.isEmpty() ? kExitFailure : failure(error);
+    const Result<Record *> found = OutputRun::design(m_session, title);
+    if (!found)
+        return failure(found.error());
+    const Record *design = found.value();
     const std::array<std::pair<QString, int>, 3> parts {
         {{files.invoice, Design::invoice}, {files.item, Design::item}, {files.css, Design::css}}};
     for (const auto &[path, attr] : parts) {
@@ -226,10 +225,10 @@ int DesignCommand::getTexts(const QString &title, const TextFiles &files)
 
 int DesignCommand::setTexts(const QString &title, const TextFiles &files)
 {
-    QString error;
-    Record *design = OutputRun::design(m_session, title, &error);
-    if (!design)
-        return error.isEmpty() ? kExitFailure : failure(error);
+    const Result<Record *> found = OutputRun::design(m_session, title);
+    if (!found)
+        return failure(found.error());
+    Record *design = found.value();
     const std::array<std::pair<QString, int>, 3> parts {
         {{files.invoice, Design::invoice}, {files.item, Design::item}, {files.css, Design::css}}};
     // Every file is read before anything changes: a bad one changes nothing.

@@ -16,7 +16,7 @@ const QStringList kKeys{QStringLiteral("enabled"), QStringLiteral("kind"),     Q
                         QStringLiteral("percent"), QStringLiteral("title"),    QStringLiteral("subtitle"),
                         QStringLiteral("hasSubtitle")};
 
-bool apply(DiscountFields &f, const QString &key, const QString &value, QString *error)
+Error apply(DiscountFields &f, const QString &key, const QString &value)
 {
     if (key == QLatin1String("title")) {
         f.title = value;
@@ -27,17 +27,17 @@ bool apply(DiscountFields &f, const QString &key, const QString &value, QString 
     } else if (key == QLatin1String("percent")) {
         f.percent = value;
     } else if (key == QLatin1String("enabled")) {
-        return AttributeText::flag(key, value, &f.enabled, error);
+        return AttributeText::flag(key, value, &f.enabled);
     } else if (key == QLatin1String("hasSubtitle")) {
-        return AttributeText::flag(key, value, &f.hasSubtitle, error);
+        return AttributeText::flag(key, value, &f.hasSubtitle);
     } else if (key == QLatin1String("kind")) {
         bool ok = false;
         f.kind = value.trimmed().toInt(&ok);
         if (!ok)
-            *error = QStringLiteral("“%1” is not a valid kind; 0 is a fixed amount, 1 a percentage.").arg(value);
-        return ok;
+            return Error::input(
+                QStringLiteral("“%1” is not a valid kind; 0 is a fixed amount, 1 a percentage.").arg(value));
     }
-    return true;
+    return {};
 }
 
 } // namespace
@@ -55,7 +55,7 @@ int DiscountCommand::execute(const QStringList &args)
     ItemCommands &items = m_session.controller().items();
     return editPopoverFields<DiscountFields>(
         args, kKeys, [&] { return items.discountFields(); }, apply,
-        [&](const DiscountFields &fields, QString *error) { return items.closeDiscountPopover(fields, error); });
+        [&](const DiscountFields &fields) { return items.closeDiscountPopover(fields); });
 }
 
 } // namespace tabo::cli

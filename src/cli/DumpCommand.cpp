@@ -24,9 +24,8 @@ int DumpCommand::execute(const QStringList &args)
         return code;
     if (!m_session.store())
         return kExitFailure;
-    QString error;
-    if (!m_session.controller().files().writeInvoiceDump(parser.positionalArguments().constFirst(), &error))
-        return failure(error);
+    if (const Error e = m_session.controller().files().writeInvoiceDump(parser.positionalArguments().constFirst()))
+        return failure(e.text);
     return kExitOk;
 }
 

@@ -98,10 +98,10 @@ int EInvoiceCommand::execute(const QStringList &args)
         return kExitFailure;
     const Record *chosen = nullptr;
     if (parser.isSet(facturx) && parser.isSet(design)) {
-        QString error;
-        chosen = OutputRun::design(m_session, parser.value(design), &error);
-        if (!chosen)
-            return failure(error);
+        const Result<Record *> found = OutputRun::design(m_session, parser.value(design));
+        if (!found)
+            return failure(found.error());
+        chosen = found.value();
     }
     EInvoiceCommands &commands = m_session.controller().einvoices();
     // One request gives the page and the XML the same lines in the same order.

@@ -33,10 +33,9 @@ int ExportCommand::execute(const QStringList &args)
         return kExitFailure;
     // The values of the `exportFormat` preference.
     const int format = parser.isSet(tabo) ? 0 : 1;
-    QString error;
-    if (!m_session.controller().files().writeInvoiceFile(*doc, format, parser.value(parser.isSet(tabo) ? tabo : xml),
-                                                         &error))
-        return failure(error);
+    if (const Error e = m_session.controller().files().writeInvoiceFile(
+            *doc, format, parser.value(parser.isSet(tabo) ? tabo : xml)))
+        return failure(e.text);
     return kExitOk;
 }
 

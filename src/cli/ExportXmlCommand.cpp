@@ -34,9 +34,8 @@ int ExportXmlCommand::execute(const QStringList &args)
         app.setFilterTag(tag);
         app.applyFilter();
     }
-    QString error;
-    if (!app.files().writeItemsXml(parser.isSet(filter), parser.positionalArguments().constFirst(), &error))
-        return failure(error);
+    if (const Error e = app.files().writeItemsXml(parser.isSet(filter), parser.positionalArguments().constFirst()))
+        return failure(e.text);
     return kExitOk;
 }
 

@@ -179,10 +179,10 @@ int NotificationsCommand::deliverDue(const QStringList &args)
     if (!m_session.store())
         return kExitFailure;
     NotificationCommands &notifications = m_session.controller().notifications();
-    Error error;
-    const int shown = notifications.deliverDue(&error);
-    if (error)
-        printError(error.message());
+    const NotificationCommands::Delivery delivery = notifications.deliverDue();
+    const int shown = delivery.shown;
+    if (delivery.problem)
+        printError(delivery.problem.message());
     printOut(shown == 1 ? QStringLiteral("1 reminder shown.\n") : QStringLiteral("%1 reminders shown.\n").arg(shown));
     if (shown > 0 && seconds > 0) {
         // Holding the store open blocks nobody: its writers lock only while writing.
@@ -197,7 +197,7 @@ int NotificationsCommand::deliverDue(const QStringList &args)
         QTimer::singleShot(std::chrono::seconds(seconds), &loop, &QEventLoop::quit);
         loop.exec();
     }
-    return error ? kExitFailure : kExitOk;
+    return delivery.problem ? kExitFailure : kExitOk;
 }
 
 } // namespace tabo::cli

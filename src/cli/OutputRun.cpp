@@ -29,12 +29,10 @@ int OutputRun::exportDocument(Session &session, const QString &idOrNumber, int k
     return session.ui().messagesShown() == shown ? kExitOk : kExitFailure;
 }
 
-Record *OutputRun::design(Session &session, const QString &titleOrId, QString *error)
+Result<Record *> OutputRun::design(Session &session, const QString &titleOrId)
 {
-    if (!session.store()) {
-        *error = QString();
-        return nullptr;
-    }
+    if (!session.store())
+        return Error::shownAlready();
     // An ID first: imported twice, one ID may name two designs, and then no
     // title is looked at either.
     const QList<Record *> designs = session.controller().designs().designs();
@@ -51,14 +49,13 @@ Record *OutputRun::design(Session &session, const QString &titleOrId, QString *e
     QStringList ids;
     for (const Record *d : found)
         ids << d->text(Design::uniqueID);
-    *error = found.isEmpty()    ? QStringLiteral("No design titled “%1”.").arg(titleOrId)
-             : byId.isEmpty() ? QStringLiteral("%1 designs are titled “%2”; give its unique ID instead: %3.")
-                                    .arg(found.size())
-                                    .arg(titleOrId, ids.join(QStringLiteral(", ")))
-                              : QStringLiteral("“%1” is the ID of %2 designs; give its title instead.")
-                                    .arg(titleOrId)
-                                    .arg(found.size());
-    return nullptr;
+    return Error::input(found.isEmpty()   ? QStringLiteral("No design titled “%1”.").arg(titleOrId)
+                        : byId.isEmpty() ? QStringLiteral("%1 designs are titled “%2”; give its unique ID instead: %3.")
+                                               .arg(found.size())
+                                               .arg(titleOrId, ids.join(QStringLiteral(", ")))
+                                         : QStringLiteral("“%1” is the ID of %2 designs; give its title instead.")
+                                               .arg(titleOrId)
+                                               .arg(found.size()));
 }
 
 } // namespace tabo::cli

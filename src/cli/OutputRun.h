@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QString>
 
 namespace tabo {
@@ -18,9 +20,9 @@ public:
     // Selects the document, renders it for the export sheet of `kind` and
     // presses OK. The exit code; a failure has been told on stderr.
     static int exportDocument(Session &session, const QString &idOrNumber, int kind);
-    // The design with this title (or unique ID). nullptr with a one-line
+    // The design with this title (or unique ID); refused with a one-line
     // reason when there is none or the title is not unique.
-    static Record *design(Session &session, const QString &titleOrId, QString *error);
+    static Result<Record *> design(Session &session, const QString &titleOrId);
 };
 
 } // namespace tabo::cli

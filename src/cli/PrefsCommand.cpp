@@ -99,9 +99,8 @@ int PrefsCommand::set(const QString &key, const QString &value)
     if (idx == P::useCustomPath || idx == P::customDatabasePath)
         return moveStore(P::Key(idx), value);
     const bool counter = idx == P::invCount || idx == P::quotCount;
-    QString reason;
-    if (!prefs.setFromText(key, value, &reason, PrefRules::refusal))
-        return failure(reason);
+    if (const Error e = prefs.setFromText(key, value, PrefRules::refusal))
+        return failure(e.text);
     // The counters number documents inside the store's transactions; the
     // settings only mirror them.
     if (counter) {
@@ -122,9 +121,8 @@ int PrefsCommand::moveStore(Preferences::Key key, const QString &value)
     bool useCustom = prefs.boolean(P::useCustomPath);
     QString folder = prefs.string(P::customDatabasePath);
     if (key == P::useCustomPath) {
-        QString reason;
-        if (!AttributeText::flag(Preferences::info(key).name, value, &useCustom, &reason))
-            return failure(reason);
+        if (const Error e = AttributeText::flag(Preferences::info(key).name, value, &useCustom))
+            return failure(e.text);
     } else {
         folder = value.trimmed();
     }

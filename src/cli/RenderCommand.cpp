@@ -71,11 +71,10 @@ int RenderCommand::execute(const QStringList &args)
     OutputCommands &outputs = app.outputs();
     const Record *used = nullptr;
     if (parser.isSet(design)) {
-        QString error;
-        const Record *chosen = OutputRun::design(m_session, parser.value(design), &error);
+        const Result<Record *> chosen = OutputRun::design(m_session, parser.value(design));
         if (!chosen)
-            return failure(error);
-        used = chosen;
+            return failure(chosen.error());
+        used = chosen.value();
     } else if (!outputs.checkDesignsAvailable()) {
         return kExitFailure;
     }

@@ -3,6 +3,7 @@
 #include "prefs/ProtectedFiles.h"
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
+#include "app/ReportCommands.h"
 #include "cli/Console.h"
 #include "cli/JsonWriter.h"
 #include "cli/Session.h"
@@ -58,18 +59,18 @@ int ReportCommand::execute(const QStringList &args)
 
     arrangeList(parser, tag);
     AppController &app = m_session.controller();
-    const ReportFigures figures = range ? app.generateReport(range) : app.generateReport(Report::Range());
+    const ReportFigures figures = range ? app.reports().generateReport(range) : app.reports().generateReport(Report::Range());
     const auto values = Report::placeholderValues(figures);
 
     QStringList out;
     if (parser.isSet(pdf)) {
         // The bars are the page's own CSS: the PDF engine runs no script.
-        if (!app.outputs().renderHtmlToFile(app.reportPage(figures), parser.value(pdf)))
+        if (!app.outputs().renderHtmlToFile(app.reports().reportPage(figures), parser.value(pdf)))
             return failure(QStringLiteral("The report could not be written to “%1”.").arg(parser.value(pdf)));
         return kExitOk;
     }
     if (parser.isSet(html)) {
-        if (const Error e = ProtectedFiles::writeAtomically(parser.value(html), app.reportPage(figures).toUtf8()))
+        if (const Error e = ProtectedFiles::writeAtomically(parser.value(html), app.reports().reportPage(figures).toUtf8()))
             return failure(e.text);
         return kExitOk;
     }

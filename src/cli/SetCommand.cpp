@@ -33,17 +33,17 @@ int SetCommand::execute(const QStringList &args)
     if (key == QLatin1String("uniqueID"))
         return failure(QStringLiteral("A document's uniqueID cannot be changed: reminders, the window and every "
                                       "command find the document by it."));
-    QString reason;
-    QVariant value;
-    if (!AttributeText::convert(doc->desc(), key, pos.at(2), &value, &reason))
-        return failure(reason);
+    const Result<QVariant> typed = AttributeText::convert(doc->desc(), key, pos.at(2));
+    if (!typed)
+        return failure(typed.error().text);
+    const QVariant &value = typed.value();
     if (key == QLatin1String("kind") && value.toLongLong() != 0 && value.toLongLong() != 1)
         return failure(QStringLiteral("“%1” is no kind: 0 is a quote, 1 an invoice.").arg(pos.at(2)));
     if (key == QLatin1String("status") && (value.toLongLong() < 0 || value.toLongLong() > 4))
         return failure(QStringLiteral("“%1” is no status: 0 created, 1 sent, 2 overdue, 3 paid, 4 partly paid.")
                            .arg(pos.at(2)));
-    if (!AttributeText::assign(*doc, key, pos.at(2), &reason))
-        return failure(reason);
+    if (const Error e = AttributeText::assign(*doc, key, pos.at(2)))
+        return failure(e.text);
     return m_session.controller().save() ? kExitFailure : kExitOk;
 }
 

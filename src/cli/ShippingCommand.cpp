@@ -16,7 +16,7 @@ const QStringList kKeys{QStringLiteral("enabled"), QStringLiteral("title"),   QS
                         QStringLiteral("hasSubtitle"), QStringLiteral("amount"), QStringLiteral("tax1"),
                         QStringLiteral("tax2"),    QStringLiteral("tax3"),     QStringLiteral("note")};
 
-bool apply(ShippingFields &f, const QString &key, const QString &value, QString *error)
+Error apply(ShippingFields &f, const QString &key, const QString &value)
 {
     if (key == QLatin1String("title"))
         f.title = value;
@@ -27,16 +27,16 @@ bool apply(ShippingFields &f, const QString &key, const QString &value, QString 
     else if (key == QLatin1String("note"))
         f.note = value;
     else if (key == QLatin1String("enabled"))
-        return AttributeText::flag(key, value, &f.enabled, error);
+        return AttributeText::flag(key, value, &f.enabled);
     else if (key == QLatin1String("hasSubtitle"))
-        return AttributeText::flag(key, value, &f.hasSubtitle, error);
+        return AttributeText::flag(key, value, &f.hasSubtitle);
     else if (key == QLatin1String("tax1"))
-        return AttributeText::flag(key, value, &f.tax1, error);
+        return AttributeText::flag(key, value, &f.tax1);
     else if (key == QLatin1String("tax2"))
-        return AttributeText::flag(key, value, &f.tax2, error);
+        return AttributeText::flag(key, value, &f.tax2);
     else if (key == QLatin1String("tax3"))
-        return AttributeText::flag(key, value, &f.tax3, error);
-    return true;
+        return AttributeText::flag(key, value, &f.tax3);
+    return {};
 }
 
 } // namespace
@@ -54,7 +54,7 @@ int ShippingCommand::execute(const QStringList &args)
     ItemCommands &items = m_session.controller().items();
     return editPopoverFields<ShippingFields>(
         args, kKeys, [&] { return items.shippingFields(); }, apply,
-        [&](const ShippingFields &fields, QString *error) { return items.closeShippingPopover(fields, error); });
+        [&](const ShippingFields &fields) { return items.closeShippingPopover(fields); });
 }
 
 } // namespace tabo::cli

@@ -50,7 +50,7 @@ QColor SyntaxDefinition::colorFromComponents(const QVariantList &components)
 
 SyntaxDefinition SyntaxDefinition::load(const QString &name)
 {
-    const QVariant root = plist::readFile(QStringLiteral(":/syntax/%1.plist").arg(name));
+    const QVariant root = plist::readFile(QStringLiteral(":/syntax/%1.plist").arg(name)).value();
     return fromDictionary(root.toMap());
 }
 
@@ -89,7 +89,7 @@ SyntaxDefinition SyntaxDefinition::fromDictionary(const QVariantMap &dictionary)
 
 void SyntaxDefinition::registerColorDefaults(Preferences &prefs)
 {
-    const QVariantMap defaults = plist::readFile(QStringLiteral(":/syntax/SyntaxColorDefaults.plist")).toMap();
+    const QVariantMap defaults = plist::readFile(QStringLiteral(":/syntax/SyntaxColorDefaults.plist")).value().toMap();
     QVariantMap registered;
     for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
         const QColor color = colorFromValue(it.value());

@@ -114,10 +114,9 @@ void CatalogueWindow::cellEdited(QTableWidgetItem *cell)
     auto *entry = static_cast<Record *>(cell->data(kRecordRole).value<void *>());
     const int column = cell->column();
     const QVariant value = column >= Tax1 ? QVariant(cell->checkState() == Qt::Checked) : QVariant(cell->text());
-    QString error;
     auto *hint = findChild<HintLabel *>(QStringLiteral("catalogueHint"));
-    if (!m_app.items().editCatalogueEntry(entry, QString::fromLatin1(kKeys[column]), value, &error)) {
-        hint->showMessage(error);
+    if (const Error e = m_app.items().editCatalogueEntry(entry, QString::fromLatin1(kKeys[column]), value)) {
+        hint->showMessage(e.text);
         m_loading = true;
         // The stored value stays, and the cell says so.
         if (column == Price)

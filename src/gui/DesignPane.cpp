@@ -54,7 +54,7 @@ DesignPane::DesignPane(AppController &app, QWidget *parent)
     , m_tabs(new QTabWidget)
     , m_live(new PdfPane)
     , m_note(new HintLabel)
-    , m_preview(new DesignPreview(app, this))
+    , m_preview(new DesignPreview(app, app, app.outputs(), app.prefs(), app.ui(), this))
 {
     m_list->setObjectName(QStringLiteral("designList"));
     m_list->setMinimumWidth(170);

@@ -115,9 +115,8 @@ void DiscountPopover::updateEnabled()
 
 void DiscountPopover::confirm()
 {
-    QString error;
-    if (!m_app.items().closeDiscountPopover(fields(), &error)) {
-        m_hint->showMessage(error.isEmpty() ? tr("The discount could not be changed.") : error);
+    if (const Error e = m_app.items().closeDiscountPopover(fields())) {
+        m_hint->showMessage(e.text.isEmpty() ? tr("The discount could not be changed.") : e.text);
         adjustSize();
         return;
     }

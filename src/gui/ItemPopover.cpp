@@ -211,10 +211,10 @@ ItemFields ItemPopover::fields() const
 
 void ItemPopover::addItem()
 {
-    QString error;
-    Record *item = m_app.items().addItem(fields(), &error);
+    const Result<Record *> added = m_app.items().addItem(fields());
+    Record *item = added.value();
     if (!item) {
-        m_hint->showMessage(error.isEmpty() ? tr("The item could not be added.") : error);
+        m_hint->showMessage(added.error().text.isEmpty() ? tr("The item could not be added.") : added.error().text);
         adjustSize();
         return;
     }

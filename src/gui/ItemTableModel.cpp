@@ -178,12 +178,11 @@ bool ItemTableModel::setData(const QModelIndex &index, const QVariant &value, in
     }
     if (data(index, Qt::EditRole) == value)
         return false;
-    QString error;
     m_editing = true;
-    const bool done = m_app.items().editItem(item, key, value, &error);
+    const Error refused = m_app.items().editItem(item, key, value);
     m_editing = false;
-    if (!done) {
-        Q_EMIT editRefused(error);
+    if (refused) {
+        Q_EMIT editRefused(refused.text);
         return false;
     }
     refresh();

@@ -165,7 +165,7 @@ void MainWindow::createActions()
     connect(report, &QAction::triggered, this, [this] { reportWindow()->toggle(); });
     QAction *book = reports->addAction(tr("Print Account Book…"));
     book->setObjectName(QStringLiteral("actionAccountBook"));
-    connect(book, &QAction::triggered, this, [this] { AccountBook(m_app).print(); });
+    connect(book, &QAction::triggered, this, [this] { m_app.accountBook().print(); });
     QAction *catalogue = items->addAction(tr("Catalogue…"));
     catalogue->setObjectName(QStringLiteral("actionCatalogue"));
     connect(catalogue, &QAction::triggered, this, [this] {

@@ -185,9 +185,8 @@ void ShippingPopover::updateEnabled()
 
 void ShippingPopover::confirm()
 {
-    QString error;
-    if (!m_app.items().closeShippingPopover(fields(), &error)) {
-        m_hint->showMessage(error.isEmpty() ? tr("The shipping could not be changed.") : error);
+    if (const Error e = m_app.items().closeShippingPopover(fields())) {
+        m_hint->showMessage(e.text.isEmpty() ? tr("The shipping could not be changed.") : e.text);
         adjustSize();
         return;
     }

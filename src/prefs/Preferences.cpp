@@ -489,14 +489,12 @@ void Preferences::remove(Key key)
     m_settings->remove(info(key).name);
 }
 
-bool Preferences::setFromText(const QString &name, const QString &text, QString *error,
-                              const std::function<QString(Key, const QVariant &)> &rule)
+Error Preferences::setFromText(const QString &name, const QString &text,
+                               const std::function<QString(Key, const QVariant &)> &rule)
 {
     const int idx = keyIndex(name);
-    if (idx < 0) {
-        *error = QStringLiteral("unknown preference key “%1”").arg(name);
-        return false;
-    }
+    if (idx < 0)
+        return Error::input(QStringLiteral("unknown preference key “%1”").arg(name));
     const Key key = Key(idx);
     const QString t = text.trimmed();
     bool ok = true;
@@ -531,18 +529,14 @@ bool Preferences::setFromText(const QString &name, const QString &text, QString 
         break;
     }
     }
-    if (!ok) {
-        *error = QStringLiteral("“%1” is not a valid %2 for %3")
-                     .arg(text, info(key).type == Type::Data ? QStringLiteral("readable file")
-                                                               : typeName(info(key).type),
-                          name);
-        return false;
-    }
-    if (rule) {
-        *error = rule(key, parsed);
-        if (!error->isEmpty())
-            return false;
-    }
+    if (!ok)
+        return Error::input(QStringLiteral("“%1” is not a valid %2 for %3")
+                                .arg(text, info(key).type == Type::Data ? QStringLiteral("readable file")
+                                                                          : typeName(info(key).type),
+                                     name));
+    if (rule)
+        if (const QString refusal = rule(key, parsed); !refusal.isEmpty())
+            return Error::input(refusal);
     switch (info(key).type) {
     case Type::String: setString(key, parsed.toString()); break;
     case Type::Int: setInteger(key, parsed.toLongLong()); break;
@@ -551,7 +545,7 @@ bool Preferences::setFromText(const QString &name, const QString &text, QString 
     case Type::Date: setDate(key, parsed.value<Date>()); break;
     case Type::Data: setData(key, parsed.toByteArray()); break;
     }
-    return true;
+    return {};
 }
 
 QString Preferences::toText(Key key) const

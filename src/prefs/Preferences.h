@@ -78,10 +78,10 @@ public:
     void remove(Key key);
 
     // Command-line access by stored name; the text is parsed by the key's type
-    // (dates in ISO 8601). False with a reason when it cannot be, or when
+    // (dates in ISO 8601). Refused with a reason when it cannot be, or when
     // `rule` refuses the parsed value (its reason).
-    bool setFromText(const QString &name, const QString &text, QString *error,
-                     const std::function<QString(Key, const QVariant &)> &rule = {});
+    Error setFromText(const QString &name, const QString &text,
+                      const std::function<QString(Key, const QVariant &)> &rule = {});
     QString toText(Key key) const;
 
     // Writes every pair of the language-default file chosen by

@@ -23,13 +23,9 @@ QStringList MailHandoff::arguments(const MailMessage &message)
     return args;
 }
 
-bool MailHandoff::compose(const MailMessage &message, QString *error)
+Error MailHandoff::compose(const MailMessage &message)
 {
-    auto fail = [&](const QString &reason) {
-        if (error)
-            *error = reason;
-        return false;
-    };
+    const auto fail = [](const QString &reason) { return Error{Error::Print, 1, reason, {}}; };
     // On the heap: a mail program that keeps xdg-email waiting is left running.
     auto xdgEmail = std::make_unique<QProcess>();
     xdgEmail->setProgram(QStringLiteral("xdg-email"));
@@ -41,11 +37,11 @@ bool MailHandoff::compose(const MailMessage &message, QString *error)
     if (!xdgEmail->waitForFinished(XdgEmailTimeoutMs)) {
         QProcess *running = xdgEmail.release();
         QObject::connect(running, &QProcess::finished, running, &QObject::deleteLater);
-        return true;
+        return {};
     }
     if (xdgEmail->exitStatus() != QProcess::NormalExit || xdgEmail->exitCode() != 0)
         return fail(reasonForExit(xdgEmail->exitStatus() == QProcess::NormalExit ? xdgEmail->exitCode() : -1));
-    return true;
+    return {};
 }
 
 QString MailHandoff::noMailProgram()

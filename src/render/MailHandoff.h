@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Error.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -19,8 +21,8 @@ class MailHandoff
 {
 public:
     static QStringList arguments(const MailMessage &message);
-    // False with a one-line reason when `xdg-email` is missing or fails.
-    static bool compose(const MailMessage &message, QString *error);
+    // A one-line reason when `xdg-email` is missing or fails.
+    static Error compose(const MailMessage &message);
     // The person's words for a failed hand-off (never the tool's output).
     static QString noMailProgram();
     static QString reasonForExit(int code);

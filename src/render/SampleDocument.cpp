@@ -98,12 +98,11 @@ SampleDocument::~SampleDocument()
 QList<QVariantMap> SampleDocument::previewItems()
 {
     QFile file(QStringLiteral(":/designs/PreviewItems.plist"));
-    QString reason = file.errorString();
-    QVariant root;
-    if (file.open(QIODevice::ReadOnly))
-        root = KeyedArchive::unarchive(file.readAll(), &reason);
-    if (!root.isValid())
-        qWarning("Unable to read the preview items: %s", qPrintable(reason));
+    const Result<QVariant> read = file.open(QIODevice::ReadOnly) ? KeyedArchive::unarchive(file.readAll())
+                                                                  : Result<QVariant>(Error::file(file.errorString()));
+    if (!read)
+        qWarning("Unable to read the preview items: %s", qPrintable(read.error().message()));
+    const QVariant &root = read.value();
     QList<QVariantMap> items;
     for (const QVariant &element : root.toMap().value(QStringLiteral("array")).toList()) {
         if (element.metaType() == QMetaType::fromType<QVariantMap>())

@@ -161,12 +161,10 @@ void BinaryWriter::appendNode(QByteArray &out, const Node &node, int refSize)
     }
 }
 
-QByteArray BinaryWriter::write(const QVariant &root, QString *error)
+Result<QByteArray> BinaryWriter::write(const QVariant &root)
 {
-    if (add(root, 0) < 0) {
-        setError(error, m_error);
-        return {};
-    }
+    if (add(root, 0) < 0)
+        return Error::file(m_error);
     QByteArray out("bplist00");
     const int refSize = bytesFor(quint64(m_nodes.size() - 1));
     QList<quint64> offsets;
@@ -190,7 +188,7 @@ QByteArray BinaryWriter::write(const QVariant &root, QString *error)
 
 // --- binary reader --------------------------------------------------------
 
-QVariant BinaryReader::read(QString *error)
+Result<QVariant> BinaryReader::read()
 {
     if (m_size < 8 + 2 + 32) {
         fail(QStringLiteral("truncated binary property list"));
@@ -212,8 +210,7 @@ QVariant BinaryReader::read(QString *error)
                 return root;
         }
     }
-    setError(error, m_error);
-    return {};
+    return Error::file(m_error);
 }
 
 bool BinaryReader::readCount(quint64 &pos, int info, quint64 &count)
@@ -252,6 +249,21 @@ QVariant BinaryReader::object(quint64 index, int depth)
     const int marker = m_data[pos++];
     const int type = marker >> 4;
     const int info = marker & 0xF;
+    std::optional<QVariant> value;
+    if (type == 0xA || type == 0xC || type == 0xD) {
+        quint64 count = 0;
+        if (!readCount(pos, info, count))
+            return fail(QStringLiteral("damaged length"));
+        return container(index, pos, type == 0xD, count, depth);
+    }
+    value = type >= 0x4 && type <= 0x7 ? text(type, info, pos) : scalar(type, info, pos);
+    if (value)
+        return *value;
+    return fail(QStringLiteral("unknown object type 0x%1").arg(marker, 2, 16, QLatin1Char('0')));
+}
+
+std::optional<QVariant> BinaryReader::scalar(int type, int info, quint64 pos)
+{
     const QString truncated = QStringLiteral("object extends past the data");
     switch (type) {
     case 0x0:
@@ -281,46 +293,38 @@ QVariant BinaryReader::object(quint64 index, int depth)
         if (!fits(pos, 8))
             return fail(truncated);
         return QVariant::fromValue(Date::fromReferenceSeconds(std::bit_cast<double>(bigEndian(pos, 8))));
-    case 0x4:
-    case 0x5:
-    case 0x6:
-    case 0x7: {
-        quint64 count = 0;
-        if (!readCount(pos, info, count))
-            return fail(QStringLiteral("damaged length"));
-        const quint64 unit = type == 0x6 ? 2 : 1;
-        if (count > (m_tableOffset - std::min(pos, m_tableOffset)) / unit)
-            return fail(truncated);
-        const char *bytes = reinterpret_cast<const char *>(m_data + pos);
-        if (type == 0x4)
-            return QByteArray(bytes, qsizetype(count));
-        if (type == 0x5)
-            return QString::fromLatin1(bytes, qsizetype(count));
-        if (type == 0x7)
-            return QString::fromUtf8(bytes, qsizetype(count));
-        QString text(qsizetype(count), Qt::Uninitialized);
-        for (quint64 i = 0; i < count; ++i)
-            text[qsizetype(i)] = QChar(char16_t(bigEndian(pos + 2 * i, 2)));
-        return text;
-    }
     case 0x8:
         if (info > 7)
             break;
         if (!fits(pos, quint64(info) + 1))
             return fail(truncated);
         return QVariant::fromValue(Uid { bigEndian(pos, info + 1) });
-    case 0xA:
-    case 0xC:
-    case 0xD: {
-        quint64 count = 0;
-        if (!readCount(pos, info, count))
-            return fail(QStringLiteral("damaged length"));
-        return container(index, pos, type == 0xD, count, depth);
-    }
     default:
         break;
     }
-    return fail(QStringLiteral("unknown object type 0x%1").arg(marker, 2, 16, QLatin1Char('0')));
+    return std::nullopt;
+}
+
+// Data (0x4), ASCII (0x5), UTF-16 (0x6) and UTF-8 (0x7) strings.
+QVariant BinaryReader::text(int type, int info, quint64 pos)
+{
+    quint64 count = 0;
+    if (!readCount(pos, info, count))
+        return fail(QStringLiteral("damaged length"));
+    const quint64 unit = type == 0x6 ? 2 : 1;
+    if (count > (m_tableOffset - std::min(pos, m_tableOffset)) / unit)
+        return fail(QStringLiteral("object extends past the data"));
+    const char *bytes = reinterpret_cast<const char *>(m_data + pos);
+    if (type == 0x4)
+        return QByteArray(bytes, qsizetype(count));
+    if (type == 0x5)
+        return QString::fromLatin1(bytes, qsizetype(count));
+    if (type == 0x7)
+        return QString::fromUtf8(bytes, qsizetype(count));
+    QString text(qsizetype(count), Qt::Uninitialized);
+    for (quint64 i = 0; i < count; ++i)
+        text[qsizetype(i)] = QChar(char16_t(bigEndian(pos + 2 * i, 2)));
+    return text;
 }
 
 QVariant BinaryReader::container(quint64 index, quint64 pos, bool dictionary, quint64 count, int depth)

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QList>
 
+#include <optional>
 #include <vector>
 
 // The bplist00 format, written and read by hand so that reals and dates keep
@@ -15,7 +16,7 @@ namespace tabo::plist::detail {
 class BinaryWriter
 {
 public:
-    QByteArray write(const QVariant &root, QString *error);
+    Result<QByteArray> write(const QVariant &root);
 
 private:
     struct Node
@@ -50,11 +51,14 @@ public:
         , m_maxWeight(std::max<quint64>(quint64(1) << 20, 16 * m_size))
     {
     }
-    QVariant read(QString *error);
+    Result<QVariant> read();
 
 private:
     QVariant object(quint64 index, int depth);
     QVariant container(quint64 index, quint64 pos, bool dictionary, quint64 count, int depth);
+    // Numbers, booleans, dates and UIDs; nothing for a marker that is none.
+    std::optional<QVariant> scalar(int type, int info, quint64 pos);
+    QVariant text(int type, int info, quint64 pos);
     QVariant fail(const QString &reason)
     {
         if (m_error.isEmpty())

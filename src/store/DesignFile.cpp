@@ -13,10 +13,10 @@ const QString kDesignDic = QStringLiteral("designDic");
 
 Result<QVariantMap> archivedDictionary(const QByteArray &data, const QString &key)
 {
-    QString reason;
-    const QVariant root = KeyedArchive::unarchive(data, &reason);
-    if (!root.isValid())
-        return Error::file(QStringLiteral("Not an archive: %1").arg(reason));
+    const Result<QVariant> read = KeyedArchive::unarchive(data);
+    if (!read)
+        return Error::file(QStringLiteral("Not an archive: %1").arg(read.error().message()));
+    const QVariant &root = read.value();
     const QVariant value = root.toMap().value(key);
     if (root.metaType() != QMetaType::fromType<QVariantMap>() || value.metaType() != QMetaType::fromType<QVariantMap>()
         || value.toMap().isEmpty())
@@ -24,7 +24,7 @@ Result<QVariantMap> archivedDictionary(const QByteArray &data, const QString &ke
     return value.toMap();
 }
 
-QByteArray designFileData(const Record &design)
+Result<QByteArray> designFileData(const Record &design)
 {
     QVariantMap dictionary = ObjectDictionary::toDictionary(design);
     dictionary.insert(ObjectDictionary::kClassKey, QStringLiteral("Design"));

@@ -18,7 +18,7 @@ class Record;
 Result<QVariantMap> archivedDictionary(const QByteArray &data, const QString &key);
 
 // A design file: {"designDic": the design's dictionary, "class" "Design"}.
-QByteArray designFileData(const Record &design);
+Result<QByteArray> designFileData(const Record &design);
 // The design dictionary of a design file ("class" set to "Design").
 Result<QVariantMap> readDesignFile(const QByteArray &data);
 

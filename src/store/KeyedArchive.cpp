@@ -30,7 +30,7 @@ QVariant uid(quint64 index)
 class Archiver
 {
 public:
-    QByteArray archive(const QVariant &root, QString *error);
+    Result<QByteArray> archive(const QVariant &root);
 
 private:
     // Index of the value in $objects; 0 ("$null") after a failure.
@@ -125,20 +125,16 @@ quint64 Archiver::encode(const QVariant &raw, int depth)
     return 0;
 }
 
-QByteArray Archiver::archive(const QVariant &root, QString *error)
+Result<QByteArray> Archiver::archive(const QVariant &root)
 {
     const quint64 rootIndex = encode(root, 0);
-    QByteArray data;
-    if (m_error.isEmpty()) {
-        const QVariantMap top { { QStringLiteral("$version"), 100000 },
-            { QStringLiteral("$archiver"), QStringLiteral("NSKeyedArchiver") },
-            { QStringLiteral("$top"), QVariantMap { { QStringLiteral("root"), uid(rootIndex) } } },
-            { QStringLiteral("$objects"), m_objects } };
-        data = plist::write(top, plist::Format::Binary, &m_error);
-    }
-    if (!m_error.isEmpty() && error)
-        *error = m_error;
-    return data;
+    if (!m_error.isEmpty())
+        return Error::file(m_error);
+    const QVariantMap top { { QStringLiteral("$version"), 100000 },
+        { QStringLiteral("$archiver"), QStringLiteral("NSKeyedArchiver") },
+        { QStringLiteral("$top"), QVariantMap { { QStringLiteral("root"), uid(rootIndex) } } },
+        { QStringLiteral("$objects"), m_objects } };
+    return plist::write(top, plist::Format::Binary);
 }
 
 // A UID, or its XML spelling {"CF$UID": n}.
@@ -183,7 +179,7 @@ ClassKind classKindOf(const QString &name)
 class Unarchiver
 {
 public:
-    QVariant unarchive(const QByteArray &data, QString *error);
+    Result<QVariant> unarchive(const QByteArray &data);
 
 private:
     // False for malformed input; `present` is false for "$null", NSNull and
@@ -360,16 +356,16 @@ bool Unarchiver::decode(const QVariantMap &object, ClassKind kind, int depth, QV
     return false;
 }
 
-QVariant Unarchiver::unarchive(const QByteArray &data, QString *error)
+Result<QVariant> Unarchiver::unarchive(const QByteArray &data)
 {
-    QString reason;
-    const QVariant archive = plist::read(data, &reason);
+    const Result<QVariant> read = plist::read(data);
+    const QVariant archive = read.value();
     const QVariantMap map = archive.toMap();
     const QVariant objects = map.value(QStringLiteral("$objects"));
     const QVariant top = map.value(QStringLiteral("$top"));
     QVariant result;
-    if (!archive.isValid()) {
-        fail(reason);
+    if (!read) {
+        fail(read.error().text);
     } else if (archive.typeId() != QMetaType::QVariantMap || objects.typeId() != QMetaType::QVariantList
         || top.typeId() != QMetaType::QVariantMap) {
         fail(QStringLiteral("not a keyed archive"));
@@ -395,24 +391,21 @@ QVariant Unarchiver::unarchive(const QByteArray &data, QString *error)
             result = values;
         }
     }
-    if (!m_error.isEmpty()) {
-        if (error)
-            *error = m_error;
-        return {};
-    }
+    if (!m_error.isEmpty())
+        return Error::file(m_error);
     return result;
 }
 
 } // namespace
 
-QByteArray archive(const QVariant &root, QString *error)
+Result<QByteArray> archive(const QVariant &root)
 {
-    return Archiver().archive(root, error);
+    return Archiver().archive(root);
 }
 
-QVariant unarchive(const QByteArray &data, QString *error)
+Result<QVariant> unarchive(const QByteArray &data)
 {
-    return Unarchiver().unarchive(data, error);
+    return Unarchiver().unarchive(data);
 }
 
 } // namespace tabo::KeyedArchive

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVariant>
@@ -12,13 +14,13 @@ namespace tabo::KeyedArchive {
 // data and their class entries, so files are exchangeable with that format.
 // Empty, with a reason, for values no property list can hold or nesting
 // deeper than 256 levels.
-QByteArray archive(const QVariant &root, QString *error = nullptr);
+Result<QByteArray> archive(const QVariant &root);
 
 // Reads archives written by us or by the real archiver (binary or XML). Values
 // of classes it does not know (URLs, UUIDs, …) are skipped: a dictionary
 // entry or array element holding one is left out. Malformed input — wrong
 // types, cyclic or dangling UIDs, deep nesting, huge counts — gives an
-// invalid QVariant and a reason; it never crashes or hangs.
-QVariant unarchive(const QByteArray &data, QString *error = nullptr);
+// Error with the reason; it never crashes or hangs.
+Result<QVariant> unarchive(const QByteArray &data);
 
 } // namespace tabo::KeyedArchive

@@ -98,7 +98,7 @@ QList<ScheduledNotification> NotificationSchedule::list(bool pendingOnly) const
     return result;
 }
 
-bool NotificationSchedule::cancel(qint64 id, Error *error)
+Result<bool> NotificationSchedule::cancel(qint64 id)
 {
     bool found = false;
     const Error e = m_store.write([id, &found](sqlite3 *db) {
@@ -111,12 +111,12 @@ bool NotificationSchedule::cancel(qint64 id, Error *error)
         found = sqlite3_changes(db) > 0;
         return Error{};
     });
-    if (error)
-        *error = e;
-    return found && !e;
+    if (e)
+        return e;
+    return found;
 }
 
-QList<ScheduledNotification> NotificationSchedule::claimDue(Date now, Error *error)
+Result<QList<ScheduledNotification>> NotificationSchedule::claimDue(Date now)
 {
     QList<ScheduledNotification> due;
     const Error e = m_store.write([&due, now](sqlite3 *db) {
@@ -136,10 +136,8 @@ QList<ScheduledNotification> NotificationSchedule::claimDue(Date now, Error *err
         }
         return Error{};
     });
-    if (error)
-        *error = e;
     if (e)
-        due.clear();
+        return e;
     std::sort(due.begin(), due.end(), [](const auto &a, const auto &b) {
         return a.date < b.date || (a.date == b.date && a.id < b.id);
     });

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
-#include "base/Error.h"
+#include "base/Result.h"
 
 #include <QList>
 #include <QString>
@@ -38,10 +38,10 @@ public:
     // Every notification, by date; `pendingOnly` leaves out delivered ones.
     QList<ScheduledNotification> list(bool pendingOnly = false) const;
     // False when there is no such notification.
-    bool cancel(qint64 id, Error *error = nullptr);
+    Result<bool> cancel(qint64 id);
     // Marks every undelivered notification due at `now` as delivered and
     // returns them; the caller shows them.
-    QList<ScheduledNotification> claimDue(Date now, Error *error = nullptr);
+    Result<QList<ScheduledNotification>> claimDue(Date now);
     // Gives a claimed notification back when it could not be shown.
     Error unclaim(const QList<qint64> &ids);
     // The earliest date still to come, if any.

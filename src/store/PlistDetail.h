@@ -6,12 +6,6 @@ namespace tabo::plist::detail {
 
 inline constexpr int kMaxDepth = 256;
 
-inline void setError(QString *error, const QString &text)
-{
-    if (error)
-        *error = text;
-}
-
 inline QString tooDeep()
 {
     return QStringLiteral("nested deeper than %1 levels").arg(kMaxDepth);

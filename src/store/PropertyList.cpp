@@ -21,7 +21,6 @@
 
 namespace tabo::plist {
 
-using detail::setError;
 
 namespace {
 
@@ -112,64 +111,48 @@ QVariant canonical(const QVariant &value)
     return {};
 }
 
-QByteArray write(const QVariant &root, Format format, QString *error)
+Result<QByteArray> write(const QVariant &root, Format format)
 {
     if (format == Format::Binary)
-        return detail::BinaryWriter().write(root, error);
-    return detail::XmlWriter().write(root, error);
+        return detail::BinaryWriter().write(root);
+    return detail::XmlWriter().write(root);
 }
 
-QVariant read(const QByteArray &data, QString *error)
+Result<QVariant> read(const QByteArray &data)
 {
-    if (data.isEmpty()) {
-        setError(error, QStringLiteral("empty property list"));
-        return {};
-    }
-    if (data.size() > kMaxInput) {
-        setError(error, QStringLiteral("property list too large"));
-        return {};
-    }
+    if (data.isEmpty())
+        return Error::file(QStringLiteral("empty property list"));
+    if (data.size() > kMaxInput)
+        return Error::file(QStringLiteral("property list too large"));
     if (data.startsWith("bplist")) {
-        if (!data.startsWith("bplist00")) {
-            setError(error, QStringLiteral("unsupported binary property list version"));
-            return {};
-        }
-        return detail::BinaryReader(data).read(error);
+        if (!data.startsWith("bplist00"))
+            return Error::file(QStringLiteral("unsupported binary property list version"));
+        return detail::BinaryReader(data).read();
     }
     qsizetype start = data.startsWith("\xEF\xBB\xBF") ? 3 : 0;
     while (start < data.size() && QChar::isSpace(uchar(data.at(start))))
         ++start;
-    if (start >= data.size() || data.at(start) != '<') {
-        setError(error, QStringLiteral("not a property list"));
-        return {};
-    }
-    return detail::readXml(data, error);
+    if (start >= data.size() || data.at(start) != '<')
+        return Error::file(QStringLiteral("not a property list"));
+    return detail::readXml(data);
 }
 
-bool writeFile(const QString &path, const QVariant &root, Format format, QString *error)
+Error writeFile(const QString &path, const QVariant &root, Format format)
 {
-    const QByteArray data = write(root, format, error);
-    if (data.isEmpty())
-        return false;
-    if (const tabo::Error e = ProtectedFiles::writeAtomically(path, data)) {
-        setError(error, e.text);
-        return false;
-    }
-    return true;
+    const Result<QByteArray> data = write(root, format);
+    if (!data)
+        return data.error();
+    return ProtectedFiles::writeAtomically(path, data.value());
 }
 
-QVariant readFile(const QString &path, QString *error)
+Result<QVariant> readFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        setError(error, QStringLiteral("cannot open %1: %2").arg(path, file.errorString()));
-        return {};
-    }
-    if (file.size() > kMaxInput) {
-        setError(error, QStringLiteral("property list too large"));
-        return {};
-    }
-    return read(file.readAll(), error);
+    if (!file.open(QIODevice::ReadOnly))
+        return Error::file(QStringLiteral("cannot open %1: %2").arg(path, file.errorString()));
+    if (file.size() > kMaxInput)
+        return Error::file(QStringLiteral("property list too large"));
+    return read(file.readAll());
 }
 
 } // namespace tabo::plist

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QByteArray>
 #include <QMetaType>
 #include <QString>
@@ -31,16 +33,16 @@ QVariant canonical(const QVariant &value);
 // Reals are written bit-exactly in both formats, dates in the binary one. An
 // XML <date> holds whole seconds only (the format's convention): the fraction
 // is dropped there, so exact times belong in reals.
-QByteArray write(const QVariant &root, Format format, QString *error = nullptr);
+Result<QByteArray> write(const QVariant &root, Format format);
 // Decodes XML or binary (detected from the data). Any malformed, truncated or
-// hostile input gives an invalid QVariant and a reason, never a crash or a
-// hang (nesting and sizes are bounded).
-QVariant read(const QByteArray &data, QString *error = nullptr);
+// hostile input gives an Error with the reason, never a crash or a hang
+// (nesting and sizes are bounded).
+Result<QVariant> read(const QByteArray &data);
 
 // Whole files; writing is atomic (the old file stays until the new one is
 // complete).
-bool writeFile(const QString &path, const QVariant &root, Format format, QString *error = nullptr);
-QVariant readFile(const QString &path, QString *error = nullptr);
+Error writeFile(const QString &path, const QVariant &root, Format format);
+Result<QVariant> readFile(const QString &path);
 
 } // namespace tabo::plist
 

@@ -114,16 +114,14 @@ bool XmlWriter::value(const QVariant &raw, int depth)
     return false;
 }
 
-QByteArray XmlWriter::write(const QVariant &root, QString *error)
+Result<QByteArray> XmlWriter::write(const QVariant &root)
 {
     m_out = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
             "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
             "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
             "<plist version=\"1.0\">\n";
-    if (!value(root, 0)) {
-        setError(error, m_error);
-        return {};
-    }
+    if (!value(root, 0))
+        return Error::file(m_error);
     m_out.append("</plist>\n");
     return m_out;
 }
@@ -188,126 +186,129 @@ private:
     locale_t m_old = nullptr;
 };
 
-bool fromNode(plist_t node, int depth, QVariant &out, QString &error)
+Result<QVariant> fromNode(plist_t node, int depth);
+
+// A leaf: its value, or an invalid QVariant when the node is a container.
+QVariant scalarOf(plist_t node)
 {
-    if (depth > kMaxDepth) {
-        error = tooDeep();
-        return false;
-    }
     switch (plist_get_node_type(node)) {
     case PLIST_BOOLEAN: {
         uint8_t v = 0;
         plist_get_bool_val(node, &v);
-        out = v != 0;
-        return true;
+        return v != 0;
     }
     case PLIST_UINT: {
         uint64_t v = 0;
         plist_get_uint_val(node, &v);
-        out = qint64(v);
-        return true;
+        return qint64(v);
     }
     case PLIST_REAL: {
         double v = 0;
         plist_get_real_val(node, &v);
-        out = v;
-        return true;
+        return v;
     }
     case PLIST_STRING:
     case PLIST_KEY: {
         uint64_t length = 0;
         const char *text = plist_get_string_ptr(node, &length);
-        out = text ? QString::fromUtf8(text, qsizetype(length)) : QString();
-        return true;
+        return text ? QString::fromUtf8(text, qsizetype(length)) : QString();
     }
     case PLIST_DATA: {
         uint64_t length = 0;
         const char *bytes = plist_get_data_ptr(node, &length);
-        out = bytes ? QByteArray(bytes, qsizetype(length)) : QByteArray();
-        return true;
-    }
-    case PLIST_DATE: {
-        int32_t sec = 0, usec = 0;
-        plist_get_date_val(node, &sec, &usec);
-        if (sec == std::numeric_limits<int32_t>::min()) { // libplist's clamp for years it cannot hold
-            error = QStringLiteral("date out of range");
-            return false;
-        }
-        out = QVariant::fromValue(Date::fromReferenceSeconds(double(sec) + double(usec) / 1e6));
-        return true;
+        return bytes ? QByteArray(bytes, qsizetype(length)) : QByteArray();
     }
     case PLIST_UID: {
         uint64_t v = 0;
         plist_get_uid_val(node, &v);
-        out = QVariant::fromValue(Uid { v });
-        return true;
-    }
-    case PLIST_ARRAY: {
-        QVariantList list;
-        const uint32_t size = plist_array_get_size(node);
-        for (uint32_t i = 0; i < size; ++i) {
-            QVariant item;
-            if (!fromNode(plist_array_get_item(node, i), depth + 1, item, error))
-                return false;
-            list.append(item);
-        }
-        out = list;
-        return true;
-    }
-    case PLIST_DICT: {
-        QVariantMap map;
-        plist_dict_iter it = nullptr;
-        plist_dict_new_iter(node, &it);
-        bool ok = true;
-        while (ok && it) {
-            char *key = nullptr;
-            plist_t item = nullptr;
-            plist_dict_next_item(node, it, &key, &item);
-            if (!item) {
-                free(key);
-                break;
-            }
-            QVariant v;
-            ok = fromNode(item, depth + 1, v, error);
-            if (ok)
-                map.insert(QString::fromUtf8(key), v);
-            free(key);
-        }
-        free(it);
-        out = map;
-        return ok;
+        return QVariant::fromValue(Uid { v });
     }
     default:
-        error = QStringLiteral("unknown XML element");
-        return false;
+        return {};
+    }
+}
+
+Result<QVariant> dateOf(plist_t node)
+{
+    int32_t sec = 0, usec = 0;
+    plist_get_date_val(node, &sec, &usec);
+    if (sec == std::numeric_limits<int32_t>::min()) // libplist's clamp for years it cannot hold
+        return Error::file(QStringLiteral("date out of range"));
+    return QVariant::fromValue(Date::fromReferenceSeconds(double(sec) + double(usec) / 1e6));
+}
+
+Result<QVariant> arrayOf(plist_t node, int depth)
+{
+    QVariantList list;
+    const uint32_t size = plist_array_get_size(node);
+    for (uint32_t i = 0; i < size; ++i) {
+        Result<QVariant> item = fromNode(plist_array_get_item(node, i), depth + 1);
+        if (!item)
+            return item;
+        list.append(item.value());
+    }
+    return QVariant(list);
+}
+
+Result<QVariant> dictionaryOf(plist_t node, int depth)
+{
+    QVariantMap map;
+    plist_dict_iter it = nullptr;
+    plist_dict_new_iter(node, &it);
+    Error error;
+    while (!error && it) {
+        char *key = nullptr;
+        plist_t item = nullptr;
+        plist_dict_next_item(node, it, &key, &item);
+        if (!item) {
+            free(key);
+            break;
+        }
+        const Result<QVariant> value = fromNode(item, depth + 1);
+        if (value)
+            map.insert(QString::fromUtf8(key), value.value());
+        error = value.error();
+        free(key);
+    }
+    free(it);
+    if (error)
+        return error;
+    return QVariant(map);
+}
+
+Result<QVariant> fromNode(plist_t node, int depth)
+{
+    if (depth > kMaxDepth)
+        return Error::file(tooDeep());
+    switch (plist_get_node_type(node)) {
+    case PLIST_DATE:
+        return dateOf(node);
+    case PLIST_ARRAY:
+        return arrayOf(node, depth);
+    case PLIST_DICT:
+        return dictionaryOf(node, depth);
+    default:
+        if (QVariant value = scalarOf(node); value.isValid())
+            return value;
+        return Error::file(QStringLiteral("unknown XML element"));
     }
 }
 
 } // namespace
 
-QVariant readXml(const QByteArray &data, QString *error)
+Result<QVariant> readXml(const QByteArray &data)
 {
-    if (xmlNesting(data) > kMaxDepth + 1) {
-        setError(error, tooDeep());
-        return {};
-    }
+    if (xmlNesting(data) > kMaxDepth + 1)
+        return Error::file(tooDeep());
     plist_t root = nullptr;
     {
         CNumericLocale c;
         plist_from_xml(data.constData(), uint32_t(data.size()), &root);
     }
-    if (!root) {
-        setError(error, QStringLiteral("not a valid XML property list"));
-        return {};
-    }
-    QVariant out;
-    QString reason;
-    const bool ok = fromNode(root, 0, out, reason);
+    if (!root)
+        return Error::file(QStringLiteral("not a valid XML property list"));
+    Result<QVariant> out = fromNode(root, 0);
     plist_free(root);
-    if (!ok) {
-        setError(error, reason);
-        return {};
-    }
     return out;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVariant>
@@ -11,7 +13,7 @@ namespace tabo::plist::detail {
 class XmlWriter
 {
 public:
-    QByteArray write(const QVariant &root, QString *error);
+    Result<QByteArray> write(const QVariant &root);
 
 private:
     bool value(const QVariant &raw, int depth);
@@ -37,6 +39,6 @@ private:
 
 // Through libplist, with the nesting checked beforehand and the numeric
 // locale pinned to C while it parses.
-QVariant readXml(const QByteArray &data, QString *error);
+Result<QVariant> readXml(const QByteArray &data);
 
 } // namespace tabo::plist::detail

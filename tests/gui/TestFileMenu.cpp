@@ -125,9 +125,9 @@ void TestFileMenu::exportedDocumentImportsAgain()
     exportAction->trigger();
     QVERIFY(QFileInfo(path).isFile());
 
-    QString error;
-    Record *copy = f.app.files().importInvoiceFile(path, &error);
-    QVERIFY2(copy, qPrintable(error));
+    const Result<Record *> imported = f.app.files().importInvoiceFile(path);
+    QVERIFY2(imported, qPrintable(imported.error().text));
+    Record *copy = imported.value();
     QVERIFY(copy != doc);
     QCOMPARE(copy->text(Invoice::customerName), QStringLiteral("Atelier Nord"));
     QCOMPARE(copy->text(Invoice::number), doc->text(Invoice::number));

@@ -359,11 +359,9 @@ void TestMainWindow::catalogueWindow()
     Fixture f;
     f.start();
     f.window->newInvoiceAction()->trigger();
-    QString error;
     for (const char *title : {"Consulting", "Cable", "Adapter"})
         QVERIFY(f.app.items().addItem({QLatin1String(title), {}, {}, {}, {}, QStringLiteral("10"), QStringLiteral("1"),
-                                       true, false, false},
-                                      &error));
+                                       true, false, false}).value());
     f.window->findChild<QAction *>(QStringLiteral("actionCatalogue"))->trigger();
     CatalogueWindow *window = f.window->catalogueWindow();
     QVERIFY(window->isVisible());
@@ -432,10 +430,8 @@ void TestMainWindow::reportFollowsTheList()
         f.window->newInvoiceAction()->trigger();
         Record *doc = f.app.currentInvoice();
         doc->setText(Invoice::customerName, QLatin1String(client));
-        QString error;
         QVERIFY(f.app.items().addItem({QStringLiteral("Work"), {}, {}, {}, {}, QStringLiteral("100"),
-                                       QStringLiteral("1"), false, false, false},
-                                      &error));
+                                       QStringLiteral("1"), false, false, false}).value());
         doc->setInt(Invoice::status, 1);
         doc->setDate(Invoice::due, doc->date(Invoice::date).addDays(30));
         f.app.documentChanged(doc);

@@ -68,7 +68,7 @@ bool writeDesign(const QDir &source, const QString &name, const QDir &out)
     design.setText(Design::css, readText(dir.filePath(QStringLiteral("style.css")), &ok));
     design.setText(Design::uniqueID, builtInId(name));
     design.setBool(Design::isDefault, false);
-    return ok && writeFile(out.filePath(name + QStringLiteral(".design")), designFileData(design));
+    return ok && writeFile(out.filePath(name + QStringLiteral(".design")), designFileData(design).value());
 }
 
 bool writePreviewItems(const QDir &source, const QDir &out)
@@ -97,7 +97,7 @@ bool writePreviewItems(const QDir &source, const QDir &out)
         items << dictionary;
     }
     return writeFile(out.filePath(QStringLiteral("PreviewItems.plist")),
-                     KeyedArchive::archive(QVariantMap{{QStringLiteral("array"), items}}));
+                     KeyedArchive::archive(QVariantMap{{QStringLiteral("array"), items}}).value());
 }
 
 } // namespace
