@@ -93,6 +93,160 @@ public:
         end();
     }
 
+    // BG-2: the process and the specification the file follows.
+    void context(Profile profile)
+    {
+        start(kRsm, QStringLiteral("ExchangedDocumentContext"));
+        if (profile == Profile::XRechnung) {
+            start(kRam, QStringLiteral("BusinessProcessSpecifiedDocumentContextParameter"));
+            ram(QStringLiteral("ID"), kPeppolProcess);
+            end();
+        }
+        start(kRam, QStringLiteral("GuidelineSpecifiedDocumentContextParameter"));
+        ram(QStringLiteral("ID"), profile == Profile::XRechnung ? kXRechnungId : kEN16931Id);
+        end();
+        end();
+    }
+    void document(const Model &inv)
+    {
+        start(kRsm, QStringLiteral("ExchangedDocument"));
+        ram(QStringLiteral("ID"), inv.number);
+        ram(QStringLiteral("TypeCode"), inv.typeCode);
+        date(QStringLiteral("IssueDateTime"), inv.issueDate);
+        for (const QString &note : inv.notes) {
+            start(kRam, QStringLiteral("IncludedNote"));
+            ram(QStringLiteral("Content"), note);
+            end();
+        }
+        end();
+    }
+    void line(const Line &line)
+    {
+        start(kRam, QStringLiteral("IncludedSupplyChainTradeLineItem"));
+        start(kRam, QStringLiteral("AssociatedDocumentLineDocument"));
+        ram(QStringLiteral("LineID"), line.id);
+        end();
+        start(kRam, QStringLiteral("SpecifiedTradeProduct"));
+        ram(QStringLiteral("SellerAssignedID"), line.sellerId);
+        ram(QStringLiteral("Name"), line.name);
+        ram(QStringLiteral("Description"), line.description);
+        end();
+        start(kRam, QStringLiteral("SpecifiedLineTradeAgreement"));
+        start(kRam, QStringLiteral("NetPriceProductTradePrice"));
+        ram(QStringLiteral("ChargeAmount"), decimal(line.price));
+        end();
+        end();
+        start(kRam, QStringLiteral("SpecifiedLineTradeDelivery"));
+        ramAttr(QStringLiteral("BilledQuantity"), decimal(line.quantity), QStringLiteral("unitCode"), line.unitCode);
+        end();
+        start(kRam, QStringLiteral("SpecifiedLineTradeSettlement"));
+        start(kRam, QStringLiteral("ApplicableTradeTax"));
+        category(line.tax, false);
+        end();
+        start(kRam, QStringLiteral("SpecifiedTradeSettlementLineMonetarySummation"));
+        ram(QStringLiteral("LineTotalAmount"), amount(line.net));
+        end();
+        end();
+        end();
+    }
+    void agreementAndDelivery(const Model &inv)
+    {
+        start(kRam, QStringLiteral("ApplicableHeaderTradeAgreement"));
+        ram(QStringLiteral("BuyerReference"), inv.buyerReference);
+        party(QStringLiteral("SellerTradeParty"), inv.seller, true);
+        party(QStringLiteral("BuyerTradeParty"), inv.buyer, false);
+        end();
+
+        start(kRam, QStringLiteral("ApplicableHeaderTradeDelivery"));
+        if (inv.deliveryDate.isValid()) {
+            start(kRam, QStringLiteral("ActualDeliverySupplyChainEvent"));
+            date(QStringLiteral("OccurrenceDateTime"), inv.deliveryDate);
+            end();
+        }
+        end();
+    }
+    void paymentMeans(const Model &inv)
+    {
+        start(kRam, QStringLiteral("SpecifiedTradeSettlementPaymentMeans"));
+        ram(QStringLiteral("TypeCode"), QStringLiteral("58")); // SEPA credit transfer
+        start(kRam, QStringLiteral("PayeePartyCreditorFinancialAccount"));
+        ram(QStringLiteral("IBANID"), inv.iban);
+        ram(QStringLiteral("AccountName"), inv.seller.name);
+        end();
+        if (!inv.bic.isEmpty()) {
+            start(kRam, QStringLiteral("PayeeSpecifiedCreditorFinancialInstitution"));
+            ram(QStringLiteral("BICID"), inv.bic);
+            end();
+        }
+        end();
+    }
+    void vatBreakdown(const TaxBreakdown &t)
+    {
+        start(kRam, QStringLiteral("ApplicableTradeTax"));
+        ram(QStringLiteral("CalculatedAmount"), amount(t.amount));
+        ram(QStringLiteral("TypeCode"), QStringLiteral("VAT"));
+        if (t.category.code != QLatin1String("S") && t.category.code != QLatin1String("Z"))
+            ram(QStringLiteral("ExemptionReason"), t.category.exemptionReason);
+        ram(QStringLiteral("BasisAmount"), amount(t.basis));
+        ram(QStringLiteral("CategoryCode"), t.category.code);
+        if (t.category.code != QLatin1String("O"))
+            ram(QStringLiteral("RateApplicablePercent"), decimal(t.category.rate));
+        end();
+    }
+    void allowanceCharge(const AllowanceCharge &ac)
+    {
+        start(kRam, QStringLiteral("SpecifiedTradeAllowanceCharge"));
+        indicator(ac.charge);
+        ram(QStringLiteral("ActualAmount"), amount(ac.amount));
+        ram(QStringLiteral("Reason"), ac.reason);
+        start(kRam, QStringLiteral("CategoryTradeTax"));
+        category(ac.tax, false);
+        end();
+        end();
+    }
+    void totals(const Model &inv)
+    {
+        start(kRam, QStringLiteral("SpecifiedTradeSettlementHeaderMonetarySummation"));
+        ram(QStringLiteral("LineTotalAmount"), amount(inv.lineTotal));
+        ram(QStringLiteral("ChargeTotalAmount"), amount(inv.chargeTotal));
+        ram(QStringLiteral("AllowanceTotalAmount"), amount(inv.allowanceTotal));
+        ram(QStringLiteral("TaxBasisTotalAmount"), amount(inv.taxExclusive));
+        ramAttr(QStringLiteral("TaxTotalAmount"), amount(inv.taxTotal), QStringLiteral("currencyID"), inv.currency);
+        if (inv.rounding != 0)
+            ram(QStringLiteral("RoundingAmount"), amount(inv.rounding));
+        ram(QStringLiteral("GrandTotalAmount"), amount(inv.taxInclusive));
+        ram(QStringLiteral("TotalPrepaidAmount"), amount(inv.prepaid));
+        ram(QStringLiteral("DuePayableAmount"), amount(inv.payable));
+        end();
+    }
+    void settlement(const Model &inv)
+    {
+        start(kRam, QStringLiteral("ApplicableHeaderTradeSettlement"));
+        ram(QStringLiteral("PaymentReference"), inv.number);
+        ram(QStringLiteral("InvoiceCurrencyCode"), inv.currency);
+        paymentMeans(inv);
+        for (const TaxBreakdown &t : inv.taxes)
+            vatBreakdown(t);
+        for (const AllowanceCharge &ac : inv.allowancesCharges)
+            allowanceCharge(ac);
+        if (inv.dueDate.isValid() || !inv.paymentTerms.isEmpty()) {
+            start(kRam, QStringLiteral("SpecifiedTradePaymentTerms"));
+            ram(QStringLiteral("Description"), inv.paymentTerms);
+            if (inv.dueDate.isValid())
+                date(QStringLiteral("DueDateDateTime"), inv.dueDate);
+            end();
+        }
+        totals(inv);
+        if (!inv.precedingNumber.isEmpty()) {
+            start(kRam, QStringLiteral("InvoiceReferencedDocument"));
+            ram(QStringLiteral("IssuerAssignedID"), inv.precedingNumber);
+            if (inv.precedingDate.isValid())
+                date(QStringLiteral("FormattedIssueDateTime"), inv.precedingDate, kQdt);
+            end();
+        }
+        end();
+    }
+
     QXmlStreamWriter w;
 };
 
@@ -102,147 +256,22 @@ QByteArray writeCii(const Model &inv, Profile profile)
 {
     QByteArray out;
     Cii x(&out);
-    QXmlStreamWriter &w = x.w;
-    w.writeStartDocument();
-    w.writeNamespace(kRsm, QStringLiteral("rsm"));
-    w.writeNamespace(kRam, QStringLiteral("ram"));
-    w.writeNamespace(kQdt, QStringLiteral("qdt"));
-    w.writeNamespace(kUdt, QStringLiteral("udt"));
+    x.w.writeStartDocument();
+    x.w.writeNamespace(kRsm, QStringLiteral("rsm"));
+    x.w.writeNamespace(kRam, QStringLiteral("ram"));
+    x.w.writeNamespace(kQdt, QStringLiteral("qdt"));
+    x.w.writeNamespace(kUdt, QStringLiteral("udt"));
     x.start(kRsm, QStringLiteral("CrossIndustryInvoice"));
-
-    x.start(kRsm, QStringLiteral("ExchangedDocumentContext"));
-    if (profile == Profile::XRechnung) {
-        x.start(kRam, QStringLiteral("BusinessProcessSpecifiedDocumentContextParameter"));
-        x.ram(QStringLiteral("ID"), kPeppolProcess);
-        x.end();
-    }
-    x.start(kRam, QStringLiteral("GuidelineSpecifiedDocumentContextParameter"));
-    x.ram(QStringLiteral("ID"), profile == Profile::XRechnung ? kXRechnungId : kEN16931Id);
-    x.end();
-    x.end();
-
-    x.start(kRsm, QStringLiteral("ExchangedDocument"));
-    x.ram(QStringLiteral("ID"), inv.number);
-    x.ram(QStringLiteral("TypeCode"), inv.typeCode);
-    x.date(QStringLiteral("IssueDateTime"), inv.issueDate);
-    for (const QString &note : inv.notes) {
-        x.start(kRam, QStringLiteral("IncludedNote"));
-        x.ram(QStringLiteral("Content"), note);
-        x.end();
-    }
-    x.end();
-
+    x.context(profile);
+    x.document(inv);
     x.start(kRsm, QStringLiteral("SupplyChainTradeTransaction"));
-    for (const Line &line : inv.lines) {
-        x.start(kRam, QStringLiteral("IncludedSupplyChainTradeLineItem"));
-        x.start(kRam, QStringLiteral("AssociatedDocumentLineDocument"));
-        x.ram(QStringLiteral("LineID"), line.id);
-        x.end();
-        x.start(kRam, QStringLiteral("SpecifiedTradeProduct"));
-        x.ram(QStringLiteral("SellerAssignedID"), line.sellerId);
-        x.ram(QStringLiteral("Name"), line.name);
-        x.ram(QStringLiteral("Description"), line.description);
-        x.end();
-        x.start(kRam, QStringLiteral("SpecifiedLineTradeAgreement"));
-        x.start(kRam, QStringLiteral("NetPriceProductTradePrice"));
-        x.ram(QStringLiteral("ChargeAmount"), decimal(line.price));
-        x.end();
-        x.end();
-        x.start(kRam, QStringLiteral("SpecifiedLineTradeDelivery"));
-        x.ramAttr(QStringLiteral("BilledQuantity"), decimal(line.quantity), QStringLiteral("unitCode"), line.unitCode);
-        x.end();
-        x.start(kRam, QStringLiteral("SpecifiedLineTradeSettlement"));
-        x.start(kRam, QStringLiteral("ApplicableTradeTax"));
-        x.category(line.tax, false);
-        x.end();
-        x.start(kRam, QStringLiteral("SpecifiedTradeSettlementLineMonetarySummation"));
-        x.ram(QStringLiteral("LineTotalAmount"), amount(line.net));
-        x.end();
-        x.end();
-        x.end();
-    }
-
-    x.start(kRam, QStringLiteral("ApplicableHeaderTradeAgreement"));
-    x.ram(QStringLiteral("BuyerReference"), inv.buyerReference);
-    x.party(QStringLiteral("SellerTradeParty"), inv.seller, true);
-    x.party(QStringLiteral("BuyerTradeParty"), inv.buyer, false);
-    x.end();
-
-    x.start(kRam, QStringLiteral("ApplicableHeaderTradeDelivery"));
-    if (inv.deliveryDate.isValid()) {
-        x.start(kRam, QStringLiteral("ActualDeliverySupplyChainEvent"));
-        x.date(QStringLiteral("OccurrenceDateTime"), inv.deliveryDate);
-        x.end();
-    }
-    x.end();
-
-    x.start(kRam, QStringLiteral("ApplicableHeaderTradeSettlement"));
-    x.ram(QStringLiteral("PaymentReference"), inv.number);
-    x.ram(QStringLiteral("InvoiceCurrencyCode"), inv.currency);
-    x.start(kRam, QStringLiteral("SpecifiedTradeSettlementPaymentMeans"));
-    x.ram(QStringLiteral("TypeCode"), QStringLiteral("58")); // SEPA credit transfer
-    x.start(kRam, QStringLiteral("PayeePartyCreditorFinancialAccount"));
-    x.ram(QStringLiteral("IBANID"), inv.iban);
-    x.ram(QStringLiteral("AccountName"), inv.seller.name);
-    x.end();
-    if (!inv.bic.isEmpty()) {
-        x.start(kRam, QStringLiteral("PayeeSpecifiedCreditorFinancialInstitution"));
-        x.ram(QStringLiteral("BICID"), inv.bic);
-        x.end();
-    }
-    x.end();
-    for (const TaxBreakdown &t : inv.taxes) {
-        x.start(kRam, QStringLiteral("ApplicableTradeTax"));
-        x.ram(QStringLiteral("CalculatedAmount"), amount(t.amount));
-        x.ram(QStringLiteral("TypeCode"), QStringLiteral("VAT"));
-        if (t.category.code != QLatin1String("S") && t.category.code != QLatin1String("Z"))
-            x.ram(QStringLiteral("ExemptionReason"), t.category.exemptionReason);
-        x.ram(QStringLiteral("BasisAmount"), amount(t.basis));
-        x.ram(QStringLiteral("CategoryCode"), t.category.code);
-        if (t.category.code != QLatin1String("O"))
-            x.ram(QStringLiteral("RateApplicablePercent"), decimal(t.category.rate));
-        x.end();
-    }
-    for (const AllowanceCharge &ac : inv.allowancesCharges) {
-        x.start(kRam, QStringLiteral("SpecifiedTradeAllowanceCharge"));
-        x.indicator(ac.charge);
-        x.ram(QStringLiteral("ActualAmount"), amount(ac.amount));
-        x.ram(QStringLiteral("Reason"), ac.reason);
-        x.start(kRam, QStringLiteral("CategoryTradeTax"));
-        x.category(ac.tax, false);
-        x.end();
-        x.end();
-    }
-    if (inv.dueDate.isValid() || !inv.paymentTerms.isEmpty()) {
-        x.start(kRam, QStringLiteral("SpecifiedTradePaymentTerms"));
-        x.ram(QStringLiteral("Description"), inv.paymentTerms);
-        if (inv.dueDate.isValid())
-            x.date(QStringLiteral("DueDateDateTime"), inv.dueDate);
-        x.end();
-    }
-    x.start(kRam, QStringLiteral("SpecifiedTradeSettlementHeaderMonetarySummation"));
-    x.ram(QStringLiteral("LineTotalAmount"), amount(inv.lineTotal));
-    x.ram(QStringLiteral("ChargeTotalAmount"), amount(inv.chargeTotal));
-    x.ram(QStringLiteral("AllowanceTotalAmount"), amount(inv.allowanceTotal));
-    x.ram(QStringLiteral("TaxBasisTotalAmount"), amount(inv.taxExclusive));
-    x.ramAttr(QStringLiteral("TaxTotalAmount"), amount(inv.taxTotal), QStringLiteral("currencyID"), inv.currency);
-    if (inv.rounding != 0)
-        x.ram(QStringLiteral("RoundingAmount"), amount(inv.rounding));
-    x.ram(QStringLiteral("GrandTotalAmount"), amount(inv.taxInclusive));
-    x.ram(QStringLiteral("TotalPrepaidAmount"), amount(inv.prepaid));
-    x.ram(QStringLiteral("DuePayableAmount"), amount(inv.payable));
-    x.end();
-    if (!inv.precedingNumber.isEmpty()) {
-        x.start(kRam, QStringLiteral("InvoiceReferencedDocument"));
-        x.ram(QStringLiteral("IssuerAssignedID"), inv.precedingNumber);
-        if (inv.precedingDate.isValid())
-            x.date(QStringLiteral("FormattedIssueDateTime"), inv.precedingDate, kQdt);
-        x.end();
-    }
-    x.end(); // settlement
+    for (const Line &line : inv.lines)
+        x.line(line);
+    x.agreementAndDelivery(inv);
+    x.settlement(inv);
     x.end(); // transaction
     x.end(); // invoice
-    w.writeEndDocument();
+    x.w.writeEndDocument();
     return out;
 }
 

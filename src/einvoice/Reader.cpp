@@ -212,6 +212,51 @@ Party ciiParty(const Node *p)
     return party;
 }
 
+Line ciiLine(const Node *item)
+{
+    Line line;
+    line.id = item->value(u"AssociatedDocumentLineDocument/LineID");
+    line.name = item->value(u"SpecifiedTradeProduct/Name");
+    line.description = item->value(u"SpecifiedTradeProduct/Description");
+    line.sellerId = item->value(u"SpecifiedTradeProduct/SellerAssignedID");
+    line.price = item->number(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/ChargeAmount");
+    if (const Node *base = item->at(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/BasisQuantity"))
+        line.baseQuantity = readAmount(base->text.trimmed(), u"BasisQuantity");
+    if (const Node *settlement = item->child(u"SpecifiedLineTradeSettlement"))
+        for (const Node *ac : settlement->all(u"SpecifiedTradeAllowanceCharge")) {
+            const double amount = ac->number(u"ActualAmount");
+            line.adjustment += ac->value(u"ChargeIndicator/Indicator") == QLatin1String("true") ? amount : -amount;
+        }
+    if (const Node *q = item->at(u"SpecifiedLineTradeDelivery/BilledQuantity")) {
+        line.quantity = readAmount(q->text.trimmed(), u"BilledQuantity");
+        line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
+    }
+    line.net = item->number(u"SpecifiedLineTradeSettlement/SpecifiedTradeSettlementLineMonetarySummation/LineTotalAmount");
+    line.tax = ciiCategory(item->at(u"SpecifiedLineTradeSettlement/ApplicableTradeTax"));
+    return line;
+}
+
+// False when the grand total or the amount due is not stated.
+bool readCiiTotals(const Node *sum, Model &m)
+{
+    bool grand = false, due = false;
+    if (!sum)
+        return false;
+    m.lineTotal = sum->number(u"LineTotalAmount");
+    m.chargeTotal = sum->number(u"ChargeTotalAmount");
+    m.allowanceTotal = sum->number(u"AllowanceTotalAmount");
+    m.taxExclusive = sum->number(u"TaxBasisTotalAmount");
+    // The tax total may be stated twice, once in a tax currency.
+    for (const Node *t : sum->all(u"TaxTotalAmount"))
+        if (t->attributes.value(QStringLiteral("currencyID"), m.currency) == m.currency)
+            m.taxTotal = readAmount(t->text.trimmed(), u"TaxTotalAmount");
+    m.rounding = sum->number(u"RoundingAmount");
+    m.taxInclusive = sum->number(u"GrandTotalAmount", &grand);
+    m.prepaid = sum->number(u"TotalPrepaidAmount");
+    m.payable = sum->number(u"DuePayableAmount", &due);
+    return grand && due;
+}
+
 Error readCii(const Node &root, Received *out)
 {
     Model &m = out->invoice;
@@ -226,28 +271,8 @@ Error readCii(const Node &root, Received *out)
     if (!tx) {
         return Error::file(QStringLiteral("The CII file has no trade transaction: it holds no invoice."));
     }
-    for (const Node *item : tx->all(u"IncludedSupplyChainTradeLineItem")) {
-        Line line;
-        line.id = item->value(u"AssociatedDocumentLineDocument/LineID");
-        line.name = item->value(u"SpecifiedTradeProduct/Name");
-        line.description = item->value(u"SpecifiedTradeProduct/Description");
-        line.sellerId = item->value(u"SpecifiedTradeProduct/SellerAssignedID");
-        line.price = item->number(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/ChargeAmount");
-        if (const Node *base = item->at(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/BasisQuantity"))
-            line.baseQuantity = readAmount(base->text.trimmed(), u"BasisQuantity");
-        if (const Node *settlement = item->child(u"SpecifiedLineTradeSettlement"))
-            for (const Node *ac : settlement->all(u"SpecifiedTradeAllowanceCharge")) {
-                const double amount = ac->number(u"ActualAmount");
-                line.adjustment += ac->value(u"ChargeIndicator/Indicator") == QLatin1String("true") ? amount : -amount;
-            }
-        if (const Node *q = item->at(u"SpecifiedLineTradeDelivery/BilledQuantity")) {
-            line.quantity = readAmount(q->text.trimmed(), u"BilledQuantity");
-            line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
-        }
-        line.net = item->number(u"SpecifiedLineTradeSettlement/SpecifiedTradeSettlementLineMonetarySummation/LineTotalAmount");
-        line.tax = ciiCategory(item->at(u"SpecifiedLineTradeSettlement/ApplicableTradeTax"));
-        m.lines << line;
-    }
+    for (const Node *item : tx->all(u"IncludedSupplyChainTradeLineItem"))
+        m.lines << ciiLine(item);
     const Node *agreement = tx->child(u"ApplicableHeaderTradeAgreement");
     if (agreement) {
         m.buyerReference = agreement->value(u"BuyerReference");
@@ -278,25 +303,8 @@ Error readCii(const Node &root, Received *out)
         m.paymentTerms = terms->value(u"Description");
         m.dueDate = day(terms->value(u"DueDateDateTime/DateTimeString"));
     }
-    const Node *sum = settlement->child(u"SpecifiedTradeSettlementHeaderMonetarySummation");
-    bool grand = false, due = false;
-    if (sum) {
-        m.lineTotal = sum->number(u"LineTotalAmount");
-        m.chargeTotal = sum->number(u"ChargeTotalAmount");
-        m.allowanceTotal = sum->number(u"AllowanceTotalAmount");
-        m.taxExclusive = sum->number(u"TaxBasisTotalAmount");
-        // The tax total may be stated twice, once in a tax currency.
-        for (const Node *t : sum->all(u"TaxTotalAmount"))
-            if (t->attributes.value(QStringLiteral("currencyID"), m.currency) == m.currency)
-                m.taxTotal = readAmount(t->text.trimmed(), u"TaxTotalAmount");
-        m.rounding = sum->number(u"RoundingAmount");
-        m.taxInclusive = sum->number(u"GrandTotalAmount", &grand);
-        m.prepaid = sum->number(u"TotalPrepaidAmount");
-        m.payable = sum->number(u"DuePayableAmount", &due);
-    }
-    if (!grand || !due) {
+    if (!readCiiTotals(settlement->child(u"SpecifiedTradeSettlementHeaderMonetarySummation"), m))
         return Error::file(QStringLiteral("The invoice states no grand total or amount due: its totals are missing."));
-    }
     m.precedingNumber = settlement->value(u"InvoiceReferencedDocument/IssuerAssignedID");
     m.precedingDate = day(settlement->value(u"InvoiceReferencedDocument/FormattedIssueDateTime/DateTimeString"));
     return {};
@@ -326,6 +334,29 @@ Party ublParty(const Node *outer)
     party.contactPhone = p->value(u"Contact/Telephone");
     party.contactEmail = p->value(u"Contact/ElectronicMail");
     return party;
+}
+
+Line ublLine(const Node *item, bool credit)
+{
+    Line line;
+    line.id = item->value(u"ID");
+    line.name = item->value(u"Item/Name");
+    line.description = item->value(u"Item/Description");
+    line.sellerId = item->value(u"Item/SellersItemIdentification/ID");
+    if (const Node *base = item->at(u"Price/BaseQuantity"))
+        line.baseQuantity = readAmount(base->text.trimmed(), u"BaseQuantity");
+    for (const Node *ac : item->all(u"AllowanceCharge")) {
+        const double amount = ac->number(u"Amount");
+        line.adjustment += ac->value(u"ChargeIndicator") == QLatin1String("true") ? amount : -amount;
+    }
+    if (const Node *q = item->child(credit ? u"CreditedQuantity" : u"InvoicedQuantity")) {
+        line.quantity = readAmount(q->text.trimmed(), credit ? u"CreditedQuantity" : u"InvoicedQuantity");
+        line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
+    }
+    line.net = item->number(u"LineExtensionAmount");
+    line.price = item->number(u"Price/PriceAmount");
+    line.tax = ublCategory(item->at(u"Item/ClassifiedTaxCategory"));
+    return line;
 }
 
 Error readUbl(const Node &root, bool credit, Received *out)
@@ -385,27 +416,8 @@ Error readUbl(const Node &root, bool credit, Received *out)
     if (!grand || !due) {
         return Error::file(QStringLiteral("The invoice states no total with VAT or amount due: its totals are missing."));
     }
-    for (const Node *item : root.all(credit ? u"CreditNoteLine" : u"InvoiceLine")) {
-        Line line;
-        line.id = item->value(u"ID");
-        line.name = item->value(u"Item/Name");
-        line.description = item->value(u"Item/Description");
-        line.sellerId = item->value(u"Item/SellersItemIdentification/ID");
-        if (const Node *base = item->at(u"Price/BaseQuantity"))
-            line.baseQuantity = readAmount(base->text.trimmed(), u"BaseQuantity");
-        for (const Node *ac : item->all(u"AllowanceCharge")) {
-            const double amount = ac->number(u"Amount");
-            line.adjustment += ac->value(u"ChargeIndicator") == QLatin1String("true") ? amount : -amount;
-        }
-        if (const Node *q = item->child(credit ? u"CreditedQuantity" : u"InvoicedQuantity")) {
-            line.quantity = readAmount(q->text.trimmed(), credit ? u"CreditedQuantity" : u"InvoicedQuantity");
-            line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
-        }
-        line.net = item->number(u"LineExtensionAmount");
-        line.price = item->number(u"Price/PriceAmount");
-        line.tax = ublCategory(item->at(u"Item/ClassifiedTaxCategory"));
-        m.lines << line;
-    }
+    for (const Node *item : root.all(credit ? u"CreditNoteLine" : u"InvoiceLine"))
+        m.lines << ublLine(item, credit);
     return {};
 }
 
@@ -612,11 +624,16 @@ QString category(const TaxCategory &c)
 
 } // namespace
 
-QString viewPage(const Received &r)
+namespace {
+
+QString moneyIn(const Model &m, double v)
+{
+    return amount(v) + QLatin1Char(' ') + esc(m.currency);
+}
+
+QString viewHead(const Received &r)
 {
     const Model &m = r.invoice;
-    const QString cur = esc(m.currency);
-    const auto money = [&cur](double v) -> QString { return amount(v) + QLatin1Char(' ') + cur; };
     const bool credit = m.typeCode == QLatin1String("381");
     QString html = QStringLiteral(
         "<!DOCTYPE html><html><head><meta charset=\"utf-8\"><title>%1</title><style>"
@@ -646,9 +663,13 @@ QString viewPage(const Received &r)
     html += dates.join(QStringLiteral(" · ")) + QStringLiteral("</div>");
     html += QStringLiteral("<div class=\"parties\">%1%2</div>")
                 .arg(partyBlock(QStringLiteral("Seller"), m.seller), partyBlock(QStringLiteral("Buyer"), m.buyer));
+    return html;
+}
 
-    html += QStringLiteral("<table><tr><th>#</th><th>Item</th><th class=\"n\">Quantity</th><th class=\"n\">Price</th>"
-                           "<th class=\"n\">VAT</th><th class=\"n\">Net</th></tr>");
+QString viewLines(const Model &m)
+{
+    QString html = QStringLiteral("<table><tr><th>#</th><th>Item</th><th class=\"n\">Quantity</th><th class=\"n\">Price</th>"
+                                  "<th class=\"n\">VAT</th><th class=\"n\">Net</th></tr>");
     for (const Line &l : m.lines)
         html += QStringLiteral("<tr><td>%1</td><td>%2%3%4</td><td class=\"n\">%5 %6</td><td class=\"n\">%7</td>"
                                "<td class=\"n\">%8</td><td class=\"n\">%9</td></tr>")
@@ -656,10 +677,14 @@ QString viewPage(const Received &r)
                          l.description.isEmpty() ? QString() : QStringLiteral("<br><span class=\"muted\">%1</span>").arg(esc(l.description)),
                          l.sellerId.isEmpty() ? QString() : QStringLiteral(" <span class=\"muted\">(%1)</span>").arg(esc(l.sellerId)),
                          decimal(l.quantity), esc(UnitCodes::displayName(l.unitCode)), decimal(l.price), category(l.tax),
-                         money(l.net));
-    html += QStringLiteral("</table>");
+                         moneyIn(m, l.net));
+    return html + QStringLiteral("</table>");
+}
 
-    html += QStringLiteral("<table class=\"totals\">");
+QString viewTotals(const Model &m)
+{
+    const auto money = [&m](double v) { return moneyIn(m, v); };
+    QString html = QStringLiteral("<table class=\"totals\">");
     const auto row = [&html](const QString &label, const QString &value, const char *cls = "") {
         html += QStringLiteral("<tr class=\"%3\"><td>%1</td><td class=\"n\">%2</td></tr>").arg(label, value, QLatin1String(cls));
     };
@@ -682,8 +707,12 @@ QString viewPage(const Received &r)
     if (m.rounding != 0)
         row(QStringLiteral("Rounding"), money(m.rounding));
     row(QStringLiteral("Amount due"), money(m.payable), "grand");
-    html += QStringLiteral("</table>");
+    return html + QStringLiteral("</table>");
+}
 
+QString viewBoxes(const Model &m)
+{
+    QString html;
     QStringList payment;
     if (!m.iban.isEmpty())
         payment << QStringLiteral("IBAN %1").arg(esc(m.iban));
@@ -698,8 +727,15 @@ QString viewPage(const Received &r)
     const QStringList problems = checkTotals(m);
     if (!problems.isEmpty())
         html += QStringLiteral("<div class=\"box\"><h3>Its sums do not add up</h3>%1</div>").arg(esc(problems.join(QLatin1Char('\n'))));
-    html += QStringLiteral("</body></html>");
     return html;
+}
+
+} // namespace
+
+QString viewPage(const Received &r)
+{
+    return viewHead(r) + viewLines(r.invoice) + viewTotals(r.invoice) + viewBoxes(r.invoice)
+           + QStringLiteral("</body></html>");
 }
 
 } // namespace tabo::einvoice

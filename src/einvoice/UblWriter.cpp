@@ -85,6 +85,116 @@ public:
         end();
     }
 
+    void header(const Model &inv, Profile profile, bool credit, const QString &root)
+    {
+        cbc(QStringLiteral("CustomizationID"), profile == Profile::XRechnung ? kXRechnungId : kEN16931Id);
+        if (profile == Profile::XRechnung)
+            cbc(QStringLiteral("ProfileID"), kPeppolProcess);
+        cbc(QStringLiteral("ID"), inv.number);
+        cbc(QStringLiteral("IssueDate"), inv.issueDate.toString(Qt::ISODate));
+        if (inv.dueDate.isValid() && !credit)
+            cbc(QStringLiteral("DueDate"), inv.dueDate.toString(Qt::ISODate));
+        cbc(root + QStringLiteral("TypeCode"), inv.typeCode);
+        for (const QString &note : inv.notes)
+            cbc(QStringLiteral("Note"), note);
+        cbc(QStringLiteral("DocumentCurrencyCode"), inv.currency);
+        cbc(QStringLiteral("BuyerReference"), inv.buyerReference);
+        if (!inv.precedingNumber.isEmpty()) {
+            start(QStringLiteral("BillingReference"));
+            start(QStringLiteral("InvoiceDocumentReference"));
+            cbc(QStringLiteral("ID"), inv.precedingNumber);
+            if (inv.precedingDate.isValid())
+                cbc(QStringLiteral("IssueDate"), inv.precedingDate.toString(Qt::ISODate));
+            end();
+            end();
+        }
+    }
+    void deliveryAndPayment(const Model &inv)
+    {
+        if (inv.deliveryDate.isValid()) {
+            start(QStringLiteral("Delivery"));
+            cbc(QStringLiteral("ActualDeliveryDate"), inv.deliveryDate.toString(Qt::ISODate));
+            end();
+        }
+        start(QStringLiteral("PaymentMeans"));
+        cbc(QStringLiteral("PaymentMeansCode"), QStringLiteral("58")); // SEPA credit transfer
+        cbc(QStringLiteral("PaymentID"), inv.number);
+        start(QStringLiteral("PayeeFinancialAccount"));
+        cbc(QStringLiteral("ID"), inv.iban);
+        cbc(QStringLiteral("Name"), inv.seller.name);
+        if (!inv.bic.isEmpty()) {
+            start(QStringLiteral("FinancialInstitutionBranch"));
+            cbc(QStringLiteral("ID"), inv.bic);
+            end();
+        }
+        end();
+        end();
+        if (!inv.paymentTerms.isEmpty()) {
+            start(QStringLiteral("PaymentTerms"));
+            cbc(QStringLiteral("Note"), inv.paymentTerms);
+            end();
+        }
+    }
+    void allowanceCharge(const AllowanceCharge &ac)
+    {
+        start(QStringLiteral("AllowanceCharge"));
+        cbc(QStringLiteral("ChargeIndicator"), ac.charge ? QStringLiteral("true") : QStringLiteral("false"));
+        cbc(QStringLiteral("AllowanceChargeReason"), ac.reason);
+        money(QStringLiteral("Amount"), ac.amount);
+        category(QStringLiteral("TaxCategory"), ac.tax, false);
+        end();
+    }
+    void taxTotal(const Model &inv)
+    {
+        start(QStringLiteral("TaxTotal"));
+        money(QStringLiteral("TaxAmount"), inv.taxTotal);
+        for (const TaxBreakdown &t : inv.taxes) {
+            start(QStringLiteral("TaxSubtotal"));
+            money(QStringLiteral("TaxableAmount"), t.basis);
+            money(QStringLiteral("TaxAmount"), t.amount);
+            category(QStringLiteral("TaxCategory"), t.category,
+                     t.category.code != QLatin1String("S") && t.category.code != QLatin1String("Z"));
+            end();
+        }
+        end();
+    }
+    void monetaryTotal(const Model &inv)
+    {
+        start(QStringLiteral("LegalMonetaryTotal"));
+        money(QStringLiteral("LineExtensionAmount"), inv.lineTotal);
+        money(QStringLiteral("TaxExclusiveAmount"), inv.taxExclusive);
+        money(QStringLiteral("TaxInclusiveAmount"), inv.taxInclusive);
+        money(QStringLiteral("AllowanceTotalAmount"), inv.allowanceTotal);
+        money(QStringLiteral("ChargeTotalAmount"), inv.chargeTotal);
+        money(QStringLiteral("PrepaidAmount"), inv.prepaid);
+        if (inv.rounding != 0)
+            money(QStringLiteral("PayableRoundingAmount"), inv.rounding);
+        money(QStringLiteral("PayableAmount"), inv.payable);
+        end();
+    }
+    void line(const Line &line, bool credit, const QString &root)
+    {
+        start(root + QStringLiteral("Line"));
+        cbc(QStringLiteral("ID"), line.id);
+        cbcAttr(credit ? QStringLiteral("CreditedQuantity") : QStringLiteral("InvoicedQuantity"), decimal(line.quantity),
+                QStringLiteral("unitCode"), line.unitCode);
+        money(QStringLiteral("LineExtensionAmount"), line.net);
+        start(QStringLiteral("Item"));
+        cbc(QStringLiteral("Description"), line.description);
+        cbc(QStringLiteral("Name"), line.name);
+        if (!line.sellerId.isEmpty()) {
+            start(QStringLiteral("SellersItemIdentification"));
+            cbc(QStringLiteral("ID"), line.sellerId);
+            end();
+        }
+        category(QStringLiteral("ClassifiedTaxCategory"), line.tax, false);
+        end();
+        start(QStringLiteral("Price"));
+        cbcAttr(QStringLiteral("PriceAmount"), decimal(line.price), QStringLiteral("currencyID"), m_currency);
+        end();
+        end();
+    }
+
     QXmlStreamWriter w;
 
 private:
@@ -97,114 +207,27 @@ QByteArray writeUbl(const Model &inv, Profile profile)
 {
     QByteArray out;
     Ubl x(&out, inv.currency);
-    QXmlStreamWriter &w = x.w;
     // UBL states a credit note in a document of its own, whose names differ.
     const bool credit = inv.typeCode == QLatin1String("381");
     const QString root = credit ? QStringLiteral("CreditNote") : QStringLiteral("Invoice");
-    w.writeStartDocument();
-    w.writeDefaultNamespace(credit ? kUblCreditNoteNamespace : kUblInvoiceNamespace);
-    w.writeNamespace(kCac, QStringLiteral("cac"));
-    w.writeNamespace(kCbc, QStringLiteral("cbc"));
-    w.writeStartElement(credit ? kUblCreditNoteNamespace : kUblInvoiceNamespace, root);
-    x.cbc(QStringLiteral("CustomizationID"), profile == Profile::XRechnung ? kXRechnungId : kEN16931Id);
-    if (profile == Profile::XRechnung)
-        x.cbc(QStringLiteral("ProfileID"), kPeppolProcess);
-    x.cbc(QStringLiteral("ID"), inv.number);
-    x.cbc(QStringLiteral("IssueDate"), inv.issueDate.toString(Qt::ISODate));
-    if (inv.dueDate.isValid() && !credit)
-        x.cbc(QStringLiteral("DueDate"), inv.dueDate.toString(Qt::ISODate));
-    x.cbc(root + QStringLiteral("TypeCode"), inv.typeCode);
-    for (const QString &note : inv.notes)
-        x.cbc(QStringLiteral("Note"), note);
-    x.cbc(QStringLiteral("DocumentCurrencyCode"), inv.currency);
-    x.cbc(QStringLiteral("BuyerReference"), inv.buyerReference);
-    if (!inv.precedingNumber.isEmpty()) {
-        x.start(QStringLiteral("BillingReference"));
-        x.start(QStringLiteral("InvoiceDocumentReference"));
-        x.cbc(QStringLiteral("ID"), inv.precedingNumber);
-        if (inv.precedingDate.isValid())
-            x.cbc(QStringLiteral("IssueDate"), inv.precedingDate.toString(Qt::ISODate));
-        x.end();
-        x.end();
-    }
+    const QString &ns = credit ? kUblCreditNoteNamespace : kUblInvoiceNamespace;
+    x.w.writeStartDocument();
+    x.w.writeDefaultNamespace(ns);
+    x.w.writeNamespace(kCac, QStringLiteral("cac"));
+    x.w.writeNamespace(kCbc, QStringLiteral("cbc"));
+    x.w.writeStartElement(ns, root);
+    x.header(inv, profile, credit, root);
     x.party(QStringLiteral("AccountingSupplierParty"), inv.seller, true);
     x.party(QStringLiteral("AccountingCustomerParty"), inv.buyer, false);
-    if (inv.deliveryDate.isValid()) {
-        x.start(QStringLiteral("Delivery"));
-        x.cbc(QStringLiteral("ActualDeliveryDate"), inv.deliveryDate.toString(Qt::ISODate));
-        x.end();
-    }
-    x.start(QStringLiteral("PaymentMeans"));
-    x.cbc(QStringLiteral("PaymentMeansCode"), QStringLiteral("58")); // SEPA credit transfer
-    x.cbc(QStringLiteral("PaymentID"), inv.number);
-    x.start(QStringLiteral("PayeeFinancialAccount"));
-    x.cbc(QStringLiteral("ID"), inv.iban);
-    x.cbc(QStringLiteral("Name"), inv.seller.name);
-    if (!inv.bic.isEmpty()) {
-        x.start(QStringLiteral("FinancialInstitutionBranch"));
-        x.cbc(QStringLiteral("ID"), inv.bic);
-        x.end();
-    }
-    x.end();
-    x.end();
-    if (!inv.paymentTerms.isEmpty()) {
-        x.start(QStringLiteral("PaymentTerms"));
-        x.cbc(QStringLiteral("Note"), inv.paymentTerms);
-        x.end();
-    }
-    for (const AllowanceCharge &ac : inv.allowancesCharges) {
-        x.start(QStringLiteral("AllowanceCharge"));
-        x.cbc(QStringLiteral("ChargeIndicator"), ac.charge ? QStringLiteral("true") : QStringLiteral("false"));
-        x.cbc(QStringLiteral("AllowanceChargeReason"), ac.reason);
-        x.money(QStringLiteral("Amount"), ac.amount);
-        x.category(QStringLiteral("TaxCategory"), ac.tax, false);
-        x.end();
-    }
-    x.start(QStringLiteral("TaxTotal"));
-    x.money(QStringLiteral("TaxAmount"), inv.taxTotal);
-    for (const TaxBreakdown &t : inv.taxes) {
-        x.start(QStringLiteral("TaxSubtotal"));
-        x.money(QStringLiteral("TaxableAmount"), t.basis);
-        x.money(QStringLiteral("TaxAmount"), t.amount);
-        x.category(QStringLiteral("TaxCategory"), t.category,
-                   t.category.code != QLatin1String("S") && t.category.code != QLatin1String("Z"));
-        x.end();
-    }
-    x.end();
-    x.start(QStringLiteral("LegalMonetaryTotal"));
-    x.money(QStringLiteral("LineExtensionAmount"), inv.lineTotal);
-    x.money(QStringLiteral("TaxExclusiveAmount"), inv.taxExclusive);
-    x.money(QStringLiteral("TaxInclusiveAmount"), inv.taxInclusive);
-    x.money(QStringLiteral("AllowanceTotalAmount"), inv.allowanceTotal);
-    x.money(QStringLiteral("ChargeTotalAmount"), inv.chargeTotal);
-    x.money(QStringLiteral("PrepaidAmount"), inv.prepaid);
-    if (inv.rounding != 0)
-        x.money(QStringLiteral("PayableRoundingAmount"), inv.rounding);
-    x.money(QStringLiteral("PayableAmount"), inv.payable);
-    x.end();
-    for (const Line &line : inv.lines) {
-        x.start(root + QStringLiteral("Line"));
-        x.cbc(QStringLiteral("ID"), line.id);
-        x.cbcAttr(credit ? QStringLiteral("CreditedQuantity") : QStringLiteral("InvoicedQuantity"), decimal(line.quantity),
-                  QStringLiteral("unitCode"), line.unitCode);
-        x.money(QStringLiteral("LineExtensionAmount"), line.net);
-        x.start(QStringLiteral("Item"));
-        x.cbc(QStringLiteral("Description"), line.description);
-        x.cbc(QStringLiteral("Name"), line.name);
-        if (!line.sellerId.isEmpty()) {
-            x.start(QStringLiteral("SellersItemIdentification"));
-            x.cbc(QStringLiteral("ID"), line.sellerId);
-            x.end();
-        }
-        x.category(QStringLiteral("ClassifiedTaxCategory"), line.tax, false);
-        x.end();
-        x.start(QStringLiteral("Price"));
-        x.cbcAttr(QStringLiteral("PriceAmount"), decimal(line.price), QStringLiteral("currencyID"), inv.currency);
-        x.end();
-        x.end();
-    }
-    w.writeEndElement();
-    w.writeEndDocument();
+    x.deliveryAndPayment(inv);
+    for (const AllowanceCharge &ac : inv.allowancesCharges)
+        x.allowanceCharge(ac);
+    x.taxTotal(inv);
+    x.monetaryTotal(inv);
+    for (const Line &line : inv.lines)
+        x.line(line, credit, root);
+    x.w.writeEndElement();
+    x.w.writeEndDocument();
     return out;
 }
 

@@ -15,6 +15,8 @@
 #include <QFile>
 #include <QImage>
 
+#include <functional>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -129,149 +131,235 @@ PageRenderer::PageRenderer(const Preferences &prefs, const Formatters &formatter
 {
 }
 
+// The page's placeholders in tables of placeholder and value, applied in
+// order: a value may bring in placeholders of a later table (old designs put
+// "%LOCDUE%" into a label), and a few values depend on what the page holds
+// by then.
+struct PageRenderer::PageFill
+{
+    using Value = std::function<QString()>;
+    struct Entry
+    {
+        QStringView placeholder;
+        Value value;
+    };
+
+    const PageRenderer &r;
+    const Record &design;
+    const Record &invoice;
+    const QList<Record *> &items;
+    const LetterMode &mode;
+    const bool reminder = mode.isReminderAction;
+    const bool slip = !reminder && mode.isSlipAction;
+    const LetterTexts *letter = reminder ? &mode.reminder : slip ? &mode.slip : nullptr;
+    Placeholders page { design.text(Design::invoice) };
+    bool noteInConditions = false;
+    bool designShowsBuyerVatId = false;
+
+    void apply(const std::vector<Entry> &table)
+    {
+        for (const Entry &entry : table)
+            page.replace(entry.placeholder, entry.value);
+    }
+
+    Value pref(P::Key key) const
+    {
+        return [this, key] { return r.m_prefs.string(key); };
+    }
+    // What a person typed as plain text prints as typed: "A<B" is no tag.
+    Value typed(int attr) const
+    {
+        return [this, attr] { return Formatters::htmlTextFromPlainText(invoice.text(attr)); };
+    }
+    Value money(int attr) const
+    {
+        return [this, attr] {
+            return invoice.isNull(attr) ? QString() : r.m_formatters.stringFromNumber(invoice.num(attr));
+        };
+    }
+    Value date(int attr) const
+    {
+        return [this, attr] { return Numbering::getPatternDateStringFromDate(r.m_prefs, invoice.date(attr)); };
+    }
+    Value letterText(QString LetterTexts::*field, int attr) const
+    {
+        return [this, field, attr] {
+            return letter ? Formatters::htmlLineBreakStringFromString(letter->*field) : invoice.text(attr);
+        };
+    }
+    Value withOptionalSubtitle(int title, int hasSubtitle, int subtitle) const
+    {
+        return [this, title, hasSubtitle, subtitle] {
+            const QString text = typed(title)();
+            return invoice.boolean(hasSubtitle) ? withSubtitle(text, typed(subtitle)()) : text;
+        };
+    }
+
+    std::vector<Entry> letterhead() const
+    {
+        return {
+            {u"%CSS%", [this] { return design.text(Design::css); }},
+            {u"%COMPANY%", [this] { return Formatters::htmlTextFromPlainText(r.m_prefs.string(P::prefsName)); }},
+            {u"%SLOGAN%", pref(P::prefsSlogan)},
+            {u"%COMPANYCONTACT%",
+             [this] { return Formatters::htmlLineBreakStringFromString(r.m_prefs.string(P::prefsContact)); }},
+            {u"%LETTERTITLE%",
+             [this] { return Formatters::htmlTextFromPlainText(letter ? letter->title : invoice.text(Invoice::title)); }},
+            {u"%CLIENTADDRESS%", typed(Invoice::address)},
+        };
+    }
+    // A design of its own without a place for the tax note gets it under the
+    // conditions: the law's sentences must reach the paper.
+    std::vector<Entry> conditions() const
+    {
+        return {
+            {u"%TAXNOTE%", [this] { return r.taxNote(invoice, items, !designShowsBuyerVatId); }},
+            {u"%CONDITIONS%",
+             [this] {
+                 const QString conditions = letterText(&LetterTexts::conditions, Invoice::conditions)();
+                 if (!noteInConditions)
+                     return conditions;
+                 const QString note = r.taxNote(invoice, items, !designShowsBuyerVatId);
+                 return note.isEmpty()         ? conditions
+                        : conditions.isEmpty() ? note
+                                               : conditions + QLatin1String("<br />") + note;
+             }},
+            {u"%MISCELLANEOUS%", letterText(&LetterTexts::misc, Invoice::misc1)},
+            {u"%FOOTER%", letterText(&LetterTexts::footer, Invoice::footer)},
+        };
+    }
+    std::vector<Entry> documentFields() const
+    {
+        const P::Key dueLabel = invoice.integer(Invoice::kind) == 0 ? P::locExpiration
+                                : reminder                          ? P::locOverdue
+                                : slip                              ? P::locDispatched
+                                                                    : P::locDue;
+        return {
+            {u"%DISPATCHED%", typed(Invoice::dispatchNumber)},
+            {u"%DATE%", date(Invoice::date)},
+            {u"%DUEDATE%", date(slip ? Invoice::dispatched : Invoice::due)},
+            {u"%NUMBER%", typed(Invoice::number)},
+            {u"%CLIENTNUMBER%", typed(Invoice::clientNumber)},
+            // A name put together from empty parts is only blanks: it greets no one.
+            {u"%CLIENTNAME%",
+             [this] { return Formatters::htmlTextFromPlainText(invoice.text(Invoice::customerName).trimmed()); }},
+            {u"%CLIENTVATID%", typed(Invoice::customerVATID)},
+            {u"%LOCDATE%", pref(P::locDate)},
+            {u"%LOCDUE%", pref(dueLabel)},
+            {u"%LOCNUMBER%", pref(P::locNumber)},
+            {u"%LOCCLIENTNUMBER%", pref(P::locClientNumber)},
+            {u"%LOCDISPATCHED%", pref(P::locDispatched)},
+            {u"%CURRENCY%", typed(Invoice::currency)},
+            {u"%SUBJECT%", typed(Invoice::subject)},
+            {u"%SUBTOTAL%", money(Invoice::subAmount)},
+            {u"%TOTAL%", money(Invoice::amount)},
+            {u"%LOCSUBTOTAL%", pref(P::locSubtotal)},
+            {u"%PAIDAMOUNT%", money(Invoice::paidAmount)},
+        };
+    }
+    std::vector<Entry> discount() const
+    {
+        const Value none = [] { return QString(); };
+        if (!invoice.boolean(Invoice::isDiscountEnabled))
+            return {{u"%LOCDISCOUNT%", none}, {u"%DISCOUNTKINDCHAR%", none}, {u"%DISCOUNT%", none},
+                    {u"%DISCOUNTPERCENT%", none}, {u"%DISCOUNTAMOUNT%", none}};
+        const bool isAmount = invoice.integer(Invoice::discountKind) == 0;
+        const Value percent = [this] {
+            if (invoice.isNull(Invoice::discountPercent))
+                return QString();
+            return r.m_formatters.decimalStringFromNumber(invoice.single(Invoice::discountPercent) * 100.0f);
+        };
+        return {
+            {u"%LOCDISCOUNT%",
+             withOptionalSubtitle(Invoice::discountTitle, Invoice::hasDiscountSubtitle, Invoice::discountSubtitle)},
+            {u"%DISCOUNTKINDCHAR%", [isAmount] { return isAmount ? QStringLiteral("-") : QStringLiteral("%"); }},
+            {u"%DISCOUNT%", isAmount ? money(Invoice::discountAmount) : percent},
+            {u"%DISCOUNTPERCENT%", isAmount ? none : percent},
+            // What was taken off, as the calculation took it.
+            {u"%DISCOUNTAMOUNT%",
+             [this] {
+                 return r.m_formatters.stringFromNumber(
+                     Calculator::discountShown(invoice, TaxSettings::from(r.m_prefs)));
+             }},
+        };
+    }
+    std::vector<Entry> shippingAndTaxes() const
+    {
+        const bool shipping = invoice.boolean(Invoice::isShippingEnabled);
+        const Value none = [] { return QString(); };
+        std::vector<Entry> table {
+            {u"%SHIPPING%", shipping ? money(Invoice::shippingAmount) : none},
+            {u"%LOCSHIPPING%", shipping ? withOptionalSubtitle(Invoice::shippingTitle, Invoice::hasShippingSubtitle,
+                                                               Invoice::shippingSubtitle)
+                                        : none},
+            {u"%LOCTOTAL%", pref(P::locTotal)},
+        };
+        for (std::size_t k = 0; k < kPageTaxes.size(); ++k) {
+            const TaxFields &tax = kPageTaxes[k];
+            const bool enabled = r.m_prefs.boolean(tax.enabled) && taxUsed(invoice, items, int(k));
+            if (!enabled) {
+                table.insert(table.end(), {{tax.title, none}, {tax.amount, none}, {tax.rate, none}});
+                continue;
+            }
+            table.push_back({tax.title, [this, &tax] { return Formatters::htmlTextFromPlainText(r.m_prefs.string(tax.titleKey)); }});
+            table.push_back({tax.amount, money(tax.amountAttr)});
+            table.push_back({tax.rate, [this, &tax] {
+                                 const double percent = invoice.num(tax.percentAttr) * 100.0;
+                                 if (invoice.isNull(tax.percentAttr) || !std::isfinite(percent))
+                                     return QString();
+                                 return QString::asprintf("%.02f", percent);
+                             }});
+        }
+        return table;
+    }
+    std::vector<Entry> itemsAndLabels() const
+    {
+        std::vector<Entry> table {{u"%ITEMSLIST%", [this] { return r.itemsList(&design, invoice, items); }}};
+        for (const Label &label : kLateLabels)
+            table.push_back({label.placeholder, pref(label.key)});
+        for (std::size_t i = kFirstHeading; i < kHeadingsEnd; ++i)
+            table.push_back({kRowLabels[i].placeholder, pref(kRowLabels[i].key)});
+        // The line-amount column is headed by what it shows: net amounts when
+        // they are printed, else the line totals.
+        table.push_back({u"%LOCLINEAMOUNT%", pref(r.m_prefs.boolean(P::showItemSubAmount) ? P::locNet : P::locAmount)});
+        table.push_back({u"%LOCAMOUNT%", pref(P::locAmount)});
+        table.push_back({u"%LOCVATID%", pref(P::locVATID)});
+        table.push_back({u"%LOGO%", [this] { return r.logoValue(mode.onScreen); }});
+        // Quotes are not paid; reminders and invoices are.
+        table.push_back({u"%PAYMENTQR%", [this] {
+                             return invoice.integer(Invoice::kind) == 1 && !slip ? PaymentQr::svg(invoice, r.m_prefs)
+                                                                                  : QString();
+                         }});
+        return table;
+    }
+};
+
 QString PageRenderer::invoiceHTMLString(
     const Record *design, const Record &invoice, const QList<Record *> &items, const LetterMode &mode) const
 {
     if (!design || design->isNull(Design::invoice) || design->isNull(Design::css))
         return failureText();
-
-    const auto pref = [this](P::Key key) { return [this, key] { return m_prefs.string(key); }; };
-    // What a person typed as plain text prints as typed: "A<B" is no tag.
-    const auto typed = [&](int attr) { return [&, attr] { return Formatters::htmlTextFromPlainText(invoice.text(attr)); }; };
-    const auto money = [&](int attr) {
-        return
-            [&, attr] { return invoice.isNull(attr) ? QString() : m_formatters.stringFromNumber(invoice.num(attr)); };
-    };
-    const auto date = [&](int attr) {
-        return [&, attr] { return Numbering::getPatternDateStringFromDate(m_prefs, invoice.date(attr)); };
-    };
-    const bool reminder = mode.isReminderAction;
-    const bool slip = !reminder && mode.isSlipAction;
-    const LetterTexts *letter = reminder ? &mode.reminder : slip ? &mode.slip : nullptr;
-    const auto letterText = [&](QString LetterTexts::*field, int attr) {
-        return [&, field, attr] {
-            return letter ? Formatters::htmlLineBreakStringFromString(letter->*field) : invoice.text(attr);
-        };
-    };
-
-    Placeholders page(design->text(Design::invoice));
-    page.replace(u"%CSS%", design->text(Design::css));
-    page.replace(u"%COMPANY%", [&] { return Formatters::htmlTextFromPlainText(m_prefs.string(P::prefsName)); });
-    page.replace(u"%SLOGAN%", pref(P::prefsSlogan));
-    page.replace(u"%COMPANYCONTACT%",
-        [&] { return Formatters::htmlLineBreakStringFromString(m_prefs.string(P::prefsContact)); });
-    page.replace(u"%LETTERTITLE%",
-        [&] { return Formatters::htmlTextFromPlainText(letter ? letter->title : invoice.text(Invoice::title)); });
-    page.replace(u"%CLIENTADDRESS%", typed(Invoice::address));
-    // A design of its own without a place for the tax note gets it under the
-    // conditions: the law's sentences must reach the paper.
-    const bool noteInConditions = !page.contains(u"%TAXNOTE%");
-    const bool designShowsBuyerVatId = page.contains(u"%CLIENTVATID%");
-    page.replace(u"%TAXNOTE%", [&] { return taxNote(invoice, items, !designShowsBuyerVatId); });
-    page.replace(u"%CONDITIONS%", [&] {
-        const QString conditions = letterText(&LetterTexts::conditions, Invoice::conditions)();
-        if (!noteInConditions)
-            return conditions;
-        const QString note = taxNote(invoice, items, !designShowsBuyerVatId);
-        return note.isEmpty() ? conditions : conditions.isEmpty() ? note : conditions + QLatin1String("<br />") + note;
-    });
-    page.replace(u"%MISCELLANEOUS%", letterText(&LetterTexts::misc, Invoice::misc1));
-    page.replace(u"%FOOTER%", letterText(&LetterTexts::footer, Invoice::footer));
-    page.replace(u"%DISPATCHED%", typed(Invoice::dispatchNumber));
-    page.replace(u"%DATE%", date(Invoice::date));
-    page.replace(u"%DUEDATE%", date(slip ? Invoice::dispatched : Invoice::due));
-    page.replace(u"%NUMBER%", typed(Invoice::number));
-    page.replace(u"%CLIENTNUMBER%", typed(Invoice::clientNumber));
-    // A name put together from empty parts is only blanks: it greets no one.
-    page.replace(u"%CLIENTNAME%",
-                 [&] { return Formatters::htmlTextFromPlainText(invoice.text(Invoice::customerName).trimmed()); });
-    page.replace(u"%CLIENTVATID%", typed(Invoice::customerVATID));
-    page.replace(u"%LOCDATE%", pref(P::locDate));
-    const P::Key dueLabel = invoice.integer(Invoice::kind) == 0 ? P::locExpiration
-        : reminder                                              ? P::locOverdue
-        : slip                                                  ? P::locDispatched
-                                                                : P::locDue;
-    page.replace(u"%LOCDUE%", pref(dueLabel));
-    page.replace(u"%LOCNUMBER%", pref(P::locNumber));
-    page.replace(u"%LOCCLIENTNUMBER%", pref(P::locClientNumber));
-    page.replace(u"%LOCDISPATCHED%", pref(P::locDispatched));
-    page.replace(u"%CURRENCY%", typed(Invoice::currency));
-    page.replace(u"%SUBJECT%", typed(Invoice::subject));
-    page.replace(u"%SUBTOTAL%", money(Invoice::subAmount));
-    page.replace(u"%TOTAL%", money(Invoice::amount));
-    page.replace(u"%LOCSUBTOTAL%", pref(P::locSubtotal));
-    page.replace(u"%PAIDAMOUNT%", money(Invoice::paidAmount));
-
-    if (invoice.boolean(Invoice::isDiscountEnabled)) {
-        const bool isAmount = invoice.integer(Invoice::discountKind) == 0;
-        page.replace(u"%LOCDISCOUNT%", [&] {
-            const QString title = typed(Invoice::discountTitle)();
-            return invoice.boolean(Invoice::hasDiscountSubtitle) ? withSubtitle(title, typed(Invoice::discountSubtitle)())
-                                                                 : title;
-        });
-        page.replace(u"%DISCOUNTKINDCHAR%", isAmount ? QStringLiteral("-") : QStringLiteral("%"));
-        const auto percent = [&] {
-            if (invoice.isNull(Invoice::discountPercent))
-                return QString();
-            return m_formatters.decimalStringFromNumber(invoice.single(Invoice::discountPercent) * 100.0f);
-        };
-        page.replace(u"%DISCOUNT%", [&] { return isAmount ? money(Invoice::discountAmount)() : percent(); });
-        page.replace(u"%DISCOUNTPERCENT%", [&] { return isAmount ? QString() : percent(); });
-        // What was taken off, as the calculation took it.
-        page.replace(u"%DISCOUNTAMOUNT%", [&] {
-            return m_formatters.stringFromNumber(Calculator::discountShown(invoice, TaxSettings::from(m_prefs)));
-        });
-    } else {
-        for (QStringView placeholder : {u"%LOCDISCOUNT%", u"%DISCOUNTKINDCHAR%", u"%DISCOUNT%", u"%DISCOUNTPERCENT%",
-                                        u"%DISCOUNTAMOUNT%"})
-            page.replace(placeholder, QString());
-    }
-
-    if (invoice.boolean(Invoice::isShippingEnabled)) {
-        page.replace(u"%SHIPPING%", money(Invoice::shippingAmount));
-        page.replace(u"%LOCSHIPPING%", [&] {
-            const QString title = typed(Invoice::shippingTitle)();
-            return invoice.boolean(Invoice::hasShippingSubtitle) ? withSubtitle(title, typed(Invoice::shippingSubtitle)())
-                                                                 : title;
-        });
-    } else {
-        page.replace(u"%SHIPPING%", QString());
-        page.replace(u"%LOCSHIPPING%", QString());
-    }
-
-    page.replace(u"%LOCTOTAL%", pref(P::locTotal));
-
-    for (std::size_t k = 0; k < kPageTaxes.size(); ++k) {
-        const TaxFields &tax = kPageTaxes[k];
-        const bool enabled = m_prefs.boolean(tax.enabled) && taxUsed(invoice, items, int(k));
-        page.replace(tax.title,
-            [&] { return enabled ? Formatters::htmlTextFromPlainText(m_prefs.string(tax.titleKey)) : QString(); });
-        page.replace(tax.amount, [&] { return enabled ? money(tax.amountAttr)() : QString(); });
-        page.replace(tax.rate, [&] {
-            const double percent = invoice.num(tax.percentAttr) * 100.0;
-            if (!enabled || invoice.isNull(tax.percentAttr) || !std::isfinite(percent))
-                return QString();
-            return QString::asprintf("%.02f", percent);
-        });
-    }
-
-    page.replace(u"%ITEMSLIST%", [&] { return itemsList(design, invoice, items); });
-    for (const Label &label : kLateLabels)
-        page.replace(label.placeholder, pref(label.key));
-    for (std::size_t i = kFirstHeading; i < kHeadingsEnd; ++i)
-        page.replace(kRowLabels[i].placeholder, pref(kRowLabels[i].key));
-    // The line-amount column is headed by what it shows: net amounts when
-    // they are printed, else the line totals.
-    page.replace(u"%LOCLINEAMOUNT%", pref(m_prefs.boolean(P::showItemSubAmount) ? P::locNet : P::locAmount));
-    page.replace(u"%LOCAMOUNT%", pref(P::locAmount));
-    page.replace(u"%LOCVATID%", pref(P::locVATID));
-    page.replace(u"%LOGO%", [this, &mode] { return logoValue(mode.onScreen); });
-    // Quotes are not paid; reminders and invoices are.
-    page.replace(u"%PAYMENTQR%", [&] {
-        return invoice.integer(Invoice::kind) == 1 && !slip ? PaymentQr::svg(invoice, m_prefs) : QString();
-    });
-    return page.text();
+    PageFill fill {*this, *design, invoice, items, mode};
+    fill.apply(fill.letterhead());
+    fill.noteInConditions = !fill.page.contains(u"%TAXNOTE%");
+    fill.designShowsBuyerVatId = fill.page.contains(u"%CLIENTVATID%");
+    fill.apply(fill.conditions());
+    fill.apply(fill.documentFields());
+    fill.apply(fill.discount());
+    fill.apply(fill.shippingAndTaxes());
+    fill.apply(fill.itemsAndLabels());
+    return fill.page.text();
 }
+
+struct PageRenderer::RowSettings
+{
+    bool useSKU = false;
+    bool showSubAmount = false;
+    bool showTaxAmounts = false;
+    bool toTheCent = false;
+    std::array<QString, kRowLabels.size()> labels;
+    QString currency;
+};
 
 QString PageRenderer::itemsList(const Record *design, const Record &invoice, const QList<Record *> &items) const
 {
@@ -279,18 +367,14 @@ QString PageRenderer::itemsList(const Record *design, const Record &invoice, con
     if (!design || design->isNull(Design::item))
         return failureText();
     const Placeholders rowTemplate(design->text(Design::item));
-
-    const bool useSKU = m_prefs.boolean(P::tempUseSKU);
-    const bool showSubAmount = m_prefs.boolean(P::showItemSubAmount);
-    const bool showTaxAmounts = m_prefs.boolean(P::showSingleTaxAmounts);
-    std::array<QString, kRowLabels.size()> labels;
+    RowSettings settings;
+    settings.useSKU = m_prefs.boolean(P::tempUseSKU);
+    settings.showSubAmount = m_prefs.boolean(P::showItemSubAmount);
+    settings.showTaxAmounts = m_prefs.boolean(P::showSingleTaxAmounts);
+    settings.toTheCent = invoice.boolean(Invoice::centExactTotals);
     for (std::size_t i = 0; i < kRowLabels.size(); ++i)
-        labels[i] = m_prefs.string(kRowLabels[i].key);
-    // A row knows no discount kind.
-    const QString discountKindChar = QStringLiteral("%");
-    const QString currency = Formatters::htmlTextFromPlainText(invoice.text(Invoice::currency));
-    const bool toTheCent = invoice.boolean(Invoice::centExactTotals);
-
+        settings.labels[i] = m_prefs.string(kRowLabels[i].key);
+    settings.currency = Formatters::htmlTextFromPlainText(invoice.text(Invoice::currency));
     QString list;
     // Rows grow by their values; one reservation keeps appending linear.
     list.reserve(items.size() * (rowTemplate.text().size() + 256));
@@ -298,68 +382,67 @@ QString PageRenderer::itemsList(const Record *design, const Record &invoice, con
     for (const Record *item : items) {
         if (!item)
             continue;
-        const auto money = [&](int attr) {
-            return
-                [&, attr] { return item->isNull(attr) ? QString() : m_formatters.stringFromNumber(item->num(attr)); };
-        };
-        const auto decimal = [&](int attr) {
-            return [&, attr] {
-                return item->isNull(attr) ? QString() : m_formatters.decimalStringFromNumber(item->num(attr));
-            };
-        };
-        Placeholders row = rowTemplate;
-        row.replace(u"%ITEMNUMBER%", [&] { return m_formatters.decimalStringFromNumber(number); });
-        row.replace(u"%ITEMSQUANTITY%", decimal(Item::unitCount));
-        const auto typed = [&](int attr) {
-            return [&, attr] { return Formatters::htmlTextFromPlainText(item->text(attr)); };
-        };
-        row.replace(u"%ITEMSUNIT%", typed(Item::unit));
-        // Calculated to the cent, the price counts as typed, to four decimals.
-        row.replace(u"%ITEMSBASEAMOUNT%", [&] {
-            if (item->isNull(Item::baseAmount))
-                return QString();
-            return m_formatters.stringFromNumber(item->num(Item::baseAmount), toTheCent ? 4 : 2);
-        });
-        row.replace(u"%ITEMSSKU%", [&] { return useSKU ? typed(Item::sku)() : QString(); });
-        row.replace(u"%ITEMSSUBAMOUNT%", [&] { return showSubAmount ? money(Item::subAmount)() : QString(); });
-        row.replace(u"%ITEMSTITLE%", typed(Item::title));
-        row.replace(u"%ITEMSSUBTITLE%", typed(Item::subtitle));
-        row.replace(u"%ITEMSAMOUNT%", money(Item::amount));
-
-        for (const ItemTaxFields &tax : kRowTaxes) {
-            if (!item->boolean(tax.applied)) {
-                row.replace(tax.title, QString());
-                row.replace(tax.percent, QString());
-                row.replace(tax.amount, QString());
-                continue;
-            }
-            // Single precision and only the first applied tax: printed
-            // prices of old designs must not change.
-            row.replace(kGrossPrice, [&] {
-                if (item->isNull(Item::baseAmount))
-                    return QString();
-                const float base = item->single(Item::baseAmount);
-                const float gross = base + base * item->single(tax.percentAttr);
-                return m_formatters.stringFromNumber(gross);
-            });
-            row.replace(tax.title, typed(tax.titleAttr));
-            row.replace(tax.percent, [&] {
-                if (item->isNull(tax.percentAttr))
-                    return QString();
-                return m_formatters.decimalStringFromNumber(item->single(tax.percentAttr) * 100.0f);
-            });
-            row.replace(tax.amount, [&] { return showTaxAmounts ? money(tax.amountAttr)() : QString(); });
-        }
-
-        row.replace(kRowLabels[0].placeholder, labels[0]);
-        row.replace(u"%DISCOUNTKINDCHAR%", discountKindChar);
-        for (std::size_t i = 1; i < kRowLabels.size(); ++i)
-            row.replace(kRowLabels[i].placeholder, labels[i]);
-        row.replace(u"%CURRENCY%", currency);
-        list += row.text();
+        list += row(rowTemplate, *item, number, settings);
         ++number;
     }
     return list;
+}
+
+
+QString PageRenderer::row(const Placeholders &rowTemplate, const Record &item, int number,
+                          const RowSettings &settings) const
+{
+    const auto money = [&](int attr) {
+        return [&, attr] { return item.isNull(attr) ? QString() : m_formatters.stringFromNumber(item.num(attr)); };
+    };
+    const auto typed = [&](int attr) { return [&, attr] { return Formatters::htmlTextFromPlainText(item.text(attr)); }; };
+    Placeholders row = rowTemplate;
+    row.replace(u"%ITEMNUMBER%", [&] { return m_formatters.decimalStringFromNumber(number); });
+    row.replace(u"%ITEMSQUANTITY%", [&] {
+        return item.isNull(Item::unitCount) ? QString() : m_formatters.decimalStringFromNumber(item.num(Item::unitCount));
+    });
+    row.replace(u"%ITEMSUNIT%", typed(Item::unit));
+    // Calculated to the cent, the price counts as typed, to four decimals.
+    row.replace(u"%ITEMSBASEAMOUNT%", [&] {
+        if (item.isNull(Item::baseAmount))
+            return QString();
+        return m_formatters.stringFromNumber(item.num(Item::baseAmount), settings.toTheCent ? 4 : 2);
+    });
+    row.replace(u"%ITEMSSKU%", [&] { return settings.useSKU ? typed(Item::sku)() : QString(); });
+    row.replace(u"%ITEMSSUBAMOUNT%", [&] { return settings.showSubAmount ? money(Item::subAmount)() : QString(); });
+    row.replace(u"%ITEMSTITLE%", typed(Item::title));
+    row.replace(u"%ITEMSSUBTITLE%", typed(Item::subtitle));
+    row.replace(u"%ITEMSAMOUNT%", money(Item::amount));
+    for (const ItemTaxFields &tax : kRowTaxes) {
+        if (!item.boolean(tax.applied)) {
+            row.replace(tax.title, QString());
+            row.replace(tax.percent, QString());
+            row.replace(tax.amount, QString());
+            continue;
+        }
+        // Single precision and only the first applied tax: printed
+        // prices of old designs must not change.
+        row.replace(kGrossPrice, [&] {
+            if (item.isNull(Item::baseAmount))
+                return QString();
+            const float base = item.single(Item::baseAmount);
+            return m_formatters.stringFromNumber(base + base * item.single(tax.percentAttr));
+        });
+        row.replace(tax.title, typed(tax.titleAttr));
+        row.replace(tax.percent, [&] {
+            if (item.isNull(tax.percentAttr))
+                return QString();
+            return m_formatters.decimalStringFromNumber(item.single(tax.percentAttr) * 100.0f);
+        });
+        row.replace(tax.amount, [&] { return settings.showTaxAmounts ? money(tax.amountAttr)() : QString(); });
+    }
+    row.replace(kRowLabels[0].placeholder, settings.labels[0]);
+    // A row knows no discount kind.
+    row.replace(u"%DISCOUNTKINDCHAR%", QStringLiteral("%"));
+    for (std::size_t i = 1; i < kRowLabels.size(); ++i)
+        row.replace(kRowLabels[i].placeholder, settings.labels[i]);
+    row.replace(u"%CURRENCY%", settings.currency);
+    return row.text();
 }
 
 bool PageRenderer::taxUsed(const Record &invoice, const QList<Record *> &items, int tax)

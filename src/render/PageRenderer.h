@@ -49,6 +49,8 @@ struct RenderRequest
 // Fills a design's page and row templates with a document. Keeps no state
 // between calls; the same code renders real documents and the sample
 // document of the design preview.
+class Placeholders;
+
 class PageRenderer
 {
 public:
@@ -83,6 +85,12 @@ public:
     int itemsListCalls() const { return m_itemsListCalls; }
 
 private:
+    // One page's placeholders and their values, in sections.
+    struct PageFill;
+    // What every row of one page shares, read once.
+    struct RowSettings;
+    QString row(const Placeholders &rowTemplate, const Record &item, int number, const RowSettings &settings) const;
+
     const Preferences &m_prefs;
     const Formatters &m_formatters;
     mutable int m_itemsListCalls = 0;
