@@ -1,16 +1,18 @@
 #pragma once
 
-#include "base/Error.h"
+#include "base/Result.h"
 #include "domain/EntityModel.h"
 #include "domain/RecordOwner.h"
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 struct sqlite3;
@@ -134,10 +136,21 @@ private:
     static constexpr int kJournalLength = 20000;
     void refresh();
     bool refreshChanged(const ChangeMark &now);
+    // The rows the journal names since this process last read it, by entity.
+    std::optional<QHash<int, QList<qint64>>> journalRows(const ChangeMark &now);
+    bool rereadRows(EntityId entity, const QList<qint64> &ids, QSet<Record *> &owners);
+    // The loaded owners (by the to-one keys `fks`) whose to-many lists must be read again.
+    void noteOwners(const EntityDesc &desc, const qint64 *fks, QSet<Record *> &owners) const;
     void rereadLists(Record *owner);
     void rescanEntity(EntityId entity);
     Error assignNewIds();
     Error damagedError() const;
+    // The steps of open(): the file is looked at before SQLite opens it, and
+    // read before anything is written to it.
+    Error checkFile(bool *exists) const;
+    Error connect(bool create);
+    Result<int> readVersion();
+    Error bringUpToDate(int version);
     QList<Record *> *loadToMany(const Record *owner, int rel) override;
     void noteChanged(Record *record) override;
     Record *adopt(EntityId entity, qint64 id, bool *created);
