@@ -1,8 +1,8 @@
-#include "gui/AccountingExportSheet.h"
-#include "gui/FileMenu.h"
-#include "gui/GuiInteraction.h"
-#include "gui/MainWindow.h"
-#include "gui/PdfPane.h"
+#include "gui/windows/AccountingExportSheet.h"
+#include "gui/main/FileMenu.h"
+#include "gui/widgets/GuiInteraction.h"
+#include "gui/main/MainWindow.h"
+#include "gui/windows/PdfPane.h"
 #include "TestSupport.h"
 #include "WindowFixture.h"
 

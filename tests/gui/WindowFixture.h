@@ -1,8 +1,8 @@
 #pragma once
 
 #include "CommandSupport.h"
-#include "gui/GuiInteraction.h"
-#include "gui/MainWindow.h"
+#include "gui/widgets/GuiInteraction.h"
+#include "gui/main/MainWindow.h"
 
 #include "app/AppController.h"
 #include "prefs/Preferences.h"

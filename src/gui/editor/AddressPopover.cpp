@@ -1,12 +1,12 @@
-#include "gui/AddressPopover.h"
+#include "gui/editor/AddressPopover.h"
 
 #include "app/AppController.h"
 #include "app/DocumentCommands.h"
 #include "app/Interaction.h"
 #include "domain/Contacts.h"
 #include "domain/Record.h"
-#include "gui/ContactsTab.h"
-#include "gui/PlainTextField.h"
+#include "gui/editor/ContactsTab.h"
+#include "gui/widgets/PlainTextField.h"
 #include "prefs/Preferences.h"
 
 #include <QFormLayout>

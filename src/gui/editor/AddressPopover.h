@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "gui/Popover.h"
+#include "gui/editor/Popover.h"
 
 class QLineEdit;
 class QPushButton;

@@ -1,9 +1,9 @@
-#include "gui/ClientPage.h"
+#include "gui/editor/ClientPage.h"
 
 #include "domain/Record.h"
-#include "gui/AddressPopover.h"
-#include "gui/FieldBinder.h"
-#include "gui/PlainTextField.h"
+#include "gui/editor/AddressPopover.h"
+#include "gui/widgets/FieldBinder.h"
+#include "gui/widgets/PlainTextField.h"
 
 #include <QGridLayout>
 #include <QLabel>

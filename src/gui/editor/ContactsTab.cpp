@@ -1,4 +1,4 @@
-#include "gui/ContactsTab.h"
+#include "gui/editor/ContactsTab.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>

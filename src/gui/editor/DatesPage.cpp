@@ -1,9 +1,9 @@
-#include "gui/DatesPage.h"
+#include "gui/editor/DatesPage.h"
 
 #include "app/AppController.h"
 #include "domain/Record.h"
-#include "gui/FieldBinder.h"
-#include "gui/HintLabel.h"
+#include "gui/widgets/FieldBinder.h"
+#include "gui/widgets/HintLabel.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,8 +1,8 @@
-#include "gui/DiscountPopover.h"
+#include "gui/editor/DiscountPopover.h"
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
-#include "gui/HintLabel.h"
+#include "gui/widgets/HintLabel.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/Popover.h"
+#include "gui/editor/Popover.h"
 
 class QCheckBox;
 class QLineEdit;

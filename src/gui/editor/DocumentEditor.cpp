@@ -1,12 +1,12 @@
-#include "gui/DocumentEditor.h"
+#include "gui/editor/DocumentEditor.h"
 
 #include "app/AppController.h"
 #include "domain/Record.h"
-#include "gui/ClientPage.h"
-#include "gui/DatesPage.h"
-#include "gui/DocumentHeader.h"
-#include "gui/ItemsPage.h"
-#include "gui/TextsPage.h"
+#include "gui/editor/ClientPage.h"
+#include "gui/editor/DatesPage.h"
+#include "gui/editor/DocumentHeader.h"
+#include "gui/editor/ItemsPage.h"
+#include "gui/editor/TextsPage.h"
 
 #include <QLabel>
 #include <QStackedWidget>

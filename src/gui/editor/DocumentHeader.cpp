@@ -1,8 +1,8 @@
-#include "gui/DocumentHeader.h"
+#include "gui/editor/DocumentHeader.h"
 
 #include "domain/Record.h"
-#include "gui/DocumentTableModel.h"
-#include "gui/Formats.h"
+#include "gui/main/DocumentTableModel.h"
+#include "gui/widgets/Formats.h"
 
 #include <QGridLayout>
 #include <QLabel>

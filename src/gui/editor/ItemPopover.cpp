@@ -1,11 +1,11 @@
-#include "gui/ItemPopover.h"
+#include "gui/editor/ItemPopover.h"
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
 #include "domain/UnitCodes.h"
-#include "gui/Formats.h"
-#include "gui/HintLabel.h"
+#include "gui/widgets/Formats.h"
+#include "gui/widgets/HintLabel.h"
 #include "prefs/Preferences.h"
 
 #include <QCheckBox>

@@ -1,9 +1,9 @@
-#include "gui/ItemTableModel.h"
+#include "gui/editor/ItemTableModel.h"
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
-#include "gui/Formats.h"
+#include "gui/widgets/Formats.h"
 
 #include <QTimer>
 

@@ -1,15 +1,15 @@
-#include "gui/ItemsPage.h"
+#include "gui/editor/ItemsPage.h"
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
-#include "gui/DiscountPopover.h"
-#include "gui/HintLabel.h"
-#include "gui/ItemPopover.h"
-#include "gui/ItemTableModel.h"
-#include "gui/ShippingPopover.h"
-#include "gui/TemplatePopover.h"
-#include "gui/TotalsPanel.h"
+#include "gui/editor/DiscountPopover.h"
+#include "gui/widgets/HintLabel.h"
+#include "gui/editor/ItemPopover.h"
+#include "gui/editor/ItemTableModel.h"
+#include "gui/editor/ShippingPopover.h"
+#include "gui/editor/TemplatePopover.h"
+#include "gui/editor/TotalsPanel.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

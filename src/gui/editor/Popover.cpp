@@ -1,4 +1,4 @@
-#include "gui/Popover.h"
+#include "gui/editor/Popover.h"
 
 #include <QScreen>
 

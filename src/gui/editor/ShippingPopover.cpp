@@ -1,10 +1,10 @@
-#include "gui/ShippingPopover.h"
+#include "gui/editor/ShippingPopover.h"
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
-#include "gui/Formats.h"
-#include "gui/HintLabel.h"
+#include "gui/widgets/Formats.h"
+#include "gui/widgets/HintLabel.h"
 #include "prefs/Preferences.h"
 
 #include <QCheckBox>

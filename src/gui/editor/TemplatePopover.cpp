@@ -1,11 +1,11 @@
-#include "gui/TemplatePopover.h"
+#include "gui/editor/TemplatePopover.h"
 
 #include "app/AppController.h"
 #include "app/Interaction.h"
 #include "app/TemplateCommands.h"
 #include "domain/Record.h"
-#include "gui/HintLabel.h"
-#include "gui/PlainTextField.h"
+#include "gui/widgets/HintLabel.h"
+#include "gui/widgets/PlainTextField.h"
 #include "prefs/Preferences.h"
 
 #include <QCheckBox>

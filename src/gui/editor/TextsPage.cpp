@@ -1,8 +1,8 @@
-#include "gui/TextsPage.h"
+#include "gui/editor/TextsPage.h"
 
 #include "domain/Record.h"
-#include "gui/FieldBinder.h"
-#include "gui/PlainTextField.h"
+#include "gui/widgets/FieldBinder.h"
+#include "gui/widgets/PlainTextField.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,7 +1,7 @@
-#include "gui/TotalsPanel.h"
+#include "gui/editor/TotalsPanel.h"
 
 #include "domain/Record.h"
-#include "gui/Formats.h"
+#include "gui/widgets/Formats.h"
 #include "prefs/Preferences.h"
 
 #include <QFrame>

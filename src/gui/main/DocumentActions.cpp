@@ -1,10 +1,10 @@
-#include "gui/DocumentActions.h"
+#include "gui/main/DocumentActions.h"
 
 #include "app/AppController.h"
 #include "app/DocumentCommands.h"
 #include "domain/Record.h"
-#include "gui/DocumentEditor.h"
-#include "gui/ItemsPage.h"
+#include "gui/editor/DocumentEditor.h"
+#include "gui/editor/ItemsPage.h"
 
 #include <QAction>
 #include <QIcon>

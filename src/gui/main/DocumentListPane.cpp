@@ -1,8 +1,8 @@
-#include "gui/DocumentListPane.h"
+#include "gui/main/DocumentListPane.h"
 
 #include "app/AppController.h"
 #include "domain/Record.h"
-#include "gui/DocumentTableModel.h"
+#include "gui/main/DocumentTableModel.h"
 
 #include <QHeaderView>
 #include <QLabel>

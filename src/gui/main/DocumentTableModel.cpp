@@ -1,10 +1,10 @@
-#include "gui/DocumentTableModel.h"
+#include "gui/main/DocumentTableModel.h"
 
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
 #include "domain/Contacts.h"
 #include "domain/Record.h"
-#include "gui/Formats.h"
+#include "gui/widgets/Formats.h"
 #include "render/Formatters.h"
 
 #include <QCollator>

@@ -1,13 +1,13 @@
-#include "gui/FileMenu.h"
+#include "gui/main/FileMenu.h"
 
 #include "app/AppController.h"
 #include "app/BackupCommands.h"
 #include "app/EInvoiceCommands.h"
 #include "app/FileCommands.h"
 #include "domain/Record.h"
-#include "gui/AccountingExportSheet.h"
-#include "gui/DocumentEditor.h"
-#include "gui/PdfPane.h"
+#include "gui/windows/AccountingExportSheet.h"
+#include "gui/editor/DocumentEditor.h"
+#include "gui/windows/PdfPane.h"
 #include "prefs/Preferences.h"
 
 #include <QAction>

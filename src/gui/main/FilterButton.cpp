@@ -1,8 +1,8 @@
-#include "gui/FilterButton.h"
+#include "gui/main/FilterButton.h"
 
 #include "app/AppController.h"
-#include "gui/FilterPopover.h"
-#include "gui/Icons.h"
+#include "gui/main/FilterPopover.h"
+#include "gui/widgets/Icons.h"
 
 namespace tabo {
 

@@ -1,4 +1,4 @@
-#include "gui/FilterPopover.h"
+#include "gui/main/FilterPopover.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>

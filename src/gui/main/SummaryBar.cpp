@@ -1,4 +1,4 @@
-#include "gui/SummaryBar.h"
+#include "gui/main/SummaryBar.h"
 
 #include "app/AppController.h"
 

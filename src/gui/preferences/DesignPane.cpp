@@ -1,4 +1,4 @@
-#include "gui/DesignPane.h"
+#include "gui/preferences/DesignPane.h"
 
 #include "app/AppController.h"
 #include "app/DesignLibrary.h"
@@ -6,8 +6,8 @@
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
 #include "editing/SyntaxColorizer.h"
-#include "gui/HintLabel.h"
-#include "gui/PdfPane.h"
+#include "gui/widgets/HintLabel.h"
+#include "gui/windows/PdfPane.h"
 #include "prefs/Preferences.h"
 
 #include <QFontDatabase>

@@ -1,4 +1,4 @@
-#include "gui/FirstStartAssistant.h"
+#include "gui/preferences/FirstStartAssistant.h"
 
 #include "app/AppController.h"
 #include "prefs/Preferences.h"

@@ -1,8 +1,8 @@
-#include "gui/LogoWell.h"
+#include "gui/preferences/LogoWell.h"
 
 #include "app/AppController.h"
 #include "app/Interaction.h"
-#include "gui/HintLabel.h"
+#include "gui/widgets/HintLabel.h"
 #include "prefs/Preferences.h"
 
 #include <QDragEnterEvent>

@@ -1,10 +1,10 @@
-#include "gui/PrefsBinder.h"
+#include "gui/preferences/PrefsBinder.h"
 
 #include "app/ItemCommands.h"
 #include "domain/Numbering.h"
 #include "domain/PrefRules.h"
-#include "gui/HintLabel.h"
-#include "gui/PlainTextField.h"
+#include "gui/widgets/HintLabel.h"
+#include "gui/widgets/PlainTextField.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,12 +1,12 @@
-#include "gui/FieldBinder.h"
+#include "gui/widgets/FieldBinder.h"
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
 #include "base/Clock.h"
 #include "domain/Record.h"
-#include "gui/Formats.h"
-#include "gui/HintLabel.h"
-#include "gui/PlainTextField.h"
+#include "gui/widgets/Formats.h"
+#include "gui/widgets/HintLabel.h"
+#include "gui/widgets/PlainTextField.h"
 
 #include <QCalendarWidget>
 #include <QCheckBox>

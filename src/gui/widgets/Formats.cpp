@@ -1,4 +1,4 @@
-#include "gui/Formats.h"
+#include "gui/widgets/Formats.h"
 
 #include "base/Date.h"
 

@@ -1,4 +1,4 @@
-#include "gui/GuiInteraction.h"
+#include "gui/widgets/GuiInteraction.h"
 
 #include <QDesktopServices>
 #include <QFileDialog>

@@ -1,4 +1,4 @@
-#include "gui/HintLabel.h"
+#include "gui/widgets/HintLabel.h"
 
 namespace tabo {
 

@@ -1,4 +1,4 @@
-#include "gui/Icons.h"
+#include "gui/widgets/Icons.h"
 
 #include <QFont>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "gui/PlainTextField.h"
+#include "gui/widgets/PlainTextField.h"
 
 #include <QMimeData>
 #include <QTextDocument>

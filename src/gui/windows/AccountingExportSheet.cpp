@@ -1,8 +1,8 @@
-#include "gui/AccountingExportSheet.h"
+#include "gui/windows/AccountingExportSheet.h"
 
 #include "app/AccountingExport.h"
 #include "app/AppController.h"
-#include "gui/Formats.h"
+#include "gui/widgets/Formats.h"
 #include "prefs/Preferences.h"
 
 #include <QComboBox>

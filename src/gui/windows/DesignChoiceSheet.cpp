@@ -1,10 +1,10 @@
-#include "gui/DesignChoiceSheet.h"
+#include "gui/windows/DesignChoiceSheet.h"
 
 #include "app/AppController.h"
 #include "app/DesignLibrary.h"
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
-#include "gui/PdfPane.h"
+#include "gui/windows/PdfPane.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

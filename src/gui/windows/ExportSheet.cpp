@@ -1,10 +1,10 @@
-#include "gui/ExportSheet.h"
+#include "gui/windows/ExportSheet.h"
 
 #include "app/AppController.h"
 #include "app/EInvoiceCommands.h"
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
-#include "gui/PdfPane.h"
+#include "gui/windows/PdfPane.h"
 #include "prefs/Preferences.h"
 
 #include <QComboBox>

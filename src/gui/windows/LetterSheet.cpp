@@ -1,8 +1,8 @@
-#include "gui/LetterSheet.h"
+#include "gui/windows/LetterSheet.h"
 
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
-#include "gui/PreviewWindow.h"
+#include "gui/windows/PreviewWindow.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

@@ -1,8 +1,8 @@
-#include "gui/NotificationSheet.h"
+#include "gui/windows/NotificationSheet.h"
 
 #include "app/AppController.h"
 #include "app/NotificationCommands.h"
-#include "gui/Formats.h"
+#include "gui/widgets/Formats.h"
 
 #include <QDateTimeEdit>
 #include <QDialogButtonBox>

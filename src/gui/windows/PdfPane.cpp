@@ -1,4 +1,4 @@
-#include "gui/PdfPane.h"
+#include "gui/windows/PdfPane.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,10 +1,10 @@
-#include "gui/PreviewWindow.h"
+#include "gui/windows/PreviewWindow.h"
 
 #include "app/AppController.h"
 #include "app/DesignLibrary.h"
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
-#include "gui/PdfPane.h"
+#include "gui/windows/PdfPane.h"
 
 #include <QAction>
 #include <QGuiApplication>

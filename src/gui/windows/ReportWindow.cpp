@@ -1,9 +1,9 @@
-#include "gui/ReportWindow.h"
+#include "gui/windows/ReportWindow.h"
 
 #include "app/AppController.h"
 #include "app/ReportCommands.h"
-#include "gui/Formats.h"
-#include "gui/PdfPane.h"
+#include "gui/widgets/Formats.h"
+#include "gui/windows/PdfPane.h"
 #include "prefs/Preferences.h"
 
 #include <QCheckBox>
