@@ -6,6 +6,7 @@
 #include "app/OutputCommands.h"
 #include "app/UndoHistory.h"
 #include "domain/Record.h"
+#include "gui/widgets/ScreenFit.h"
 #include "gui/windows/CatalogueWindow.h"
 #include "gui/windows/DesignChoiceSheet.h"
 #include "gui/main/DocumentActions.h"
@@ -22,6 +23,7 @@
 #include "gui/windows/PreviewWindow.h"
 #include "gui/windows/ReportWindow.h"
 #include "gui/main/SummaryBar.h"
+#include "gui/widgets/Keys.h"
 #include "prefs/Preferences.h"
 
 #include <QAction>
@@ -53,7 +55,7 @@ MainWindow::MainWindow(AppController &app, QWidget *parent)
     , m_app(app)
 {
     setWindowTitle(QStringLiteral("Tabo"));
-    resize(1280, 800);
+    ScreenFit::resize(this, QSize(1280, 800));
 
     auto *central = new QWidget(this);
     auto *layout = new QVBoxLayout(central);
@@ -135,7 +137,7 @@ void MainWindow::createActions()
     undo->setShortcut(QKeySequence::Undo);
     QAction *redo = m_app.undo().stack().createRedoAction(this, tr("Redo"));
     redo->setObjectName(QStringLiteral("actionRedo"));
-    redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence::Redo});
+    redo->setShortcuts(keysWith({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)}, QKeySequence::Redo));
     edit->addAction(undo);
     edit->addAction(redo);
     edit->addSeparator();

@@ -14,9 +14,12 @@
 #include "gui/preferences/LogoWell.h"
 #include "gui/widgets/PlainTextField.h"
 #include "gui/preferences/PrefsBinder.h"
+#include "gui/widgets/Keys.h"
+#include "gui/widgets/ScreenFit.h"
 #include "base/Clock.h"
 #include "prefs/Locations.h"
 
+#include <QScrollArea>
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
@@ -122,7 +125,20 @@ QVPreferencePanel::QVPreferencePanel(AppController &app, FileMenu *fileMenu, QWi
     m_toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     m_toolbar->setIconSize(QSize(32, 32));
     addToolBar(m_toolbar);
-    setCentralWidget(m_holder);
+    // A pane taller than a small screen scrolls instead of pushing the
+    // window past it.
+    auto *scroll = new QScrollArea;
+    scroll->setObjectName(QStringLiteral("preferencesScroll"));
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(m_holder);
+    setCentralWidget(scroll);
+    auto *close = new QAction(tr("Close"), this);
+    close->setObjectName(QStringLiteral("preferencesClose"));
+    close->setShortcuts(
+        keysWith({QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape)}, QKeySequence::Close));
+    connect(close, &QAction::triggered, this, &QWidget::close);
+    addAction(close);
     m_holderLayout->setContentsMargins(16, 12, 16, 16);
 
     for (int i = 0; i < PaneCount; ++i) {
@@ -201,14 +217,15 @@ void QVPreferencePanel::selectPane(Pane pane)
     view->show();
     if (pane == Design)
         m_designPane->paneShown();
-    // The window takes the new pane's size, within the screen.
-    const QSize hint = view->sizeHint().expandedTo(view->minimumSizeHint())
-        + QSize(32, 28 + m_toolbar->sizeHint().height());
-    QSize size = hint.expandedTo(QSize(560, 0));
-    if (const QScreen *s = screen())
-        size = size.boundedTo(s->availableSize());
-    setMinimumSize(0, 0);
-    resize(size);
+    // One size for every pane, the largest one's within the screen: a window
+    // that changes size under the pointer loses the place of the toolbar.
+    if (!m_sized) {
+        QSize largest(560, 0);
+        for (const QWidget *each : std::as_const(m_panes))
+            largest = largest.expandedTo(each->sizeHint().expandedTo(each->minimumSizeHint()));
+        ScreenFit::resize(this, largest + QSize(32, 28 + m_toolbar->sizeHint().height()));
+        m_sized = true;
+    }
 }
 
 QWidget *QVPreferencePanel::createCompanyPane()

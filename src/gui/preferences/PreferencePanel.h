@@ -71,6 +71,7 @@ private:
     QList<QWidget *> m_panes;
     QWidget *m_holder;
     QVBoxLayout *m_holderLayout;
+    bool m_sized = false; // the one size is set on the first pane shown
     DesignPane *m_designPane = nullptr;
     LogoWell *m_logo = nullptr;
     QLabel *m_dateExample = nullptr;

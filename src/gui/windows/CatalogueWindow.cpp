@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
+#include "gui/widgets/ScreenFit.h"
 #include "gui/widgets/Formats.h"
 #include "gui/widgets/HintLabel.h"
 #include "prefs/Preferences.h"
@@ -75,7 +76,7 @@ CatalogueWindow::CatalogueWindow(AppController &app, QWidget *parent)
     layout->addWidget(m_table, 1);
     layout->addWidget(hint);
     layout->addWidget(buttons);
-    resize(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 60, fontMetrics().height() * 28);
+    ScreenFit::resize(this, QSize(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 60, fontMetrics().height() * 28));
     reload();
 }
 

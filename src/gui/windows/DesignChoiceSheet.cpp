@@ -4,6 +4,7 @@
 #include "app/DesignLibrary.h"
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
+#include "gui/widgets/ScreenFit.h"
 #include "gui/windows/PdfPane.h"
 
 #include <QDialogButtonBox>
@@ -42,7 +43,7 @@ DesignChoiceSheet::DesignChoiceSheet(AppController &app, QWidget *parent)
     spinnerLayout->addStretch();
     m_pages->addWidget(spinnerPage);
     m_pages->addWidget(m_pane);
-    m_pane->setMinimumSize(460, 560);
+    m_pane->setMinimumSize(360, 240);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     m_ok = buttons->button(QDialogButtonBox::Ok);
@@ -55,7 +56,7 @@ DesignChoiceSheet::DesignChoiceSheet(AppController &app, QWidget *parent)
     layout->addWidget(heading);
     layout->addLayout(row, 1);
     layout->addWidget(buttons);
-    resize(760, 760);
+    ScreenFit::resize(this, QSize(760, 760));
 
     connect(buttons, &QDialogButtonBox::accepted, this, &DesignChoiceSheet::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &DesignChoiceSheet::reject);

@@ -4,6 +4,7 @@
 #include "app/EInvoiceCommands.h"
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
+#include "gui/widgets/ScreenFit.h"
 #include "gui/windows/PdfPane.h"
 #include "prefs/Preferences.h"
 
@@ -50,7 +51,7 @@ ExportSheet::ExportSheet(AppController &app, QWidget *parent)
     bold.setBold(true);
     m_title->setFont(bold);
     m_title->setObjectName(QStringLiteral("sheetLabel"));
-    m_pane->setMinimumSize(520, 560);
+    m_pane->setMinimumSize(360, 240);
     m_busy->setObjectName(QStringLiteral("exportBusy"));
     m_busy->setRange(0, 0);
     m_busy->setTextVisible(false);
@@ -76,7 +77,7 @@ ExportSheet::ExportSheet(AppController &app, QWidget *parent)
     layout->addWidget(m_title);
     layout->addWidget(m_pane, 1);
     layout->addLayout(bottom);
-    resize(640, 820);
+    ScreenFit::resize(this, QSize(640, 820));
 
     connect(buttons, &QDialogButtonBox::accepted, this, &ExportSheet::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ExportSheet::reject);

@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/OutputCommands.h"
+#include "gui/widgets/ScreenFit.h"
 #include "gui/windows/PreviewWindow.h"
 
 #include <QDialogButtonBox>
@@ -45,7 +46,7 @@ LetterSheet::LetterSheet(AppController &app, PreviewWindow *preview, QWidget *pa
     layout->addWidget(m_heading);
     layout->addLayout(form);
     layout->addWidget(buttons);
-    resize(560, 480);
+    ScreenFit::resize(this, QSize(560, 480));
 
     connect(buttons, &QDialogButtonBox::accepted, this, &LetterSheet::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &LetterSheet::reject);

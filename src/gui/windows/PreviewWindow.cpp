@@ -4,7 +4,9 @@
 #include "app/DesignLibrary.h"
 #include "app/OutputCommands.h"
 #include "domain/Record.h"
+#include "gui/widgets/ScreenFit.h"
 #include "gui/windows/PdfPane.h"
+#include "gui/widgets/Keys.h"
 
 #include <QAction>
 #include <QGuiApplication>
@@ -31,7 +33,7 @@ PreviewWindow::PreviewWindow(AppController &app, QWidget *parent)
     m_pages->addWidget(m_pane);
     m_pages->addWidget(createNoDesignPage());
     setCentralWidget(m_pages);
-    resize(880, 1000);
+    ScreenFit::resize(this, QSize(880, 1000));
 
     QToolBar *bar = addToolBar(tr("Preview"));
     bar->setObjectName(QStringLiteral("previewToolBar"));
@@ -53,7 +55,7 @@ PreviewWindow::PreviewWindow(AppController &app, QWidget *parent)
     bar->addActions({ m_reminder, m_slip });
 
     auto *close = new QAction(tr("Close"), this);
-    close->setShortcuts({ QKeySequence::Close, QKeySequence(Qt::Key_Escape) });
+    close->setShortcuts(keysWith({ QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape) }, QKeySequence::Close));
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);
 
@@ -205,10 +207,10 @@ void PreviewWindow::updateCommands()
 
 void PreviewWindow::centreAndShow()
 {
+    ScreenFit::resize(this, size());
     const QScreen *screen = parentWidget() ? parentWidget()->screen() : QGuiApplication::primaryScreen();
-    const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1280, 900);
-    resize(size().boundedTo(area.size() - QSize(40, 40)));
-    move(area.center() - rect().center());
+    if (screen)
+        move(screen->availableGeometry().center() - rect().center());
     show();
     raise();
     activateWindow();

@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/ReportCommands.h"
+#include "gui/widgets/ScreenFit.h"
 #include "gui/widgets/Formats.h"
 #include "gui/windows/PdfPane.h"
 #include "prefs/Preferences.h"
@@ -54,7 +55,7 @@ ReportWindow::ReportWindow(AppController &app, QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(bar);
     layout->addWidget(m_view, 1);
-    resize(760, 900);
+    ScreenFit::resize(this, QSize(760, 900));
     // The report follows the list: a new search or filter, a new report.
     connect(&m_app, &AppController::listChanged, this, [this] {
         if (isVisible())

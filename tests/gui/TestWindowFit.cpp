@@ -1,0 +1,142 @@
+#include "WindowFixture.h"
+
+#include "gui/main/MainWindow.h"
+#include "gui/preferences/FirstStartAssistant.h"
+#include "gui/preferences/PreferencePanel.h"
+#include "gui/windows/AccountingExportSheet.h"
+#include "gui/windows/CatalogueWindow.h"
+#include "gui/windows/DesignChoiceSheet.h"
+#include "gui/windows/ExportSheet.h"
+#include "gui/windows/LetterSheet.h"
+#include "gui/windows/NotificationSheet.h"
+#include "gui/windows/PreviewWindow.h"
+#include "gui/windows/ReportWindow.h"
+
+#include <QAction>
+#include <QScreen>
+#include <QShortcut>
+#include <QtTest>
+
+#include <map>
+
+using namespace tabo;
+
+// Runs on the screens of tests/gui/screens (CTest names them): every window
+// and sheet must fit, with its buttons on the screen.
+class TestWindowFit : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyWindowFitsTheScreen();
+    void everyShortcutIsBoundOnce();
+};
+
+namespace {
+
+// Why the window does not fit, or empty.
+QString misfit(QWidget *window)
+{
+    window->show();
+    QCoreApplication::processEvents();
+    const QSize area = window->screen()->availableGeometry().size();
+    const QSize size = window->frameGeometry().size();
+    const QSize least = window->minimumSizeHint().expandedTo(window->minimumSize());
+    const QString name = QString::fromLatin1(window->metaObject()->className());
+    if (size.width() > area.width() || size.height() > area.height())
+        return QStringLiteral("%1 opens %2×%3 on %4×%5").arg(name).arg(size.width()).arg(size.height())
+            .arg(area.width()).arg(area.height());
+    if (least.width() > area.width() || least.height() > area.height())
+        return QStringLiteral("%1 needs at least %2×%3 on %4×%5").arg(name).arg(least.width())
+            .arg(least.height()).arg(area.width()).arg(area.height());
+    return {};
+}
+
+} // namespace
+
+void TestWindowFit::everyWindowFitsTheScreen()
+{
+    test::WindowFixture f;
+    f.prefs.setBool(Preferences::isTabo2TemplateLoadingDone, true);
+    f.window = std::make_unique<MainWindow>(f.app);
+    const QSize screen = f.window->screen()->size();
+    QVERIFY2(screen == QSize(1024, 768) || screen == QSize(1280, 800),
+             "run through CTest, which names the screen (tests/gui/screens)");
+
+    QStringList misfits;
+    const auto check = [&misfits](QWidget *window) {
+        if (const QString why = misfit(window); !why.isEmpty())
+            misfits << why;
+        window->hide();
+    };
+    check(f.window.get());
+    f.window->show();
+    check(f.window->exportSheet());
+    check(f.window->letterSheet());
+    check(f.window->designChoiceSheet());
+    check(f.window->notificationSheet());
+    check(f.window->previewWindow());
+    check(f.window->reportWindow());
+    check(f.window->catalogueWindow());
+    AccountingExportSheet accounting(f.app, f.window.get());
+    check(&accounting);
+    FirstStartAssistant assistant(f.app);
+    check(&assistant);
+    // Each pane in turn, in the one window size the panel keeps.
+    QVPreferencePanel *panel = f.window->preferencePanel();
+    panel->showPanel();
+    const QSize first = panel->size();
+    for (int pane = 0; pane < QVPreferencePanel::PaneCount; ++pane) {
+        panel->selectPane(QVPreferencePanel::Pane(pane));
+        QCOMPARE(panel->size(), first);
+        if (const QString why = misfit(panel); !why.isEmpty())
+            misfits << why + QStringLiteral(" (pane %1)").arg(pane);
+    }
+    QVERIFY2(misfits.isEmpty(), qPrintable(misfits.join(QStringLiteral("; "))));
+
+    // Esc and Ctrl+W close the preferences.
+    for (const QKeyCombination key : {QKeyCombination(Qt::Key_Escape), QKeyCombination(Qt::CTRL | Qt::Key_W)}) {
+        panel->showPanel();
+        QApplication::setActiveWindow(panel);
+        QTest::keyClick(panel, key.key(), key.keyboardModifiers());
+        QTRY_VERIFY(!panel->isVisible());
+    }
+}
+
+void TestWindowFit::everyShortcutIsBoundOnce()
+{
+    test::WindowFixture f;
+    f.prefs.setBool(Preferences::isTabo2TemplateLoadingDone, true);
+    f.window = std::make_unique<MainWindow>(f.app);
+    f.window->preferencePanel();
+    f.window->reportWindow();
+    f.window->catalogueWindow();
+    // A key is ambiguous when two actions of one window claim it, or one
+    // action claims it twice: Qt then runs neither.
+    std::map<std::pair<QWidget *, QString>, QStringList> owners;
+    const auto windowOf = [](QObject *object) -> QWidget * {
+        for (QObject *o = object; o; o = o->parent())
+            if (auto *widget = qobject_cast<QWidget *>(o))
+                return widget->window();
+        return nullptr;
+    };
+    for (QAction *action : f.window->findChildren<QAction *>())
+        for (const QKeySequence &key : action->shortcuts())
+            owners[{windowOf(action), key.toString()}] << action->objectName() + QLatin1Char(' ') + action->text();
+    for (QShortcut *shortcut : f.window->findChildren<QShortcut *>())
+        if (shortcut->context() != Qt::WidgetShortcut)
+            owners[{windowOf(shortcut), shortcut->key().toString()}] << shortcut->objectName();
+    QStringList twice;
+    for (const auto &[key, names] : owners)
+        if (names.size() > 1)
+            twice << key.second + QStringLiteral(": ") + names.join(QStringLiteral(", "));
+    QVERIFY2(twice.isEmpty(), qPrintable(twice.join(QStringLiteral("; "))));
+    QVERIFY(owners.size() > 20);
+    // The keys people know from every Linux desktop, whatever the theme adds.
+    const auto keysOf = [&f](const char *name) { return f.window->findChild<QAction *>(QLatin1String(name))->shortcuts(); };
+    QVERIFY(keysOf("actionRedo").contains(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)));
+    QVERIFY(keysOf("preferencesClose").contains(QKeySequence(Qt::CTRL | Qt::Key_W)));
+}
+
+QTEST_MAIN(TestWindowFit)
+#include "TestWindowFit.moc"
