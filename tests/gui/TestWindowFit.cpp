@@ -71,6 +71,12 @@ void TestWindowFit::everyWindowFitsTheScreen()
     };
     check(f.window.get());
     f.window->show();
+    QCoreApplication::processEvents();
+    // Search and filter stay in sight; the commands may give way.
+    for (const char *name : {"searchField", "filterButton"}) {
+        auto *widget = f.window->findChild<QWidget *>(QLatin1String(name));
+        QVERIFY2(widget && widget->isVisible() && !widget->visibleRegion().isEmpty(), name);
+    }
     check(f.window->exportSheet());
     check(f.window->letterSheet());
     check(f.window->designChoiceSheet());

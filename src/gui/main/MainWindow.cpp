@@ -305,6 +305,13 @@ void MainWindow::createToolBar()
     auto *spacer = new QWidget(bar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(spacer);
+    // Search and filter have a bar of their own that never gives way: on a
+    // narrow screen the commands go into the overflow menu, not these.
+    bar = addToolBar(tr("Search"));
+    bar->setObjectName(QStringLiteral("searchToolBar"));
+    bar->setMovable(false);
+    bar->setFloatable(false);
+    bar->setIconSize(QSize(22, 22));
     m_search = new QLineEdit(bar);
     m_search->setObjectName(QStringLiteral("searchField"));
     m_search->setPlaceholderText(tr("Search number, client, subject, amount"));
@@ -322,6 +329,7 @@ void MainWindow::createToolBar()
     m_filterButton = new FilterButton(m_app, bar);
     m_filterButton->setIconSize(bar->iconSize());
     bar->addWidget(m_filterButton);
+    bar->setMinimumWidth(bar->sizeHint().width());
 }
 
 void MainWindow::createRemindAction(QToolBar *bar)
