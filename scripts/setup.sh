@@ -13,6 +13,7 @@ packages=(
   cups-client xdg-utils poppler-utils dbus
   libsaxonhe-java default-jre-headless libqrencode-dev zbar-tools qpdf
   xvfb xauth
+  librsvg2-bin desktop-file-utils appstream shared-mime-info libxml2-utils man-db
 )
 # Further packages a caller needs (the benchmark's comparison programs).
 read -r -a extra <<< "${TABO_EXTRA_PACKAGES:-}"

@@ -104,6 +104,7 @@ int main(int argc, char *argv[])
         application = std::make_unique<QCoreApplication>(argc, argv);
     }
     QCoreApplication::setApplicationName(QStringLiteral("tabo-cli"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TABO_VERSION));
 
     Session session;
     std::vector<std::unique_ptr<Command>> commands;
@@ -147,6 +148,10 @@ int main(int argc, char *argv[])
         return kExitUsage;
     }
     const QString name = args.takeFirst();
+    if (name == QLatin1String("--version")) {
+        printOut(QStringLiteral("tabo-cli %1").arg(QCoreApplication::applicationVersion()));
+        return kExitOk;
+    }
     if (name == QLatin1String("--help") || name == QLatin1String("-h") || name == QLatin1String("help")) {
         printOut(usageText(commands));
         return kExitOk;

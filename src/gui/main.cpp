@@ -107,11 +107,13 @@ int main(int argc, char **argv)
     PdfEngine::prepareApplication();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tabo"));
+    QApplication::setApplicationVersion(QStringLiteral(TABO_VERSION));
     QApplication::setOrganizationName(QString());
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Invoices and quotes for freelancers and small businesses."));
     parser.addHelpOption();
+    parser.addVersionOption();
     // Options for documentation screenshots: each grabs a window once it has
     // started (the preview once its PDF is shown) and quits.
     const auto hidden = [&parser](const char *name, const char *value) {
