@@ -14,19 +14,47 @@ bool InstanceBus::registerInstance()
     return bus.registerObject(kPath, this, QDBusConnection::ExportScriptableSlots);
 }
 
-bool InstanceBus::forwardShowInvoice(const QString &uniqueID)
+bool InstanceBus::forward(const QString &method, const QVariantList &arguments)
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected() || !bus.interface() || !bus.interface()->isServiceRegistered(kService).value())
         return false;
-    QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kService, QStringLiteral("ShowInvoice"));
-    call << uniqueID;
+    QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kService, method);
+    call.setArguments(arguments);
+    // The running window answers at once and carries the request out when
+    // it can (after a dialog the person has open); a window that is quitting
+    // does not answer, and this process then starts a new one.
     return bus.call(call, QDBus::Block, 5000).type() == QDBusMessage::ReplyMessage;
+}
+
+bool InstanceBus::forwardShowInvoice(const QString &uniqueID)
+{
+    return forward(QStringLiteral("ShowInvoice"), {uniqueID});
+}
+
+bool InstanceBus::forwardActivate()
+{
+    return forward(QStringLiteral("Activate"), {});
+}
+
+bool InstanceBus::forwardNewDocument(bool invoice)
+{
+    return forward(QStringLiteral("NewDocument"), {invoice});
 }
 
 void InstanceBus::ShowInvoice(const QString &uniqueID)
 {
     Q_EMIT showInvoiceRequested(uniqueID);
+}
+
+void InstanceBus::Activate()
+{
+    Q_EMIT activateRequested();
+}
+
+void InstanceBus::NewDocument(bool invoice)
+{
+    Q_EMIT newDocumentRequested(invoice);
 }
 
 } // namespace tabo

@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QObject>
+#include <QVariant>
 #include <QString>
 
 namespace tabo {
 
-// The running window's name on the session bus. `tabo --show-invoice ID`,
-// started by a click on a notification while Tabo runs, hands the invoice to
-// the running window instead of opening a second one.
+// The running window's name on the session bus. A second `tabo` (a plain
+// start, a desktop action, `--show-invoice ID` from a click on a reminder)
+// hands its request to the running window and ends: two windows must never
+// work on one store.
 class InstanceBus : public QObject
 {
     Q_OBJECT
@@ -20,14 +22,23 @@ public:
 
     // False without a bus, or when another process holds the name.
     bool registerInstance();
-    // True when a running instance took the invoice.
+    // True when a running instance took the request.
     static bool forwardShowInvoice(const QString &uniqueID);
+    static bool forwardActivate();
+    static bool forwardNewDocument(bool invoice);
 
 public Q_SLOTS:
     Q_SCRIPTABLE void ShowInvoice(const QString &uniqueID);
+    Q_SCRIPTABLE void Activate();
+    Q_SCRIPTABLE void NewDocument(bool invoice);
 
 Q_SIGNALS:
     void showInvoiceRequested(const QString &uniqueID);
+    void activateRequested();
+    void newDocumentRequested(bool invoice);
+
+private:
+    static bool forward(const QString &method, const QVariantList &arguments);
 };
 
 } // namespace tabo

@@ -135,13 +135,30 @@ int main(int argc, char **argv)
                                    QStringLiteral("Start with the list filtered to the invoice with this unique ID."),
                                    QStringLiteral("uniqueID"));
     parser.addOption(showInvoice);
+    // The desktop entry's actions.
+    const QCommandLineOption newInvoice(QStringLiteral("new-invoice"), QStringLiteral("Start with a new invoice."));
+    const QCommandLineOption newQuote(QStringLiteral("new-quote"), QStringLiteral("Start with a new quote."));
+    parser.addOption(newInvoice);
+    parser.addOption(newQuote);
     parser.addPositionalArgument(
         QStringLiteral("files"), QStringLiteral("Refused: open documents from the File menu."));
     parser.process(application);
     QGuiApplication::setDesktopFileName(DBusNotifier::kDesktopEntry);
-    // A running Tabo takes the invoice; this process then has nothing to do.
-    if (parser.isSet(showInvoice) && InstanceBus::forwardShowInvoice(parser.value(showInvoice)))
+    const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
+                          || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue)
+                          || parser.isSet(screenshotReport) || parser.isSet(screenshotReminder)
+                          || parser.isSet(screenshotExport);
+    const bool newDocument = parser.isSet(newInvoice) || parser.isSet(newQuote);
+    // A running Tabo takes the request; this process then has nothing to do.
+    if (parser.isSet(showInvoice)) {
+        if (InstanceBus::forwardShowInvoice(parser.value(showInvoice)))
+            return 0;
+    } else if (newDocument) {
+        if (InstanceBus::forwardNewDocument(parser.isSet(newInvoice)))
+            return 0;
+    } else if (!grabbing && InstanceBus::forwardActivate()) {
         return 0;
+    }
 
     auto settings = std::make_unique<Preferences>();
     if (const Error refused = settings->loadError()) {
@@ -177,10 +194,6 @@ int main(int argc, char **argv)
     controller.prepare();
     window.show();
     controller.start();
-    const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
-                          || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue)
-                          || parser.isSet(screenshotReport) || parser.isSet(screenshotReminder)
-                          || parser.isSet(screenshotExport);
     if (controller.needsFirstStartAssistant() && !grabbing) {
         QTimer::singleShot(350, &window, [&window, &controller] {
             FirstStartAssistant assistant(controller, &window);
@@ -190,8 +203,11 @@ int main(int argc, char **argv)
 
     InstanceBus instance;
     if (instance.registerInstance())
-        QObject::connect(&instance, &InstanceBus::showInvoiceRequested, &controller.notifications(),
-                         &NotificationCommands::didActivateNotification);
+        window.takeRequestsFrom(instance);
+    if (newDocument) {
+        const bool invoice = parser.isSet(newInvoice);
+        window.whenFree([&window, invoice] { (invoice ? window.newInvoiceAction() : window.newQuoteAction())->trigger(); });
+    }
     controller.notifications().startDelivering();
     if (parser.isSet(showInvoice)) {
         const QString id = parser.value(showInvoice);

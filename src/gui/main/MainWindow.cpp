@@ -1,6 +1,7 @@
 #include "gui/main/MainWindow.h"
 
 #include "app/AccountBook.h"
+#include "app/InstanceBus.h"
 #include "app/AppController.h"
 #include "app/NotificationCommands.h"
 #include "app/OutputCommands.h"
@@ -26,6 +27,7 @@
 #include "gui/widgets/Keys.h"
 #include "prefs/Preferences.h"
 
+#include <QApplication>
 #include <QAction>
 #include <QCloseEvent>
 #include <QEvent>
@@ -366,14 +368,49 @@ void MainWindow::createRemindAction(QToolBar *bar)
     });
     connect(m_notificationSheet, &QDialog::rejected, this, &MainWindow::updateRemindAction);
     connect(&m_app, &AppController::currentInvoiceChanged, this, &MainWindow::updateRemindAction);
-    connect(&m_app.notifications(), &NotificationCommands::bringForward, this, [this] {
-        if (isMinimized())
-            showNormal();
-        show();
-        raise();
-        activateWindow();
-    });
+    connect(&m_app.notifications(), &NotificationCommands::bringForward, this, &MainWindow::bringForward);
     updateRemindAction();
+}
+
+void MainWindow::bringForward()
+{
+    if (isMinimized())
+        showNormal();
+    show();
+    raise();
+    activateWindow();
+}
+
+void MainWindow::takeRequestsFrom(InstanceBus &bus)
+{
+    connect(&bus, &InstanceBus::showInvoiceRequested, &m_app.notifications(),
+            &NotificationCommands::didActivateNotification);
+    connect(&bus, &InstanceBus::activateRequested, this, [this] { whenFree([this] { bringForward(); }); });
+    connect(&bus, &InstanceBus::newDocumentRequested, this, [this](bool invoice) {
+        whenFree([this, invoice] {
+            bringForward();
+            (invoice ? m_newInvoice : m_newQuote)->trigger();
+        });
+    });
+}
+
+void MainWindow::whenFree(std::function<void()> request)
+{
+    m_requests.append(std::move(request));
+    if (m_requestTimer.isActive())
+        return;
+    m_requestTimer.setInterval(100);
+    disconnect(&m_requestTimer, nullptr, this, nullptr);
+    connect(&m_requestTimer, &QTimer::timeout, this, [this] {
+        // A dialog the person has open comes first: its answer may change
+        // what the request finds.
+        if (QApplication::activeModalWidget())
+            return;
+        m_requestTimer.stop();
+        while (!m_requests.isEmpty())
+            m_requests.takeFirst()();
+    });
+    m_requestTimer.start();
 }
 
 void MainWindow::updateRemindAction()

@@ -2,6 +2,9 @@
 
 #include <QList>
 #include <QMainWindow>
+#include <QTimer>
+
+#include <functional>
 
 class QAction;
 class QLineEdit;
@@ -18,6 +21,7 @@ class DesignChoiceSheet;
 class DocumentActions;
 class DocumentEditor;
 class DocumentListPane;
+class InstanceBus;
 class ExportSheet;
 class FileMenu;
 class FilterButton;
@@ -37,6 +41,14 @@ class MainWindow : public QMainWindow
 public:
     // Building the window opens the store (the list asks for it).
     explicit MainWindow(AppController &app, QWidget *parent = nullptr);
+
+    // A request from outside (another `tabo`, a desktop action): carried out
+    // in order once no dialog is open, never dropped.
+    void whenFree(std::function<void()> request);
+    // The window to the front, restored if minimised.
+    void bringForward();
+    // Carries out what other `tabo` processes hand over on the session bus.
+    void takeRequestsFrom(InstanceBus &bus);
 
     DocumentListPane *documentList() const { return m_list; }
     DocumentEditor *editor() const { return m_editor; }
@@ -111,6 +123,8 @@ private:
     QWidget *m_remindButton = nullptr;
     NotificationSheet *m_notificationSheet = nullptr;
     QVPreferencePanel *m_preferencePanel = nullptr;
+    QList<std::function<void()>> m_requests;
+    QTimer m_requestTimer;
     bool m_quitDecided = false;
 };
 
