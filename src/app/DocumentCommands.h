@@ -32,7 +32,7 @@ public:
 
     // duplicateInvoice: a copy of the current document, selected and saved;
     // nullptr without a current document. `toTheCent` makes the copy's
-    // figures those of the cent-exact calculation, whatever the original's.
+    // figures those of the cent-exact calculation, whatever the copied document used.
     Record *duplicateInvoice(bool toTheCent = false);
     // convertQuoteToInvoice: false when refused ("Sorry!") or cancelled.
     bool convertQuoteToInvoice();

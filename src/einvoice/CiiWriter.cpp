@@ -93,7 +93,7 @@ public:
         end();
     }
 
-    // BG-2: the process and the specification the file follows.
+    // BG-2: the business process and the rule set (guideline) the file follows.
     void context(Profile profile)
     {
         start(kRsm, QStringLiteral("ExchangedDocumentContext"));
