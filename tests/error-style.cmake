@@ -1,5 +1,5 @@
 # Fails on an error out-parameter in src/ (`QString *error`, `QString &reason`,
-# `Error *error`): a function that can fail returns Error, or Result<T> when
+# `Error *error`, `Error &error`): a function that can fail returns Error, or Result<T> when
 # it also makes something, so that every caller reads failures one way.
 # cmake -DROOT=<project folder> -P error-style.cmake
 cmake_minimum_required(VERSION 3.25)
@@ -11,7 +11,7 @@ set(names "[A-Za-z]*([Ee]rror|[Rr]eason|[Pp]roblem)")
 file(GLOB_RECURSE files ${ROOT}/src/*.h ${ROOT}/src/*.cpp)
 set(found "")
 foreach(file ${files})
-  file(STRINGS ${file} hits REGEX "QString \\*${names}|[(,] *QString &${names}|[(,] *Error \\*[a-z]")
+  file(STRINGS ${file} hits REGEX "QString \\*${names}|[(,] *QString &${names}|[(,] *Error [*&][a-z]")
   foreach(hit ${hits})
     file(RELATIVE_PATH name ${ROOT} ${file})
     string(STRIP "${hit}" hit)

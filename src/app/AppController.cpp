@@ -919,9 +919,9 @@ void AppController::documentRemoved(Record *document)
 
 void AppController::reloadList()
 {
+    m_list.reload(m_store.get());
     if (m_current && !m_list.all().contains(m_current))
         setCurrentInvoice(nullptr);
-    m_list.reload(m_store.get());
     calculateDatabase();
     Q_EMIT listChanged();
 }

@@ -106,28 +106,24 @@ QString fileKind(const QString &path, const QVariant &root)
 
 // The store a backup is taken of, when it passes its check: a copy of a
 // damaged store would replace the one good copy the person is told to restore.
-Store *BackupCommands::checkedStore(Error &error)
+Result<Store *> BackupCommands::checkedStore()
 {
     Store *store = m_access.store();
-    if (!store) {
-        error = Error{Error::Tabo, 1, QStringLiteral("There is no database to back up."), {}};
-        return nullptr;
-    }
-    if (const Error e = store->checkIntegrity()) {
-        error = Error{Error::Store, e.code,
-                      QStringLiteral("No backup was taken: the database fails its check, and a backup of it would be "
-                                     "no better. %1").arg(e.message()), {}};
-        return nullptr;
-    }
+    if (!store)
+        return Error{Error::Tabo, 1, QStringLiteral("There is no database to back up."), {}};
+    if (const Error e = store->checkIntegrity())
+        return Error{Error::Store, e.code,
+                     QStringLiteral("No backup was taken: the database fails its check, and a backup of it would be "
+                                    "no better. %1").arg(e.message()), {}};
     return store;
 }
 
 Error BackupCommands::writeRecords(EntityId entity, const QString &path)
 {
-    Error error;
-    Store *store = checkedStore(error);
-    if (!store)
-        return error;
+    const Result<Store *> checked = checkedStore();
+    if (!checked)
+        return checked.error();
+    Store *store = checked.value();
     if (Error e = m_access.save())
         return e;
     if (Error e = plist::writeFile(path, recordList(*store, entity), plist::Format::Xml)) {
@@ -246,9 +242,8 @@ Error BackupCommands::writeCompleteBackup(const QString &chosenPath)
     const QString target = chosen.absolutePath() + QLatin1Char('/') + chosen.completeBaseName() + QStringLiteral(".tabo2db");
     if (Error refused = ProtectedFiles::check(target))
         return refused;
-    Error error;
-    if (!checkedStore(error))
-        return error;
+    if (const Result<Store *> checked = checkedStore(); !checked)
+        return checked.error();
     return StoreFile::writeCopy(*store, target);
 }
 
@@ -415,10 +410,10 @@ bool BackupCommands::createBackup()
 Error BackupCommands::doTheNewBackup()
 {
     const QString path = m_files.automaticBackupFile();
-    Error error;
-    Store *store = checkedStore(error);
-    if (!store)
-        return error;
+    const Result<Store *> checked = checkedStore();
+    if (!checked)
+        return checked.error();
+    Store *store = checked.value();
     const Result<QByteArray> data = plist::write(recordList(*store, EntityId::Invoice), plist::Format::Xml);
     if (!data)
         return data.error();

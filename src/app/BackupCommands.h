@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Error.h"
+#include "base/Result.h"
 #include "domain/EntityModel.h"
 
 #include <QString>
@@ -56,7 +56,7 @@ public:
     bool restoreAutomaticallyFromSandbox();
 
 private:
-    Store *checkedStore(Error &error);
+    Result<Store *> checkedStore();
     Error writeRecords(EntityId entity, const QString &path);
     Error restoreRecords(EntityId entity, const QString &path, const QString &what);
     void rollBack(Store &store);

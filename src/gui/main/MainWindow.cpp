@@ -58,6 +58,8 @@ MainWindow::MainWindow(AppController &app, QWidget *parent)
 {
     setWindowTitle(QStringLiteral("Tabo"));
     ScreenFit::resize(this, QSize(1280, 800));
+    m_requestTimer.setInterval(100);
+    connect(&m_requestTimer, &QTimer::timeout, this, &MainWindow::runWaitingRequests);
 
     auto *central = new QWidget(this);
     auto *layout = new QVBoxLayout(central);
@@ -397,20 +399,19 @@ void MainWindow::takeRequestsFrom(InstanceBus &bus)
 void MainWindow::whenFree(std::function<void()> request)
 {
     m_requests.append(std::move(request));
-    if (m_requestTimer.isActive())
+    if (!m_requestTimer.isActive())
+        m_requestTimer.start();
+}
+
+void MainWindow::runWaitingRequests()
+{
+    // A dialog the person has open comes first: its answer may change what
+    // the request finds.
+    if (QApplication::activeModalWidget())
         return;
-    m_requestTimer.setInterval(100);
-    disconnect(&m_requestTimer, nullptr, this, nullptr);
-    connect(&m_requestTimer, &QTimer::timeout, this, [this] {
-        // A dialog the person has open comes first: its answer may change
-        // what the request finds.
-        if (QApplication::activeModalWidget())
-            return;
-        m_requestTimer.stop();
-        while (!m_requests.isEmpty())
-            m_requests.takeFirst()();
-    });
-    m_requestTimer.start();
+    m_requestTimer.stop();
+    while (!m_requests.isEmpty())
+        m_requests.takeFirst()();
 }
 
 void MainWindow::updateRemindAction()

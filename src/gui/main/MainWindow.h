@@ -92,6 +92,7 @@ private:
     void createRemindAction(QToolBar *bar);
     void updateRemindAction();
     void newDocument(bool invoice);
+    void runWaitingRequests();
     void selectNewestDocument();
 
     AppController &m_app;
