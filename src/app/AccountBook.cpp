@@ -13,7 +13,15 @@
 #include <QDir>
 #include <QLocale>
 
+#include <QCoreApplication>
 #include <algorithm>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(AccountBook)
+};
+} // namespace
 
 namespace tabo {
 
@@ -102,7 +110,8 @@ QList<PrinterItem> AccountBook::items(const QList<Record *> &documents) const
     std::stable_sort(invoices.begin(), invoices.end(), [](const Record *a, const Record *b) {
         return a->num(Invoice::date) < b->num(Invoice::date);
     });
-    const QLocale locale;
+    // Dates and amounts as the documents print them, whatever the interface speaks.
+    const QLocale locale(prefs.documentRegion());
     const auto day = [&](const Record &doc, int attr) {
         return doc.isNull(attr) ? QString()
                                 : locale.toString(doc.date(attr).toDateTime().toLocalTime().date(), QLocale::ShortFormat);
@@ -141,31 +150,29 @@ bool AccountBook::writePdf(const QString &path, bool forPrint)
         QStringLiteral("<span style=\"font-family: %1; font-size: 6px; color: #777;\">"
                        "&lt;pageNumber/&gt; / &lt;pageCount/&gt;</span>")
             .arg(fontFamilies(m_prefs)));
-    return book.writePdf(path, QStringLiteral("%1 | Account Book").arg(m_prefs.string(P::prefsName)),
-                         forPrint ? QMarginsF(72, 40, 72, 40) : QMarginsF());
+    return book.writePdf(path, Tr::tr("%1 | Account Book").arg(m_prefs.string(P::prefsName)),
+        forPrint ? QMarginsF(72, 40, 72, 40) : QMarginsF());
 }
 
 bool AccountBook::print()
 {
     Preferences &prefs = m_prefs;
     if (!prefs.boolean(P::isAccountBookPrintHintShown)) {
-        m_ui.alert(
-            QStringLiteral("Hint!"),
-            QStringLiteral("This feature is bound to the arranged invoices in Tabo's main window. This means you can, "
-                           "for example, search for a client and therefore print out the account book just for this "
-                           "single client or you can pre-filter all your invoices to print out the account book only "
-                           "for paid or overdue invoices."),
-            {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("Hint!"),
+            Tr::tr("This feature is bound to the arranged invoices in Tabo's main window. This means you can, "
+                   "for example, search for a client and therefore print out the account book just for this "
+                   "single client or you can pre-filter all your invoices to print out the account book only "
+                   "for paid or overdue invoices."),
+            { Tr::tr("OK") });
         prefs.setBool(P::isAccountBookPrintHintShown, true);
     }
     QDir().mkpath(Locations::dataFolder());
     const QString path = QDir(Locations::dataFolder()).filePath(QStringLiteral("AccountBook.pdf"));
     if (!writePdf(path, true)) {
-        m_ui.alert(QStringLiteral("Error!"), QStringLiteral("The account book could not be written."),
-                         {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("Error!"), Tr::tr("The account book could not be written."), { Tr::tr("OK") });
         return false;
     }
-    return m_outputs.printPdf(path, QStringLiteral("%1 | Account Book").arg(prefs.string(P::prefsName)));
+    return m_outputs.printPdf(path, Tr::tr("%1 | Account Book").arg(prefs.string(P::prefsName)));
 }
 
 } // namespace tabo

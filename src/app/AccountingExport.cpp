@@ -10,7 +10,15 @@
 #include "store/PropertyList.h"
 #include "store/Store.h"
 
+#include <QCoreApplication>
 #include <QSet>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(AccountingExport)
+};
+} // namespace
 
 namespace tabo {
 
@@ -89,7 +97,7 @@ void AccountingExport::sendToVorlux(int sendToTag)
 
 QString AccountingExport::sheetLabel() const
 {
-    return m_sendToTag != 0 ? QStringLiteral("Send Invoices To quandrella") : QStringLiteral("Send Invoices To Vorlux");
+    return m_sendToTag != 0 ? Tr::tr("Send Invoices To quandrella") : Tr::tr("Send Invoices To Vorlux");
 }
 
 void AccountingExport::doTheFilter()
@@ -147,15 +155,14 @@ bool AccountingExport::closeVorluxSheet(bool open)
 {
     const QString path = exportFilePath();
     if (plist::writeFile(path, entries(), plist::Format::Xml)) {
-        m_ui.alert(QStringLiteral("Error!"), QStringLiteral("Could not write Vorlux/quandrella export data."),
-                         {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("Error!"), Tr::tr("Could not write Vorlux/quandrella export data."), { Tr::tr("OK") });
         return false;
     }
     if (open && !m_ui.openWithDefaultApplication(path)) {
-        m_ui.alert(QStringLiteral("Error!"),
-                         QStringLiteral("Vorlux/quandrella export file couldn't be opened. Please ensure that Vorlux "
-                                        "or quandrella is installed on your Mac and running."),
-                         {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("Error!"),
+            Tr::tr("Vorlux/quandrella export file couldn't be opened. Please ensure that Vorlux "
+                   "or quandrella is installed on your Mac and running."),
+            { Tr::tr("OK") });
         return false;
     }
     return true;

@@ -35,7 +35,15 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <QCoreApplication>
 #include <sqlite3.h>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(AppController)
+};
+} // namespace
 
 namespace tabo {
 
@@ -110,8 +118,8 @@ Store *AppController::store()
     m_storeTried = true;
     openStore();
     if (!m_store && !m_terminating)
-        m_ui.presentError(Error{Error::Tabo, 9999, QStringLiteral("Failed to initialize the store"),
-                                QStringLiteral("There was an error building up the data file.")});
+        m_ui.presentError(Error { Error::Tabo, 9999, Tr::tr("Failed to initialize the store"),
+            Tr::tr("There was an error building up the data file.") });
     return m_store.get();
 }
 
@@ -121,14 +129,13 @@ void AppController::openStore()
     if (!m_prefs.boolean(P::firstCenter)) {
         m_prefs.setBool(P::is2_0MigrationDone, true);
     } else if (!m_prefs.boolean(P::is2_0MigrationDone)) {
-        const int answer = m_ui.alert(
-            QStringLiteral("Warning!"),
-            QStringLiteral("Tabo 2 comes with new features that require the database to be updated.\n"
-                           "Once updated you will not be able to open and edit it with an older version of Tabo.\n\n"
-                           "In case you don't want to upgrade to Tabo 2 - which is a paid upgrade - you need to quit "
-                           "Tabo 2 right now and just continue working with Tabo 1.\n\n"
-                           "Do you want to update the database and use Tabo 2?"),
-            {QStringLiteral("Don't Update Database and Quit Tabo 2"), QStringLiteral("Update Database And Use Tabo 2")});
+        const int answer = m_ui.alert(Tr::tr("Warning!"),
+            Tr::tr("Tabo 2 comes with new features that require the database to be updated.\n"
+                   "Once updated you will not be able to open and edit it with an older version of Tabo.\n\n"
+                   "In case you don't want to upgrade to Tabo 2 - which is a paid upgrade - you need to quit "
+                   "Tabo 2 right now and just continue working with Tabo 1.\n\n"
+                   "Do you want to update the database and use Tabo 2?"),
+            { Tr::tr("Don't Update Database and Quit Tabo 2"), Tr::tr("Update Database And Use Tabo 2") });
         if (answer != 1) {
             qInfo() << "terminate!";
             m_terminating = true;
@@ -142,14 +149,12 @@ void AppController::openStore()
     const QString folder = applicationFilesDirectory();
     const QFileInfo folderInfo(folder);
     if (!folderInfo.exists()) {
-        m_ui.presentError(Error{Error::Tabo, 260,
-                                QStringLiteral("The folder “%1” could not be created.").arg(folder), {}});
+        m_ui.presentError(Error { Error::Tabo, 260, Tr::tr("The folder “%1” could not be created.").arg(folder), {} });
         return;
     }
     if (!folderInfo.isDir()) {
-        m_ui.presentError(Error{Error::Tabo, 101,
-                                QStringLiteral("Expected a folder to store application data, found a file (%1).").arg(folder),
-                                {}});
+        m_ui.presentError(Error { Error::Tabo, 101,
+            Tr::tr("Expected a folder to store application data, found a file (%1).").arg(folder), {} });
         return;
     }
 
@@ -186,18 +191,18 @@ bool AppController::offerAutomaticBackup(const Error &empty)
     // installation: the documents can come back from the automatic backup.
     if (!QFileInfo(automaticBackupFile()).isFile())
         return false;
-    const int answer = m_ui.alert(
-        QStringLiteral("Error!"),
-        empty.message() + QStringLiteral("\n\nThe empty file can be kept as “%1” and a new database started with the "
-                                         "documents of the automatic backup “%2”.")
-                              .arg(QFileInfo(m_storeURL).fileName() + QStringLiteral(".empty"), m_backupPath),
-        {QStringLiteral("Restore Automatic Backup"), QStringLiteral("Cancel")});
+    const int answer = m_ui.alert(Tr::tr("Error!"),
+        empty.message()
+            + Tr::tr("\n\nThe empty file can be kept as “%1” and a new database started with the "
+                     "documents of the automatic backup “%2”.")
+                  .arg(QFileInfo(m_storeURL).fileName() + QStringLiteral(".empty"), m_backupPath),
+        { Tr::tr("Restore Automatic Backup"), Tr::tr("Cancel") });
     if (answer != 0)
         return true;
     const QString kept = m_storeURL + QStringLiteral(".empty");
     QFile::remove(kept);
     if (!QFile::rename(m_storeURL, kept)) {
-        m_ui.presentError(Error{Error::Tabo, 6, QStringLiteral("“%1” could not be renamed.").arg(m_storeURL), {}});
+        m_ui.presentError(Error { Error::Tabo, 6, Tr::tr("“%1” could not be renamed.").arg(m_storeURL), {} });
         return true;
     }
     m_storeURL.clear();
@@ -251,13 +256,12 @@ bool AppController::resolveConflicts()
         if (!names.contains(name))
             names << name;
     }
-    const int answer = m_ui.alert(
-        QStringLiteral("Changed Elsewhere"),
-        QStringLiteral("“%1” was changed by another program (another Tabo window or tabo-cli) after it was read "
-                       "here. Keep your changes and overwrite the other ones, or reload the stored version and "
-                       "lose your changes?")
+    const int answer = m_ui.alert(Tr::tr("Changed Elsewhere"),
+        Tr::tr("“%1” was changed by another program (another Tabo window or tabo-cli) after it was read "
+               "here. Keep your changes and overwrite the other ones, or reload the stored version and "
+               "lose your changes?")
             .arg(names.join(QStringLiteral("”, “"))),
-        {QStringLiteral("Keep My Changes"), QStringLiteral("Reload")});
+        { Tr::tr("Keep My Changes"), Tr::tr("Reload") });
     if (answer == 0) {
         m_store->keepMineOnConflicts();
         return true;
@@ -483,8 +487,8 @@ bool AppController::recommendsCentExactTotals(qint64 languageDefaults)
 
 QString AppController::centExactTotalsReason()
 {
-    return QStringLiteral("Each line is rounded to the cent and the VAT of each rate is taken on the amount after "
-                          "the discount, which is what tax offices and e-invoices (EN 16931) expect.");
+    return Tr::tr("Each line is rounded to the cent and the VAT of each rate is taken on the amount after "
+                  "the discount, which is what tax offices and e-invoices (EN 16931) expect.");
 }
 
 void AppController::composeFooters()
@@ -496,12 +500,11 @@ void AppController::composeFooters()
 
 bool AppController::recomposeFooters()
 {
-    const int answer = m_ui.alert(
-        QStringLiteral("Compose Footers?"),
-        QStringLiteral("The footers of invoices, quotes, reminders and delivery slips are replaced by one made from "
-                       "your company's address, tax and bank details:\n\n%1")
+    const int answer = m_ui.alert(Tr::tr("Compose Footers?"),
+        Tr::tr("The footers of invoices, quotes, reminders and delivery slips are replaced by one made from "
+               "your company's address, tax and bank details:\n\n%1")
             .arg(CompanyFooter::compose(m_prefs)),
-        {QStringLiteral("Compose"), QStringLiteral("Cancel")});
+        { Tr::tr("Compose"), Tr::tr("Cancel") });
     if (answer != 0)
         return false;
     composeFooters();
@@ -522,10 +525,9 @@ AppController::QuitReply AppController::askToQuit()
         m_prefs.setBool(P::isTerminatedFine, true);
     } else if (const Error e = m_store->save()) {
         m_ui.presentError(e);
-        const int answer = m_ui.alert(
-            QStringLiteral("Could not save changes while quitting. Quit anyway?"),
-            QStringLiteral("Quitting now will lose any changes you have made since the last successful save"),
-            {QStringLiteral("Quit anyway"), QStringLiteral("Cancel")});
+        const int answer = m_ui.alert(Tr::tr("Could not save changes while quitting. Quit anyway?"),
+            Tr::tr("Quitting now will lose any changes you have made since the last successful save"),
+            { Tr::tr("Quit anyway"), Tr::tr("Cancel") });
         const bool quit = answer == 0;
         m_prefs.setBool(P::isTerminatedFine, quit);
         reply = quit ? QuitReply::Now : QuitReply::Cancel;
@@ -565,12 +567,12 @@ bool AppController::customPathChanged()
         return fail(e);
     const QString folder = QFileInfo(target).absolutePath();
     if (!QFileInfo(folder).isDir())
-        return fail(Error{Error::Tabo, 4, QStringLiteral("The folder “%1” does not exist.").arg(folder), {}});
+        return fail(Error { Error::Tabo, 4, Tr::tr("The folder “%1” does not exist.").arg(folder), {} });
     // The target holds the old file or the complete copy at every moment,
     // never a half-written one.
     if (const Error e = StoreFile::writeCopy(*m_store, target))
-        return fail(Error{Error::Tabo, 5, QStringLiteral("The database could not be moved to “%1”.").arg(folder),
-                          e.message()});
+        return fail(
+            Error { Error::Tabo, 5, Tr::tr("The database could not be moved to “%1”.").arg(folder), e.message() });
     QFile::setPermissions(target, QFileInfo(m_storeURL).permissions());
     m_prefs.sync();
     StoreFile::endMove();
@@ -588,13 +590,13 @@ bool AppController::chooseCustomDatabasePath(bool use)
 {
     QString folder;
     if (use) {
-        m_ui.alert(QStringLiteral("Hint!"),
-                   QStringLiteral("For your own safety Tabo will create a backup of your current data before moving "
-                                  "your database to the changed location. You may want to save it temporarily on "
-                                  "your desktop.\n\nAfterwards Tabo will automatically restart."),
-                   {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("Hint!"),
+            Tr::tr("For your own safety Tabo will create a backup of your current data before moving "
+                   "your database to the changed location. You may want to save it temporarily on "
+                   "your desktop.\n\nAfterwards Tabo will automatically restart."),
+            { Tr::tr("OK") });
         Interaction::FileRequest request;
-        request.title = QStringLiteral("Choose Custom Database Path");
+        request.title = Tr::tr("Choose Custom Database Path");
         request.chooseFolders = true;
         request.canCreateFolders = true;
         folder = m_ui.openFile(request);
@@ -625,12 +627,11 @@ bool AppController::installLanguageDefaults(qint64 languageDefaults)
     static const char *const names[] = {"English", "German", "French", "Spanish"};
     if (Preferences::languageDefaultsResource(languageDefaults).isEmpty())
         return false;
-    const int answer = m_ui.alert(
-        QStringLiteral("Install %1 Defaults?").arg(QLatin1String(names[languageDefaults])),
-        QStringLiteral("The labels, text blocks, numbering patterns and counters, taxes and paper size are replaced by the %1 "
-                       "defaults. Your company details, documents and designs stay as they are.")
+    const int answer = m_ui.alert(Tr::tr("Install %1 Defaults?").arg(QLatin1String(names[languageDefaults])),
+        Tr::tr("The labels, text blocks, numbering patterns and counters, taxes and paper size are replaced by the %1 "
+               "defaults. Your company details, documents and designs stay as they are.")
             .arg(QLatin1String(names[languageDefaults])),
-        {QStringLiteral("Install"), QStringLiteral("Cancel")});
+        { Tr::tr("Install"), Tr::tr("Cancel") });
     return answer == 0 && firstAssiTabAction(languageDefaults);
 }
 
@@ -659,18 +660,18 @@ bool AppController::reopenStore()
 
 void AppController::restartApp()
 {
-    m_ui.alert(QStringLiteral("Database Updated"),
-               QStringLiteral("The database was successfully updated. In case your old invoices don't show up "
-                              "just restart Tabo 2 and everything will be fine."),
-               {QStringLiteral("OK")});
+    m_ui.alert(Tr::tr("Database Updated"),
+        Tr::tr("The database was successfully updated. In case your old invoices don't show up "
+               "just restart Tabo 2 and everything will be fine."),
+        { Tr::tr("OK") });
 }
 
 bool AppController::openFileFromOutside(const QString &)
 {
-    m_ui.alert(QStringLiteral("Tabo, Tabo Documents, and the Tabo Database"),
-               QStringLiteral("In order to avoid duplicate entries, hiccups, and to keep the database intact - "
-                              "please use the 'File Menu' to open documents and to restore the Tabo database."),
-               {QStringLiteral("OK")});
+    m_ui.alert(Tr::tr("Tabo, Tabo Documents, and the Tabo Database"),
+        Tr::tr("In order to avoid duplicate entries, hiccups, and to keep the database intact - "
+               "please use the 'File Menu' to open documents and to restore the Tabo database."),
+        { Tr::tr("OK") });
     return false;
 }
 
@@ -866,23 +867,21 @@ bool AppController::setDocumentValue(Record *document, int attr, const QVariant 
             const QString text = v.canConvert<Date>() && v.value<Date>().isValid() ? v.value<Date>().toIso8601() : v.toString();
             return text.isEmpty() ? QStringLiteral("(empty)") : text.left(300);
         };
-        const int answer = m_ui.ask(
-            QStringLiteral("Changed Elsewhere"),
-            QStringLiteral("“%1” of “%2” was changed by another program (another Tabo window or tabo-cli) while you "
-                           "were editing it.\n\nStored now: %3\nYours: %4\n\nKeep your changes and overwrite the other "
-                           "ones, or reload the stored version and lose your changes?")
+        const int answer = m_ui.ask(Tr::tr("Changed Elsewhere"),
+            Tr::tr("“%1” of “%2” was changed by another program (another Tabo window or tabo-cli) while you "
+                   "were editing it.\n\nStored now: %3\nYours: %4\n\nKeep your changes and overwrite the other "
+                   "ones, or reload the stored version and lose your changes?")
                 .arg(document->desc().attributes[attr].name,
-                     document->text(Invoice::number).isEmpty() ? document->text(Invoice::title)
-                                                                : document->text(Invoice::number),
-                     shown(stored), shown(value)),
-            {QStringLiteral("Keep My Changes"), QStringLiteral("Reload")}, 1);
+                    document->text(Invoice::number).isEmpty() ? document->text(Invoice::title)
+                                                              : document->text(Invoice::number),
+                    shown(stored), shown(value)),
+            { Tr::tr("Keep My Changes"), Tr::tr("Reload") }, 1);
         if (answer != 0)
             return false;
     }
     if (attr == Invoice::due && !confirmDueDate(*document, value))
         return false;
-    const UndoHistory::Step step(*m_undo, document,
-                                 attr == Invoice::status ? QStringLiteral("Status") : QStringLiteral("Typing"));
+    const UndoHistory::Step step(*m_undo, document, attr == Invoice::status ? Tr::tr("Status") : Tr::tr("Typing"));
     document->setValue(attr, value);
     documentChanged(document);
     return true;
@@ -899,12 +898,11 @@ bool AppController::confirmDueDate(const Record &document, const QVariant &due)
     if (!dueDay.isValid() || dueDay >= day)
         return true;
     m_dueDateAsked.insert(document.text(Invoice::uniqueID));
-    const int answer = m_ui.ask(
-        QStringLiteral("Due Date Before Invoice Date"),
-        QStringLiteral("The invoice would be due on %1, before its own date, %2: it would be overdue the moment it "
-                       "is sent. Keep this due date?")
+    const int answer = m_ui.ask(Tr::tr("Due Date Before Invoice Date"),
+        Tr::tr("The invoice would be due on %1, before its own date, %2: it would be overdue the moment it "
+               "is sent. Keep this due date?")
             .arg(QLocale().toString(dueDay, QLocale::ShortFormat), QLocale().toString(day, QLocale::ShortFormat)),
-        {QStringLiteral("Keep Due Date"), QStringLiteral("Cancel")}, 1);
+        { Tr::tr("Keep Due Date"), Tr::tr("Cancel") }, 1);
     return answer == 0;
 }
 

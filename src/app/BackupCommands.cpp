@@ -12,10 +12,18 @@
 #include "store/Store.h"
 #include "store/StoreFile.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(BackupCommands)
+};
+} // namespace
 
 namespace tabo {
 
@@ -23,11 +31,26 @@ namespace {
 
 using P = Preferences;
 
-const QString kError = QStringLiteral("Error!");
-const QString kWarning = QStringLiteral("Warning!");
-const QString kOK = QStringLiteral("OK");
-const QString kRestore = QStringLiteral("Restore…");
-const QString kCancel = QStringLiteral("Cancel");
+QString kError()
+{
+    return Tr::tr("Error!");
+}
+QString kWarning()
+{
+    return Tr::tr("Warning!");
+}
+QString kOK()
+{
+    return Tr::tr("OK");
+}
+QString kRestore()
+{
+    return Tr::tr("Restore…");
+}
+QString kCancel()
+{
+    return Tr::tr("Cancel");
+}
 
 QVariantList recordList(Store &store, EntityId entity)
 {
@@ -70,14 +93,20 @@ EntityId entityOf(const QVariantMap &dictionary)
 QString kindInWords(EntityId entity)
 {
     switch (entity) {
-    case EntityId::Invoice: return QStringLiteral("documents (an invoice backup or an XML export); restore it with "
-                                                  "File ▸ Restore Invoices… or tabo-cli restore invoices");
-    case EntityId::RecentItem: return QStringLiteral("catalogue items (an item backup); restore it with "
-                                                     "File ▸ Restore Items… or tabo-cli restore items");
-    case EntityId::Address: return QStringLiteral("remembered addresses, which no restore replaces");
-    case EntityId::RecentShipping: return QStringLiteral("remembered shipping lines, which no restore replaces");
-    case EntityId::Design: return QStringLiteral("designs; import them from the Design pane");
-    default: return QStringLiteral("records no restore replaces");
+    case EntityId::Invoice:
+        return Tr::tr("documents (an invoice backup or an XML export); restore it with "
+                      "File ▸ Restore Invoices… or tabo-cli restore invoices");
+    case EntityId::RecentItem:
+        return Tr::tr("catalogue items (an item backup); restore it with "
+                      "File ▸ Restore Items… or tabo-cli restore items");
+    case EntityId::Address:
+        return Tr::tr("remembered addresses, which no restore replaces");
+    case EntityId::RecentShipping:
+        return Tr::tr("remembered shipping lines, which no restore replaces");
+    case EntityId::Design:
+        return Tr::tr("designs; import them from the Design pane");
+    default:
+        return Tr::tr("records no restore replaces");
     }
 }
 
@@ -88,18 +117,18 @@ QString fileKind(const QString &path, const QVariant &root)
     QFile file(path);
     const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(16) : QByteArray();
     if (head.startsWith("SQLite format 3"))
-        return QStringLiteral("It is a complete database backup; restore it with File ▸ Restore Database… or "
-                              "tabo-cli restore database.");
+        return Tr::tr("It is a complete database backup; restore it with File ▸ Restore Database… or "
+                      "tabo-cli restore database.");
     if (head.startsWith("bplist00"))
-        return QStringLiteral("It is a single exported document or a design; import it with File ▸ Import… or "
-                              "from the Design pane.");
+        return Tr::tr("It is a single exported document or a design; import it with File ▸ Import… or "
+                      "from the Design pane.");
     if (head.startsWith("%PDF"))
-        return QStringLiteral("It is a PDF file.");
+        return Tr::tr("It is a PDF file.");
     if (root.typeId() == QMetaType::QVariantMap && root.toMap().contains(QStringLiteral("invoices")))
-        return QStringLiteral("It is an invoice dump, which no restore reads.");
+        return Tr::tr("It is an invoice dump, which no restore reads.");
     if (root.typeId() == QMetaType::QVariantMap)
-        return QStringLiteral("It holds a single record, not a list of them.");
-    return QStringLiteral("It does not hold a list of records.");
+        return Tr::tr("It holds a single record, not a list of them.");
+    return Tr::tr("It does not hold a list of records.");
 }
 
 } // namespace
@@ -110,11 +139,13 @@ Result<Store *> BackupCommands::checkedStore()
 {
     Store *store = m_access.store();
     if (!store)
-        return Error{Error::Tabo, 1, QStringLiteral("There is no database to back up."), {}};
+        return Error { Error::Tabo, 1, Tr::tr("There is no database to back up."), {} };
     if (const Error e = store->checkIntegrity())
-        return Error{Error::Store, e.code,
-                     QStringLiteral("No backup was taken: the database fails its check, and a backup of it would be "
-                                    "no better. %1").arg(e.message()), {}};
+        return Error { Error::Store, e.code,
+            Tr::tr("No backup was taken: the database fails its check, and a backup of it would be "
+                   "no better. %1")
+                .arg(e.message()),
+            {} };
     return store;
 }
 
@@ -127,7 +158,7 @@ Error BackupCommands::writeRecords(EntityId entity, const QString &path)
     if (Error e = m_access.save())
         return e;
     if (Error e = plist::writeFile(path, recordList(*store, entity), plist::Format::Xml)) {
-        qWarning().noquote() << QStringLiteral("Unable to write %1: %2").arg(path, e.message());
+        qWarning().noquote() << Tr::tr("Unable to write %1: %2").arg(path, e.message());
         return e;
     }
     return {};
@@ -154,25 +185,25 @@ Error BackupCommands::restoreRecords(EntityId entity, const QString &path, const
         list = root.toList();
         for (qsizetype i = 0; i < list.size() && reason.isEmpty(); ++i) {
             if (list[i].typeId() != QMetaType::QVariantMap) {
-                reason = QStringLiteral("Entry %1 is not a record.").arg(i + 1);
+                reason = Tr::tr("Entry %1 is not a record.").arg(i + 1);
             } else if (const EntityId found = entityOf(list[i].toMap()); found != entity) {
-                reason = QStringLiteral("It holds %1.").arg(kindInWords(found));
+                reason = Tr::tr("It holds %1.").arg(kindInWords(found));
             }
         }
     } else if (root.isValid() || QFileInfo(path).isFile()) {
         reason = fileKind(path, root);
     } else if (reason.isEmpty()) {
-        reason = QStringLiteral("It could not be read.");
+        reason = Tr::tr("It could not be read.");
     }
     if (!reason.isEmpty()) {
-        const QString text = QStringLiteral("The file “%1” is not a %2. %3").arg(QFileInfo(path).fileName(), what, reason);
-        m_ui.alert(kError, text, {kOK});
+        const QString text = Tr::tr("The file “%1” is not a %2. %3").arg(QFileInfo(path).fileName(), what, reason);
+        m_ui.alert(kError(), text, { kOK() });
         return Error::file(text);
     }
 
     Store *store = m_access.store();
     if (!store)
-        return Error{Error::Tabo, 1, QStringLiteral("There is no database to restore into."), {}};
+        return Error { Error::Tabo, 1, Tr::tr("There is no database to restore into."), {} };
     if (Error e = m_access.save())
         return e;
     const bool documents = entity == EntityId::Invoice;
@@ -221,9 +252,9 @@ bool BackupCommands::backupCompleteTaboData()
     if (!m_access.store() || m_access.save())
         return false;
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Backup Tabo Database");
+    request.title = Tr::tr("Backup Tabo Database");
     request.extensions = {QStringLiteral("mbdb")};
-    request.suggestedName = QStringLiteral("Tabo 2 Database");
+    request.suggestedName = Tr::tr("Tabo 2 Database");
     request.canCreateFolders = true;
     const QString path = m_ui.saveTarget(request);
     if (path.isEmpty())
@@ -235,7 +266,7 @@ Error BackupCommands::writeCompleteBackup(const QString &chosenPath)
 {
     Store *store = m_access.store();
     if (!store)
-        return Error{Error::Tabo, 1, QStringLiteral("There is no database to back up."), {}};
+        return Error { Error::Tabo, 1, Tr::tr("There is no database to back up."), {} };
     if (Error e = m_access.save())
         return e;
     const QFileInfo chosen(chosenPath);
@@ -249,15 +280,14 @@ Error BackupCommands::writeCompleteBackup(const QString &chosenPath)
 
 bool BackupCommands::restoreCompleteTaboData()
 {
-    const int answer = m_ui.alert(
-        kWarning,
-        QStringLiteral("You are about to restore your entire Tabo database from a backup. This will irretrievably "
-                       "replace any existing data. Do you really want to do that?"),
-        {kRestore, kCancel});
+    const int answer = m_ui.alert(kWarning(),
+        Tr::tr("You are about to restore your entire Tabo database from a backup. This will irretrievably "
+               "replace any existing data. Do you really want to do that?"),
+        { kRestore(), kCancel() });
     if (answer != 0)
         return false;
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Restore Tabo 2 Database");
+    request.title = Tr::tr("Restore Tabo 2 Database");
     request.extensions = {QStringLiteral("tabo2db")};
     const QString path = m_ui.openFile(request);
     if (path.isEmpty())
@@ -273,33 +303,35 @@ Error BackupCommands::restoreCompleteBackup(const QString &backupPath)
     const QString storePath = m_files.storeFilePath();
     const QString name = QFileInfo(backupPath).fileName();
     const auto fail = [&](const QString &text) {
-        m_ui.alert(kError, text, {kOK});
+        m_ui.alert(kError(), text, { kOK() });
         return Error::file(text);
     };
 
     StoreFile copy(storePath);
     if (copy.path().isEmpty())
-        return fail(QStringLiteral("The file “%1” could not be restored. No working copy could be made beside the "
-                                   "database.").arg(name));
+        return fail(Tr::tr("The file “%1” could not be restored. No working copy could be made beside the "
+                           "database.")
+                        .arg(name));
     if (const Error e = copy.copyFrom(backupPath))
-        return fail(QStringLiteral("The file “%1” could not be restored. %2").arg(name, e.message()));
+        return fail(Tr::tr("The file “%1” could not be restored. %2").arg(name, e.message()));
     if (const Error e = copy.check()) {
         // A list of records read as what it is tells which restore fits.
         const QVariant root = plist::readFile(backupPath).value();
         const QVariantList list = root.toList();
         const QString kind = !list.isEmpty() && list.first().typeId() == QMetaType::QVariantMap
-                                 ? QStringLiteral("It holds %1.").arg(kindInWords(entityOf(list.first().toMap())))
-                                 : root.isValid() ? fileKind(backupPath, root)
-                                                  : e.message().replace(copy.path(), backupPath);
-        return fail(QStringLiteral("The file “%1” is not a Tabo database backup. %2").arg(name, kind));
+            ? Tr::tr("It holds %1.").arg(kindInWords(entityOf(list.first().toMap())))
+            : root.isValid() ? fileKind(backupPath, root)
+                             : e.message().replace(copy.path(), backupPath);
+        return fail(Tr::tr("The file “%1” is not a Tabo database backup. %2").arg(name, kind));
     }
     StoreFile::pauseForTest();
     if (m_access.hasStore())
         if (Error e = m_access.save())
             return e;
     if (const Error e = swapIn(copy))
-        return fail(QStringLiteral("The database could not be restored from “%1”. %2 Your previous data are still in "
-                                   "place.").arg(name, e.message()));
+        return fail(Tr::tr("The database could not be restored from “%1”. %2 Your previous data are still in "
+                           "place.")
+                        .arg(name, e.message()));
     return {};
 }
 
@@ -308,9 +340,9 @@ bool BackupCommands::backupTaboData()
     if (!m_access.store() || m_access.save())
         return false;
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Backup Tabo Invoices");
+    request.title = Tr::tr("Backup Tabo Invoices");
     request.extensions = {QStringLiteral("taboinvoices")};
-    request.suggestedName = QStringLiteral("Tabo Invoices");
+    request.suggestedName = Tr::tr("Tabo Invoices");
     const QString path = m_ui.saveTarget(request);
     if (path.isEmpty())
         return false;
@@ -319,15 +351,14 @@ bool BackupCommands::backupTaboData()
 
 bool BackupCommands::restoreTaboData()
 {
-    const int answer = m_ui.alert(
-        kWarning,
-        QStringLiteral("You are about to restore your Tabo invoices from a backup. This will irretrievably replace "
-                       "any existing invoices. Do you really want to do that?"),
-        {kRestore, kCancel});
+    const int answer = m_ui.alert(kWarning(),
+        Tr::tr("You are about to restore your Tabo invoices from a backup. This will irretrievably replace "
+               "any existing invoices. Do you really want to do that?"),
+        { kRestore(), kCancel() });
     if (answer != 0)
         return false;
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Restore Tabo Invoices");
+    request.title = Tr::tr("Restore Tabo Invoices");
     request.extensions = {QStringLiteral("taboinvoices")};
     const QString path = m_ui.openFile(request);
     if (path.isEmpty())
@@ -340,9 +371,9 @@ bool BackupCommands::backupItems()
     if (!m_access.store() || m_access.save())
         return false;
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Backup Tabo Items");
+    request.title = Tr::tr("Backup Tabo Items");
     request.extensions = {QStringLiteral("taboitems")};
-    request.suggestedName = QStringLiteral("Tabo Items");
+    request.suggestedName = Tr::tr("Tabo Items");
     const QString path = m_ui.saveTarget(request);
     if (path.isEmpty())
         return false;
@@ -351,15 +382,14 @@ bool BackupCommands::backupItems()
 
 bool BackupCommands::restoreItems()
 {
-    const int answer = m_ui.alert(
-        kWarning,
-        QStringLiteral("You are about to restore your Tabo items from a backup. This will irretrievably replace any "
-                       "existing items. Do you really want to do that?"),
-        {kRestore, kCancel});
+    const int answer = m_ui.alert(kWarning(),
+        Tr::tr("You are about to restore your Tabo items from a backup. This will irretrievably replace any "
+               "existing items. Do you really want to do that?"),
+        { kRestore(), kCancel() });
     if (answer != 0)
         return false;
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Restore Tabo Items");
+    request.title = Tr::tr("Restore Tabo Items");
     request.extensions = {QStringLiteral("taboitems")};
     const QString path = m_ui.openFile(request);
     if (path.isEmpty())
@@ -374,7 +404,7 @@ Error BackupCommands::writeInvoiceBackup(const QString &path)
 
 Error BackupCommands::restoreInvoiceBackup(const QString &path)
 {
-    return restoreRecords(EntityId::Invoice, path, QStringLiteral("Tabo invoice backup"));
+    return restoreRecords(EntityId::Invoice, path, Tr::tr("Tabo invoice backup"));
 }
 
 Error BackupCommands::writeItemBackup(const QString &path)
@@ -384,7 +414,7 @@ Error BackupCommands::writeItemBackup(const QString &path)
 
 Error BackupCommands::restoreItemBackup(const QString &path)
 {
-    return restoreRecords(EntityId::RecentItem, path, QStringLiteral("Tabo item backup"));
+    return restoreRecords(EntityId::RecentItem, path, Tr::tr("Tabo item backup"));
 }
 
 bool BackupCommands::createBackup()
@@ -428,7 +458,7 @@ Error BackupCommands::doTheNewBackup()
         QFile::rename(generations[i - 1], generations[i]);
     }
     if (Error e = ProtectedFiles::writeAtomically(path, data.value(), ProtectedFiles::Writer::AutomaticBackup)) {
-        qWarning().noquote() << QStringLiteral("Unable to write %1: %2").arg(path, e.text);
+        qWarning().noquote() << Tr::tr("Unable to write %1: %2").arg(path, e.text);
         return e;
     }
     return {};
@@ -445,10 +475,10 @@ bool BackupCommands::restoreFromBackup()
             break;
         }
     if (!QFileInfo(path).isFile()) {
-        m_ui.alert(kError,
-                         QStringLiteral("No valid backup file available. Please restore your Tabo database from your "
-                                        "own (Time Machine) backups."),
-                         {kOK});
+        m_ui.alert(kError(),
+            Tr::tr("No valid backup file available. Please restore your Tabo database from your "
+                   "own (Time Machine) backups."),
+            { kOK() });
         return false;
     }
     return !restoreInvoiceBackup(path);
@@ -464,27 +494,26 @@ bool BackupCommands::restoreAutomaticallyFromSandbox()
     const auto fail = [this](const QString &description, const QString &reason) {
         if (!description.isEmpty())
             m_ui.presentError(Error{Error::Tabo, 1, description, reason});
-        m_ui.alert(kError,
-                         QStringLiteral("Could not restore Tabo database automatically. Please do this by hand. In "
-                                        "case of problems, simply contact the Pemra support."),
-                         {kOK});
+        m_ui.alert(kError(),
+            Tr::tr("Could not restore Tabo database automatically. Please do this by hand. In "
+                   "case of problems, simply contact the Pemra support."),
+            { kOK() });
         return false;
     };
 
     m_access.store();
     StoreFile copy(storePath);
     const Error copied = copy.path().isEmpty()
-                             ? Error::file(QStringLiteral("No working copy could be made beside the database."))
-                             : copy.copyFrom(source);
+        ? Error::file(Tr::tr("No working copy could be made beside the database."))
+        : copy.copyFrom(source);
     if (copied)
-        return fail(QStringLiteral("Failed to create writable database file with message '%1'.").arg(copied.message()), {});
+        return fail(Tr::tr("Failed to create writable database file with message '%1'.").arg(copied.message()), {});
     if (const Error e = copy.check())
-        return fail(QStringLiteral("The database “%1” cannot be used.").arg(source),
-                    e.message().replace(copy.path(), source));
+        return fail(Tr::tr("The database “%1” cannot be used.").arg(source), e.message().replace(copy.path(), source));
     if (m_access.hasStore() && m_access.save())
         return fail({}, {}); // the save error has been presented
     if (const Error e = swapIn(copy))
-        return fail(QStringLiteral("The database “%1” could not be replaced.").arg(storePath), e.message());
+        return fail(Tr::tr("The database “%1” could not be replaced.").arg(storePath), e.message());
     return true;
 }
 

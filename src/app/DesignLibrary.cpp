@@ -10,10 +10,18 @@
 #include "store/ObjectDictionary.h"
 #include "store/Store.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QtDebug>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DesignLibrary)
+};
+} // namespace
 
 namespace tabo {
 
@@ -132,7 +140,7 @@ Record *DesignLibrary::addDesign()
         return nullptr;
     Record *design = store->insert(EntityId::Design);
     design->setText(Design::uniqueID, newUniqueId());
-    design->setText(Design::title, QStringLiteral("New Design"));
+    design->setText(Design::title, Tr::tr("New Design"));
     design->setText(Design::invoice, defaultResourceText(QStringLiteral("Invoice")));
     design->setText(Design::item, defaultResourceText(QStringLiteral("Item")));
     design->setText(Design::css, defaultResourceText(QStringLiteral("CSS")));
@@ -154,10 +162,9 @@ bool DesignLibrary::deleteDesign(Record *design)
     Store *store = m_store.store();
     if (!store || !design || design->isDeleted())
         return false;
-    const int answer = m_ui.alert(
-        QStringLiteral("Delete Design"),
-        QStringLiteral("Deleting designs is permanent and cannot be undone. Do you really want to delete the selected design?"),
-        {QStringLiteral("Delete"), QStringLiteral("Cancel")});
+    const int answer = m_ui.alert(Tr::tr("Delete Design"),
+        Tr::tr("Deleting designs is permanent and cannot be undone. Do you really want to delete the selected design?"),
+        { Tr::tr("Delete"), Tr::tr("Cancel") });
     if (answer != 0)
         return false;
     const int index = int(designs().indexOf(design));
@@ -184,7 +191,7 @@ Record *DesignLibrary::importDesign()
     if (!m_store.store())
         return nullptr; // the missing store has been reported already
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Import Tabo Design");
+    request.title = Tr::tr("Import Tabo Design");
     request.extensions = {kExtension};
     request.chooseFolders = false;
     const QString path = m_ui.openFile(request);
@@ -192,8 +199,8 @@ Record *DesignLibrary::importDesign()
         return nullptr;
     const Result<Record *> design = importDesignFile(path);
     if (!design)
-        m_ui.presentError(fileError(259, QStringLiteral("The design “%1” could not be imported.")
-                                             .arg(QFileInfo(path).fileName()), design.error().text));
+        m_ui.presentError(fileError(259,
+            Tr::tr("The design “%1” could not be imported.").arg(QFileInfo(path).fileName()), design.error().text));
     return design.value();
 }
 
@@ -201,7 +208,7 @@ Result<Record *> DesignLibrary::importDesignFile(const QString &path)
 {
     Store *store = m_store.store();
     if (!store)
-        return Error::file(QStringLiteral("There is no store to import into."));
+        return Error::file(Tr::tr("There is no store to import into."));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return Error::file(file.errorString());
@@ -210,9 +217,8 @@ Result<Record *> DesignLibrary::importDesignFile(const QString &path)
     // in the list would only puzzle the person.
     Record *design = dictionary ? OD::createManagedObjectFromDictionary(dictionary.value(), *store) : nullptr;
     if (!design)
-        return Error::file(dictionary ? QStringLiteral("The file is not a Tabo design.")
-                                      : QStringLiteral("The file is not a Tabo design. %1")
-                                            .arg(dictionary.error().message()));
+        return Error::file(dictionary ? Tr::tr("The file is not a Tabo design.")
+                                      : Tr::tr("The file is not a Tabo design. %1").arg(dictionary.error().message()));
     design->setBool(Design::isDefault, false);
     // The same file imported twice gets a second ID, so an ID names one design.
     ensureOwnUniqueId(*design, Design::uniqueID, designs());
@@ -226,7 +232,7 @@ bool DesignLibrary::exportDesign(const Record *design)
     if (!design)
         return false;
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Export Tabo Design");
+    request.title = Tr::tr("Export Tabo Design");
     request.extensions = {kExtension};
     request.canCreateFolders = true;
     // A slash in a title cannot be part of a file name.
@@ -238,7 +244,7 @@ bool DesignLibrary::exportDesign(const Record *design)
         path += QLatin1Char('.') + kExtension;
     if (const Error e = exportDesignFile(design, path)) {
         m_ui.presentError(fileError(
-            261, QStringLiteral("The design could not be exported to “%1”.").arg(QFileInfo(path).fileName()), e.text));
+            261, Tr::tr("The design could not be exported to “%1”.").arg(QFileInfo(path).fileName()), e.text));
         return false;
     }
     return true;
@@ -247,10 +253,10 @@ bool DesignLibrary::exportDesign(const Record *design)
 Error DesignLibrary::exportDesignFile(const Record *design, const QString &path)
 {
     if (!design)
-        return Error::file(QStringLiteral("No design is selected."));
+        return Error::file(Tr::tr("No design is selected."));
     const Result<QByteArray> data = designFileData(*design);
     if (!data)
-        return Error::file(QStringLiteral("The design could not be archived. %1").arg(data.error().text));
+        return Error::file(Tr::tr("The design could not be archived. %1").arg(data.error().text));
     return ProtectedFiles::writeAtomically(path, data.value());
 }
 

@@ -10,8 +10,16 @@
 #include "render/PageSetup.h"
 #include "render/SampleDocument.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QPointer>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DesignPreview)
+};
+} // namespace
 
 namespace tabo {
 
@@ -150,8 +158,8 @@ void DesignPreview::generatePreview(const Record *design)
     const QString path = m_files.pdfPath();
     const bool ok = m_outputs.renderHtmlToFile(sampleHtml(design), path);
     if (!ok) {
-        m_ui.alert(QStringLiteral("Ooops!"), QStringLiteral("Something went really wrong while creating the preview."),
-                         {QStringLiteral("OK")});
+        m_ui.alert(
+            Tr::tr("Ooops!"), Tr::tr("Something went really wrong while creating the preview."), { Tr::tr("OK") });
         return;
     }
     Q_EMIT previewReady(path);
@@ -160,13 +168,13 @@ void DesignPreview::generatePreview(const Record *design)
 bool DesignPreview::printPreview()
 {
     PrintRequest request;
-    request.jobTitle = QStringLiteral("%1 | %2 | %3")
-                           .arg(m_prefs.string(P::prefsName), QStringLiteral("1234"), QStringLiteral("Invoice"));
+    request.jobTitle
+        = QStringLiteral("%1 | %2 | %3").arg(m_prefs.string(P::prefsName), QStringLiteral("1234"), Tr::tr("Invoice"));
     m_prefs.setString(P::currentPrintJobTitle, request.jobTitle);
     if (!m_ui.printDialog(request))
         return false;
     if (const Error error = PrintSystem::printFile(m_files.pdfPath(), request)) {
-        m_ui.alert(QStringLiteral("Error!"), error.message(), {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("Error!"), error.message(), { Tr::tr("OK") });
         return false;
     }
     return true;

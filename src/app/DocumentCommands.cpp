@@ -12,6 +12,14 @@
 #include "prefs/Preferences.h"
 #include "render/Formatters.h"
 #include "store/Store.h"
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DocumentCommands)
+};
+} // namespace
 
 namespace tabo {
 
@@ -19,8 +27,14 @@ namespace {
 
 using P = Preferences;
 
-const QString kOk = QStringLiteral("OK");
-const QString kCancel = QStringLiteral("Cancel");
+QString kOk()
+{
+    return Tr::tr("OK");
+}
+QString kCancel()
+{
+    return Tr::tr("Cancel");
+}
 
 QString prefText(const Preferences &prefs, P::Key key)
 {
@@ -86,25 +100,25 @@ Record *DocumentCommands::cancelInvoice()
         return nullptr;
     Interaction &ui = m_ui;
     if (original->integer(Invoice::kind) != 1) {
-        ui.alert(QStringLiteral("Sorry!"),
-                 QStringLiteral("A quote is not cancelled by a credit note: nothing was charged. Change or delete "
-                                "the quote instead."),
-                 {kOk});
+        ui.alert(Tr::tr("Sorry!"),
+            Tr::tr("A quote is not cancelled by a credit note: nothing was charged. Change or delete "
+                   "the quote instead."),
+            { kOk() });
         return nullptr;
     }
     if (!isCurrentInvoiceSent() || !original->text(Invoice::precedingNumber).isEmpty()) {
-        ui.alert(QStringLiteral("Sorry!"),
-                 QStringLiteral("Only an invoice marked as sent or paid is cancelled by a credit note. An invoice "
-                                "still marked as created can be changed or deleted instead."),
-                 {kOk});
+        ui.alert(Tr::tr("Sorry!"),
+            Tr::tr("Only an invoice marked as sent or paid is cancelled by a credit note. An invoice "
+                   "still marked as created can be changed or deleted instead."),
+            { kOk() });
         return nullptr;
     }
     const QString number = original->text(Invoice::number).trimmed();
-    const int answer = ui.ask(QStringLiteral("Cancel Invoice"),
-                              QStringLiteral("A credit note with the same lines, negated, cancels this invoice; the "
-                                             "invoice itself stays as it is.\n\n")
-                                  + describe(*original),
-                              {QStringLiteral("Create Credit Note"), kCancel}, 1);
+    const int answer = ui.ask(Tr::tr("Cancel Invoice"),
+        Tr::tr("A credit note with the same lines, negated, cancels this invoice; the "
+               "invoice itself stays as it is.\n\n")
+            + describe(*original),
+        { Tr::tr("Create Credit Note"), kCancel() }, 1);
     if (answer != 0)
         return nullptr;
     const QDate day = original->date(Invoice::date).toDateTime().toLocalTime().date();
@@ -117,7 +131,7 @@ Record *DocumentCommands::cancelInvoice()
     note->setText(Invoice::title, prefs.string(P::locCreditNote));
     QString pattern = prefs.string(P::locCreditNoteFor);
     if (!pattern.contains(QLatin1String("%1")))
-        pattern = QStringLiteral("Cancels invoice %1 of %2");
+        pattern = Tr::tr("Cancels invoice %1 of %2");
     note->setText(Invoice::subject,
                   pattern.arg(number, Numbering::getPatternDateStringFromDate(prefs, original->date(Invoice::date))));
     for (Record *line : note->toMany(Invoice::items))
@@ -137,15 +151,14 @@ bool DocumentCommands::convertQuoteToInvoice()
         return false;
     Interaction &ui = m_ui;
     if (doc->integer(Invoice::kind) != 0) {
-        ui.alert(QStringLiteral("Sorry!"), QStringLiteral("You can't convert an invoice into a quote."), {kOk});
+        ui.alert(Tr::tr("Sorry!"), Tr::tr("You can't convert an invoice into a quote."), { kOk() });
         return false;
     }
-    const int answer = ui.alert(
-        QStringLiteral("Convert Into Invoice"),
-        QStringLiteral("Do you really want to convert the selected quote into an invoice? This will also change the "
-                       "title, the boilerplate text, the counter for your invoice numbering, and you can't undo this "
-                       "action."),
-        {QStringLiteral("Convert"), kCancel});
+    const int answer = ui.alert(Tr::tr("Convert Into Invoice"),
+        Tr::tr("Do you really want to convert the selected quote into an invoice? This will also change the "
+               "title, the boilerplate text, the counter for your invoice numbering, and you can't undo this "
+               "action."),
+        { Tr::tr("Convert"), kCancel() });
     if (answer != 0)
         return false;
 
@@ -179,26 +192,26 @@ bool DocumentCommands::deleteInvoice()
     Interaction &ui = m_ui;
     const bool invoice = doc->integer(Invoice::kind) == 1;
     if (invoice && isCurrentInvoiceSent()) {
-        ui.alert(QStringLiteral("Error!"),
-                 QStringLiteral("The selected invoice is marked as already sent. If you really need to delete it, "
-                                "please set its status back to 'Created' first."),
-                 {kOk});
+        ui.alert(Tr::tr("Error!"),
+            Tr::tr("The selected invoice is marked as already sent. If you really need to delete it, "
+                   "please set its status back to 'Created' first."),
+            { kOk() });
         return false;
     }
     // The question names the document, so the wrong one is not deleted
     // after a slip of the selection; Return keeps it.
     const QString which = QStringLiteral("\n\n") + describe(*doc);
     const int answer = invoice
-        ? ui.ask(QStringLiteral("Delete Invoice"),
-                 QStringLiteral("Deleting invoices is permanent and cannot be undone. Do you really want to "
-                                "delete the selected invoice?")
-                     + which,
-                 {QStringLiteral("Delete"), kCancel}, 1)
-        : ui.ask(QStringLiteral("Delete Quote"),
-                 QStringLiteral("Deleting quotes is permanent and cannot be undone. Do you really want to delete "
-                                "the selected quote?")
-                     + which,
-                 {QStringLiteral("Delete"), kCancel}, 1);
+        ? ui.ask(Tr::tr("Delete Invoice"),
+            Tr::tr("Deleting invoices is permanent and cannot be undone. Do you really want to "
+                   "delete the selected invoice?")
+                + which,
+            { Tr::tr("Delete"), kCancel() }, 1)
+        : ui.ask(Tr::tr("Delete Quote"),
+            Tr::tr("Deleting quotes is permanent and cannot be undone. Do you really want to delete "
+                   "the selected quote?")
+                + which,
+            { Tr::tr("Delete"), kCancel() }, 1);
     if (answer != 0)
         return false;
 
@@ -224,20 +237,18 @@ bool DocumentCommands::deleteInvoice()
     else
         prefs.remove(counter);
     const QString kind = invoice ? QStringLiteral("invoice") : QStringLiteral("quote");
-    const QString consequences =
-        unchanged == adjusted || adjusted.isEmpty()
-            ? QString()
-            : QStringLiteral("\n\nAdjust Counter: the next %1 will be numbered %2.\nCancel: the next %1 will be "
-                             "numbered %3.")
-                  .arg(kind, adjusted, unchanged);
-    const int adjust = ui.alert(
-        QStringLiteral("Adjust Counter"),
-        (invoice ? QStringLiteral("Do you want Tabo to automatically adjust your invoice counter so that you won't use "
-                                  "the same invoice number twice?")
-                 : QStringLiteral("Do you want Tabo to automatically adjust your quote counter so that you won't use "
-                                  "the same quote number twice?"))
+    const QString consequences = unchanged == adjusted || adjusted.isEmpty()
+        ? QString()
+        : Tr::tr("\n\nAdjust Counter: the next %1 will be numbered %2.\nCancel: the next %1 will be "
+                 "numbered %3.")
+              .arg(kind, adjusted, unchanged);
+    const int adjust = ui.alert(Tr::tr("Adjust Counter"),
+        (invoice ? Tr::tr("Do you want Tabo to automatically adjust your invoice counter so that you won't use "
+                          "the same invoice number twice?")
+                 : Tr::tr("Do you want Tabo to automatically adjust your quote counter so that you won't use "
+                          "the same quote number twice?"))
             + consequences,
-        {QStringLiteral("Adjust Counter"), kCancel});
+        { Tr::tr("Adjust Counter"), kCancel() });
     if (adjust == 0)
         if (const Error e = m_numbers.raiseNumberCounter(counter))
             ui.presentError(e);
@@ -247,7 +258,7 @@ bool DocumentCommands::deleteInvoice()
 QString DocumentCommands::describe(const Record &document) const
 {
     const bool invoice = document.integer(Invoice::kind) == 1;
-    QString text = invoice ? QStringLiteral("Invoice") : QStringLiteral("Quote");
+    QString text = invoice ? Tr::tr("Invoice") : Tr::tr("Quote");
     const QString number = document.text(Invoice::number).trimmed();
     if (!number.isEmpty())
         text += QLatin1Char(' ') + number;

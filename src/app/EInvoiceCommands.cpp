@@ -12,10 +12,18 @@
 #include "prefs/ProtectedFiles.h"
 #include "einvoice/UblWriter.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QSaveFile>
 #include <QTemporaryDir>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(EInvoiceCommands)
+};
+} // namespace
 
 namespace tabo {
 
@@ -40,9 +48,9 @@ QString EInvoiceCommands::problemsText(const einvoice::Mapping &mapping)
 
 QString EInvoiceCommands::toTheCentAdvice()
 {
-    return QStringLiteral("Make a copy calculated to the cent, whose e-invoice states exactly what it prints, or "
-                          "switch the setting for new invoices (Preferences ▸ Taxes ▸ Calculate new documents to "
-                          "the cent).");
+    return Tr::tr("Make a copy calculated to the cent, whose e-invoice states exactly what it prints, or "
+                  "switch the setting for new invoices (Preferences ▸ Taxes ▸ Calculate new documents to "
+                  "the cent).");
 }
 
 bool EInvoiceCommands::checked(const einvoice::Mapping &mapping, Record &document) const
@@ -50,13 +58,12 @@ bool EInvoiceCommands::checked(const einvoice::Mapping &mapping, Record &documen
     if (mapping.ok())
         return true;
     if (!mapping.toTheCentHelps || !mapping.missing.isEmpty()) {
-        m_ui.alert(QStringLiteral("The e-invoice cannot be written yet"), problemsText(mapping),
-                         {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("The e-invoice cannot be written yet"), problemsText(mapping), { Tr::tr("OK") });
         return false;
     }
-    const int answer = m_ui.alert(QStringLiteral("The e-invoice cannot be written yet"),
-                                        problemsText(mapping) + QStringLiteral("\n\n") + toTheCentAdvice(),
-                                        {QStringLiteral("OK"), QStringLiteral("Make a copy calculated to the cent")});
+    const int answer = m_ui.alert(Tr::tr("The e-invoice cannot be written yet"),
+        problemsText(mapping) + QStringLiteral("\n\n") + toTheCentAdvice(),
+        { Tr::tr("OK"), Tr::tr("Make a copy calculated to the cent") });
     if (answer == 1) {
         m_current.setCurrentInvoice(&document);
         m_documents.duplicateInvoice(true);
@@ -88,7 +95,7 @@ bool EInvoiceCommands::writeXml(const einvoice::Mapping &mapping, const QString 
 QString EInvoiceCommands::openReceived()
 {
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Open E-Invoice");
+    request.title = Tr::tr("Open E-Invoice");
     request.extensions = {QStringLiteral("xml"), QStringLiteral("pdf")};
     const QString path = m_ui.openFile(request);
     return path.isEmpty() ? QString() : viewReceived(path);
@@ -98,15 +105,14 @@ QString EInvoiceCommands::viewReceived(const QString &path)
 {
     const Result<einvoice::Received> read = einvoice::readReceivedFile(path);
     if (!read) {
-        m_ui.alert(QStringLiteral("The e-invoice cannot be shown"), read.error().text, {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("The e-invoice cannot be shown"), read.error().text, { Tr::tr("OK") });
         return {};
     }
     const einvoice::Received &received = read.value();
     QDir().mkpath(Locations::dataFolder());
     const QString pdf = QDir(Locations::dataFolder()).filePath(QStringLiteral("Received.pdf"));
     if (!m_outputs.renderHtmlToFile(einvoice::viewPage(received), pdf)) {
-        m_ui.alert(QStringLiteral("The e-invoice cannot be shown"),
-                         QStringLiteral("Its page could not be made."), {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("The e-invoice cannot be shown"), Tr::tr("Its page could not be made."), { Tr::tr("OK") });
         return {};
     }
     return pdf;
@@ -114,8 +120,7 @@ QString EInvoiceCommands::viewReceived(const QString &path)
 
 QStringList EInvoiceCommands::outputFormLabels()
 {
-    return {QStringLiteral("PDF"), QStringLiteral("PDF with e-invoice (Factur-X / ZUGFeRD)"),
-            QStringLiteral("E-invoice (XRechnung)")};
+    return { Tr::tr("PDF"), Tr::tr("PDF with e-invoice (Factur-X / ZUGFeRD)"), Tr::tr("E-invoice (XRechnung)") };
 }
 
 bool EInvoiceCommands::exportFacturX(Record &document, const QString &path)
@@ -146,7 +151,7 @@ bool EInvoiceCommands::writeFacturX(const Record &document, const einvoice::Mapp
 {
     QFile page(printedPdf);
     if (!page.open(QIODevice::ReadOnly)) {
-        m_ui.presentError(Error::file(QStringLiteral("The printed invoice “%1” cannot be read.").arg(printedPdf)));
+        m_ui.presentError(Error::file(Tr::tr("The printed invoice “%1” cannot be read.").arg(printedPdf)));
         return false;
     }
     einvoice::PdfInfo info;

@@ -13,9 +13,17 @@
 #include "store/PropertyList.h"
 #include "store/Store.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(FileCommands)
+};
+} // namespace
 
 namespace tabo {
 
@@ -25,17 +33,20 @@ using P = Preferences;
 namespace OD = ObjectDictionary;
 
 const QString kTaboDic = QStringLiteral("taboDic");
-const QString kDatabaseTitle = QStringLiteral("Export Tabo Database As XML");
+QString kDatabaseTitle()
+{
+    return Tr::tr("Export Tabo Database As XML");
+}
 
 Error writeArchive(const QString &path, const QVariantMap &root)
 {
     const Result<QByteArray> data = KeyedArchive::archive(root);
     if (!data)
-        return Error::file(QStringLiteral("The archive could not be built: %1").arg(data.error().text));
+        return Error::file(Tr::tr("The archive could not be built: %1").arg(data.error().text));
     return ProtectedFiles::writeAtomically(path, data.value());
 }
 
-const Error kNoDatabase = Error::file(QStringLiteral("There is no database."));
+const Error kNoDatabase = Error::file(Tr::tr("There is no database."));
 
 // Each record is its own top-level walk, so each carries its own copies of
 // whatever it shares with the others.
@@ -57,7 +68,7 @@ bool FileCommands::exportInvoice(int exportFormat)
     if (!invoice || (exportFormat != 0 && exportFormat != 1))
         return false;
     Interaction::FileRequest request;
-    request.title = exportFormat == 0 ? QStringLiteral("Export As Tabo Document") : QStringLiteral("Export As XML Document");
+    request.title = exportFormat == 0 ? Tr::tr("Export As Tabo Document") : Tr::tr("Export As XML Document");
     request.extensions = {exportFormat == 0 ? QStringLiteral("tabo") : QStringLiteral("xml")};
     // A slash cannot stand in a file name here; numbers such as "2026/17" are common.
     request.suggestedName = QStringLiteral("%1 | %2 | %3")
@@ -78,13 +89,13 @@ Error FileCommands::writeInvoiceFile(const Record &invoice, int exportFormat, co
         return writeArchive(path, {{kTaboDic, dictionary}});
     if (exportFormat == 1)
         return plist::writeFile(path, dictionary, plist::Format::Xml);
-    return Error{Error::Tabo, 1, QStringLiteral("Unknown export format %1.").arg(exportFormat), {}};
+    return Error { Error::Tabo, 1, Tr::tr("Unknown export format %1.").arg(exportFormat), {} };
 }
 
 bool FileCommands::exportItems()
 {
     Interaction::FileRequest request;
-    request.title = kDatabaseTitle;
+    request.title = kDatabaseTitle();
     request.extensions = {QStringLiteral("xml")};
     request.canCreateFolders = true;
     const QString path = m_ui.saveTarget(request);
@@ -94,9 +105,9 @@ bool FileCommands::exportItems()
 bool FileCommands::exportTaboDataXML()
 {
     Interaction::FileRequest request;
-    request.title = kDatabaseTitle;
+    request.title = kDatabaseTitle();
     request.extensions = {QStringLiteral("xml")};
-    request.suggestedName = QStringLiteral("Tabo Database");
+    request.suggestedName = Tr::tr("Tabo Database");
     request.canCreateFolders = true;
     const QString path = m_ui.saveTarget(request);
     return !path.isEmpty() && !writeItemsXml(false, path);
@@ -106,9 +117,9 @@ bool FileCommands::exportAsInvoiceFile()
 {
     m_store.save();
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Export As Invoices Dump");
+    request.title = Tr::tr("Export As Invoices Dump");
     request.extensions = {QStringLiteral("invdump")};
-    request.suggestedName = QStringLiteral("Invoices Dump");
+    request.suggestedName = Tr::tr("Invoices Dump");
     request.canCreateFolders = true;
     const QString path = m_ui.saveTarget(request);
     return !path.isEmpty() && !writeInvoiceDump(path);
@@ -142,26 +153,24 @@ Error FileCommands::writeInvoiceDump(const QString &path)
 Record *FileCommands::importInvoice()
 {
     Interaction &ui = m_ui;
-    const int answer = ui.alert(
-        QStringLiteral("Warning!"),
-        QStringLiteral("The integrity of your data is your responsibility, and yours alone. Tabo is just a stupid App "
-                       "and by design it can't know or care about duplicate invoices, messed up numbers, or if you're "
-                       "having a bad hair day. So please, do yourself a favor and check what you are doing here. Do "
-                       "you still want to import the invoice?"),
-        {QStringLiteral("Import…"), QStringLiteral("Cancel")});
+    const int answer = ui.alert(Tr::tr("Warning!"),
+        Tr::tr("The integrity of your data is your responsibility, and yours alone. Tabo is just a stupid App "
+               "and by design it can't know or care about duplicate invoices, messed up numbers, or if you're "
+               "having a bad hair day. So please, do yourself a favor and check what you are doing here. Do "
+               "you still want to import the invoice?"),
+        { Tr::tr("Import…"), Tr::tr("Cancel") });
     if (answer != 0)
         return nullptr;
     Interaction::FileRequest request;
-    request.title = QStringLiteral("Import Tabo Document");
+    request.title = Tr::tr("Import Tabo Document");
     request.extensions = {QStringLiteral("tabo")};
     const QString path = ui.openFile(request);
     if (path.isEmpty())
         return nullptr;
     Record *invoice = importInvoiceFile(path).value();
     if (!invoice && m_store.store())
-        ui.alert(QStringLiteral("Error!"),
-                 QStringLiteral("The file “%1” is not a Tabo document.").arg(QFileInfo(path).fileName()),
-                 {QStringLiteral("OK")});
+        ui.alert(Tr::tr("Error!"), Tr::tr("The file “%1” is not a Tabo document.").arg(QFileInfo(path).fileName()),
+            { Tr::tr("OK") });
     return invoice;
 }
 
@@ -172,7 +181,7 @@ Result<Record *> FileCommands::importInvoiceFile(const QString &path)
         return kNoDatabase;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Error::file(QStringLiteral("The file “%1” could not be read: %2").arg(path, file.errorString()));
+        return Error::file(Tr::tr("The file “%1” could not be read: %2").arg(path, file.errorString()));
     Result<QVariantMap> archived = archivedDictionary(file.readAll(), kTaboDic);
     if (!archived)
         return archived.error();

@@ -1,8 +1,16 @@
 #include "app/InstanceBus.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(InstanceBus)
+};
+} // namespace
 
 namespace tabo {
 

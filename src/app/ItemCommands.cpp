@@ -15,9 +15,17 @@
 #include <QHash>
 #include <QLocale>
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ItemCommands)
+};
+} // namespace
 
 namespace tabo {
 
@@ -38,10 +46,12 @@ void sortByTitle(QList<Record *> &entries, int title)
 
 using P = Preferences;
 
-
-const QString kSentText = QStringLiteral(
-    "The selected invoice is marked as already sent. If you really need to make changes, please set its status back "
-    "to 'Created' first. Then you will also be able to resend the modified invoice.");
+QString kSentText()
+{
+    return Tr::tr("The selected invoice is marked as already sent. If you really need to make changes, please set its "
+                  "status back "
+                  "to 'Created' first. Then you will also be able to resend the modified invoice.");
+}
 
 // Shortest text that reads back to the same value, never in exponent form.
 // Values that went through single precision are written as the float they
@@ -57,7 +67,7 @@ QString numberText(double v)
 
 QString tooLarge(const QString &what, const QString &text)
 {
-    return QStringLiteral("The %1 “%2” is too large; it can be at most about 3.4e38.").arg(what, text);
+    return Tr::tr("The %1 “%2” is too large; it can be at most about 3.4e38.").arg(what, text);
 }
 
 // A typed number for the field called `what`, or why it is not one.
@@ -68,22 +78,22 @@ Error readField(const ItemCommands &commands, const QString &text, const QString
     const bool number = commands.parseInRegion(text, value);
     if (number && fitsAttribute(AttrType::Float, *value))
         return {};
-    return Error::input(text.trimmed().isEmpty() ? QStringLiteral("The %1 is empty; please enter a number.").arg(what)
-                        : number ? tooLarge(what, text)
-                                 : QStringLiteral("The %1 “%2” is not a number.").arg(what, text));
+    return Error::input(text.trimmed().isEmpty() ? Tr::tr("The %1 is empty; please enter a number.").arg(what)
+            : number                             ? tooLarge(what, text)
+                                                 : Tr::tr("The %1 “%2” is not a number.").arg(what, text));
 }
 
 // A line's field as the person knows it.
 QString fieldWords(const QString &key)
 {
     static const QHash<QString, QString> words = {
-        {QStringLiteral("baseAmount"), QStringLiteral("price")},
-        {QStringLiteral("unitCount"), QStringLiteral("quantity")},
-        {QStringLiteral("tax1Percent"), QStringLiteral("rate of the first tax")},
-        {QStringLiteral("tax2Percent"), QStringLiteral("rate of the second tax")},
-        {QStringLiteral("tax3Percent"), QStringLiteral("rate of the third tax")},
-        {QStringLiteral("amount"), QStringLiteral("amount")},
-        {QStringLiteral("subAmount"), QStringLiteral("net amount")},
+        { QStringLiteral("baseAmount"), QStringLiteral("price") },
+        { QStringLiteral("unitCount"), QStringLiteral("quantity") },
+        { QStringLiteral("tax1Percent"), Tr::tr("rate of the first tax") },
+        { QStringLiteral("tax2Percent"), Tr::tr("rate of the second tax") },
+        { QStringLiteral("tax3Percent"), Tr::tr("rate of the third tax") },
+        { QStringLiteral("amount"), QStringLiteral("amount") },
+        { QStringLiteral("subAmount"), Tr::tr("net amount") },
     };
     return words.value(key, key);
 }
@@ -203,14 +213,14 @@ Error ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const 
 {
     Store *store = m_store.store();
     if (!store || !entry || entry->isDeleted())
-        return Error::input(QStringLiteral("The catalogue entry is no longer there."));
+        return Error::input(Tr::tr("The catalogue entry is no longer there."));
     static const QStringList editable = {QStringLiteral("title"),         QStringLiteral("subtitle"),
                                          QStringLiteral("unit"),          QStringLiteral("sku"),
                                          QStringLiteral("note"),          QStringLiteral("baseAmount"),
                                          QStringLiteral("isTax1Applied"), QStringLiteral("isTax2Applied"),
                                          QStringLiteral("isTax3Applied")};
     if (!editable.contains(key))
-        return Error::input(QStringLiteral("A catalogue entry has no field “%1” to change.").arg(key));
+        return Error::input(Tr::tr("A catalogue entry has no field “%1” to change.").arg(key));
     const int attr = entry->desc().attributeIndex(key);
     if (key == QLatin1String("baseAmount")) {
         double price = 0;
@@ -221,7 +231,7 @@ Error ItemCommands::editCatalogueEntry(Record *entry, const QString &key, const 
             bool ok = false;
             price = value.toDouble(&ok);
             if (!ok || !fitsAttribute(AttrType::Float, price))
-                return Error::input(QStringLiteral("The price is not a number."));
+                return Error::input(Tr::tr("The price is not a number."));
         }
         entry->setSingle(attr, float(price));
     } else if (key.startsWith(QLatin1String("isTax"))) {
@@ -240,11 +250,10 @@ bool ItemCommands::deleteCatalogueEntries(const QList<Record *> &entries)
         return false;
     const QString what = entries.size() == 1 ? QStringLiteral("“%1”").arg(entries.first()->text(RecentItem::title))
                                              : QStringLiteral("%1 entries").arg(entries.size());
-    const int answer = m_ui.ask(
-        QStringLiteral("Delete from Catalogue"),
-        QStringLiteral("Delete %1 from the catalogue? Lines already written with %2 stay as they are.")
+    const int answer = m_ui.ask(Tr::tr("Delete from Catalogue"),
+        Tr::tr("Delete %1 from the catalogue? Lines already written with %2 stay as they are.")
             .arg(what, entries.size() == 1 ? QStringLiteral("it") : QStringLiteral("them")),
-        {QStringLiteral("Delete"), QStringLiteral("Cancel")}, 1);
+        { Tr::tr("Delete"), Tr::tr("Cancel") }, 1);
     if (answer != 0)
         return false;
     for (Record *entry : entries)
@@ -258,7 +267,7 @@ Result<Record *> ItemCommands::addItem(const ItemFields &fields)
     Record *doc = m_current.currentInvoice();
     Store *store = m_store.store();
     if (!doc || !store)
-        return Error::input(QStringLiteral("There is no document to add the line to."));
+        return Error::input(Tr::tr("There is no document to add the line to."));
     double price = 0;
     double quantity = 0;
     if (Error e = readField(*this, fields.price, QStringLiteral("price"), &price))
@@ -266,7 +275,7 @@ Result<Record *> ItemCommands::addItem(const ItemFields &fields)
     if (Error e = readField(*this, fields.quantity, QStringLiteral("quantity"), &quantity))
         return e;
 
-    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Add Line"));
+    const UndoHistory::Step step(m_undo, doc, Tr::tr("Add Line"));
     const Preferences &prefs = m_prefs;
     Record *item = store->insert(EntityId::Item);
     item->setText(Item::uniqueID, newUniqueId());
@@ -357,16 +366,16 @@ bool ItemCommands::deleteItem(Record *item)
     Record *doc = documentOf(*item);
     if (!doc)
         doc = m_current.currentInvoice();
-    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Delete Line"));
+    const UndoHistory::Step step(m_undo, doc, Tr::tr("Delete Line"));
     Interaction &ui = m_ui;
     if (doc && doc->integer(Invoice::status) != 0) {
-        ui.alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
+        ui.alert(Tr::tr("Error!"), kSentText(), { Tr::tr("OK") });
         return false;
     }
-    const int answer = ui.alert(QStringLiteral("Delete Item"),
-                                QStringLiteral("Deleting items is permanent and cannot be undone. Do you really "
-                                               "want to delete the selected item?"),
-                                {QStringLiteral("Delete"), QStringLiteral("Cancel")});
+    const int answer = ui.alert(Tr::tr("Delete Item"),
+        Tr::tr("Deleting items is permanent and cannot be undone. Do you really "
+               "want to delete the selected item?"),
+        { Tr::tr("Delete"), Tr::tr("Cancel") });
     if (answer != 0)
         return false;
     store->remove(item);
@@ -391,18 +400,18 @@ void ItemCommands::withdrawItem(Record *item)
 Error ItemCommands::editItem(Record *item, const QString &key, const QVariant &value)
 {
     if (!item)
-        return Error::input(QStringLiteral("There is no line to change."));
+        return Error::input(Tr::tr("There is no line to change."));
     const int attr = item->desc().attributeIndex(key);
     if (attr < 0)
-        return Error::input(QStringLiteral("A line has no field “%1”.").arg(key));
+        return Error::input(Tr::tr("A line has no field “%1”.").arg(key));
     Record *doc = documentOf(*item);
     // A sent invoice must not change silently, whichever way a line is touched.
     if (doc && doc->integer(Invoice::status) != 0) {
-        m_ui.alert(QStringLiteral("Error!"), kSentText, {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("Error!"), kSentText(), { Tr::tr("OK") });
         return Error::shownAlready();
     }
     const AttrType type = item->desc().attributes[attr].type;
-    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Edit Line"));
+    const UndoHistory::Step step(m_undo, doc, Tr::tr("Edit Line"));
     const bool numeric = type == AttrType::Int || type == AttrType::Double || type == AttrType::Float;
     QVariant v = value;
     if (numeric && value.isValid() && !value.isNull()) {
@@ -414,12 +423,11 @@ Error ItemCommands::editItem(Record *item, const QString &key, const QVariant &v
             d = value.toDouble(&ok);
         if (!ok || !fitsAttribute(type, d))
             return Error::input(ok ? tooLarge(fieldWords(key), value.toString())
-                                   : QStringLiteral("The %1 “%2” is not a number.").arg(fieldWords(key),
-                                                                                         value.toString()));
+                                   : Tr::tr("The %1 “%2” is not a number.").arg(fieldWords(key), value.toString()));
         v = d;
     }
     if (!item->setValue(attr, v))
-        return Error::input(QStringLiteral("The value “%1” does not fit the field “%2”.").arg(value.toString(), key));
+        return Error::input(Tr::tr("The value “%1” does not fit the field “%2”.").arg(value.toString(), key));
     if (doc)
         m_current.documentChanged(doc);
     else
@@ -432,12 +440,12 @@ Error ItemCommands::closeShippingPopover(const ShippingFields &fields)
     Record *doc = m_current.currentInvoice();
     Store *store = m_store.store();
     if (!doc || !store)
-        return Error::input(QStringLiteral("There is no document to add the shipping to."));
-    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Shipping"));
+        return Error::input(Tr::tr("There is no document to add the shipping to."));
+    const UndoHistory::Step step(m_undo, doc, Tr::tr("Shipping"));
     double amount = 0;
     // A blank amount only matters when shipping is switched on.
     if (fields.enabled || !fields.amount.trimmed().isEmpty())
-        if (Error e = readField(*this, fields.amount, QStringLiteral("shipping amount"), &amount))
+        if (Error e = readField(*this, fields.amount, Tr::tr("shipping amount"), &amount))
             return e;
 
     doc->setBool(Invoice::isShippingEnabled, fields.enabled);
@@ -488,7 +496,7 @@ void ItemCommands::selectRecentShipping(const Record &recentShipping)
     Record *doc = m_current.currentInvoice();
     if (!doc)
         return;
-    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Shipping"));
+    const UndoHistory::Step step(m_undo, doc, Tr::tr("Shipping"));
     doc->setText(Invoice::shippingTitle, recentShipping.text(RecentShipping::title));
     doc->setText(Invoice::shippingSubtitle, recentShipping.text(RecentShipping::subtitle));
     doc->setBool(Invoice::hasShippingSubtitle, recentShipping.boolean(RecentShipping::hasSubtitle));
@@ -503,18 +511,18 @@ Error ItemCommands::closeDiscountPopover(const DiscountFields &fields)
 {
     Record *doc = m_current.currentInvoice();
     if (!doc)
-        return Error::input(QStringLiteral("There is no document to add the discount to."));
-    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Discount"));
+        return Error::input(Tr::tr("There is no document to add the discount to."));
+    const UndoHistory::Step step(m_undo, doc, Tr::tr("Discount"));
     // Only the field the kind selects must be filled in; a blank other one is 0.
     const bool fixed = fields.kind == 0;
     const bool needed = fields.enabled;
     double amount = 0;
     double percent = 0;
     if ((needed && fixed) || !fields.amount.trimmed().isEmpty())
-        if (Error e = readField(*this, fields.amount, QStringLiteral("discount amount"), &amount))
+        if (Error e = readField(*this, fields.amount, Tr::tr("discount amount"), &amount))
             return e;
     if ((needed && !fixed) || !fields.percent.trimmed().isEmpty())
-        if (Error e = readField(*this, fields.percent, QStringLiteral("discount percentage"), &percent))
+        if (Error e = readField(*this, fields.percent, Tr::tr("discount percentage"), &percent))
             return e;
 
     doc->setBool(Invoice::isDiscountEnabled, fields.enabled);

@@ -12,7 +12,15 @@
 #include <QRegularExpression>
 #include <QTimeZone>
 
+#include <QCoreApplication>
 #include <algorithm>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(NotificationCommands)
+};
+} // namespace
 
 namespace tabo {
 
@@ -60,11 +68,10 @@ bool NotificationCommands::openNotificationSheet()
     if (!invoice)
         return false;
     if (invoice->boolean(Invoice::misc4)) {
-        const int answer = m_ui.alert(
-            QStringLiteral("Notification Already Created"),
-            QStringLiteral("You've already created a notification for this invoice. Do you really want to create "
-                           "another one?"),
-            {QStringLiteral("OK"), QStringLiteral("Cancel")});
+        const int answer = m_ui.alert(Tr::tr("Notification Already Created"),
+            Tr::tr("You've already created a notification for this invoice. Do you really want to create "
+                   "another one?"),
+            { Tr::tr("OK"), Tr::tr("Cancel") });
         if (answer != 0)
             return false;
     }
@@ -99,7 +106,7 @@ Error NotificationCommands::sendNotification(const Draft &draft, Record *invoice
         invoice = m_current.currentInvoice();
     Store *store = m_access.store();
     if (!invoice || !store)
-        return Error{Error::Tabo, 1, QStringLiteral("There is no invoice to remind of."), {}};
+        return Error { Error::Tabo, 1, Tr::tr("There is no invoice to remind of."), {} };
     ScheduledNotification n;
     n.uniqueID = invoice->text(Invoice::uniqueID);
     n.title = draft.title;
@@ -136,8 +143,7 @@ bool NotificationCommands::cancel(qint64 id)
         Q_EMIT scheduleChanged();
         return true;
     }
-    m_ui.presentError(cancelled ? Error::input(QStringLiteral("There is no notification %1.").arg(id))
-                                : cancelled.error());
+    m_ui.presentError(cancelled ? Error::input(Tr::tr("There is no notification %1.").arg(id)) : cancelled.error());
     return false;
 }
 
@@ -154,7 +160,7 @@ NotificationCommands::Delivery NotificationCommands::deliverDue()
     if (next && !(now() < *next)) {
         const QString reason = unavailableReason();
         if (!reason.isEmpty()) {
-            e = Error{Error::Tabo, 2, reason, QStringLiteral("The notifications stay scheduled.")};
+            e = Error { Error::Tabo, 2, reason, Tr::tr("The notifications stay scheduled.") };
         } else {
             const Result<QList<ScheduledNotification>> claimed = schedule.claimDue(now());
             e = claimed.error();
@@ -166,9 +172,9 @@ NotificationCommands::Delivery NotificationCommands::deliverDue()
                     refused << n.id;
             if (!refused.isEmpty()) {
                 schedule.unclaim(refused);
-                e = Error{Error::Tabo, 3,
-                          QStringLiteral("The notification service did not show %1 of the reminders.").arg(refused.size()),
-                          QStringLiteral("They stay scheduled.")};
+                e = Error { Error::Tabo, 3,
+                    Tr::tr("The notification service did not show %1 of the reminders.").arg(refused.size()),
+                    Tr::tr("They stay scheduled.") };
             }
             if (!shown.isEmpty())
                 Q_EMIT scheduleChanged();
@@ -212,12 +218,11 @@ void NotificationCommands::offerReminderTimerOnce()
         return;
     prefs.setRaw(offered, true);
     prefs.sync();
-    const int answer = m_ui.alert(
-        QStringLiteral("Reminders While Tabo Is Closed"),
-        QStringLiteral("Tabo shows this reminder when its moment comes while Tabo is open. Shall a small timer of "
-                       "your desktop session look for due reminders every hour, so that they also arrive while "
-                       "Tabo is closed? You can remove it at any time in Preferences ▸ Data."),
-        {QStringLiteral("Install Timer"), QStringLiteral("Not Now")});
+    const int answer = m_ui.alert(Tr::tr("Reminders While Tabo Is Closed"),
+        Tr::tr("Tabo shows this reminder when its moment comes while Tabo is open. Shall a small timer of "
+               "your desktop session look for due reminders every hour, so that they also arrive while "
+               "Tabo is closed? You can remove it at any time in Preferences ▸ Data."),
+        { Tr::tr("Install Timer"), Tr::tr("Not Now") });
     if (answer == 0)
         setReminderTimerInstalled(true);
 }

@@ -1,10 +1,18 @@
 #include "app/Notifier.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingReply>
 #include <QDBusReply>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Notifier)
+};
+} // namespace
 
 namespace tabo {
 
@@ -38,14 +46,14 @@ QString DBusNotifier::unavailableReason() const
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
-        return QStringLiteral("Notifications cannot be shown: there is no desktop session bus (D-Bus) here.");
+        return Tr::tr("Notifications cannot be shown: there is no desktop session bus (D-Bus) here.");
     QDBusConnectionInterface *busInterface = bus.interface();
     // Most notification services are started by the bus on first use.
     if (busInterface
         && (busInterface->isServiceRegistered(kService).value()
             || busInterface->activatableServiceNames().value().contains(kService)))
         return {};
-    return QStringLiteral("Notifications cannot be shown: no notification service runs on this desktop.");
+    return Tr::tr("Notifications cannot be shown: no notification service runs on this desktop.");
 }
 
 QList<qint64> DBusNotifier::show(const QList<ScheduledNotification> &notifications)
@@ -69,8 +77,7 @@ QList<qint64> DBusNotifier::show(const QList<ScheduledNotification> &notificatio
                                                   : n.subtitle + QLatin1Char('\n') + n.text;
         call << QStringLiteral("Tabo") << uint(0) << kDesktopEntry << n.title
              << (readsMarkup() ? body.toHtmlEscaped() : body)
-             << QStringList{QStringLiteral("default"), QStringLiteral("Show Invoice")} << hints
-             << kServerDefaultTimeout;
+             << QStringList { QStringLiteral("default"), Tr::tr("Show Invoice") } << hints << kServerDefaultTimeout;
         calls << bus.asyncCall(call);
     }
     for (int i = 0; i < calls.size(); ++i) {

@@ -23,7 +23,15 @@
 #include <QGuiApplication>
 #include <QSaveFile>
 
+#include <QCoreApplication>
 #include <functional>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(OutputCommands)
+};
+} // namespace
 
 namespace tabo {
 
@@ -31,7 +39,10 @@ using P = Preferences;
 
 namespace {
 
-const QString kOK = QStringLiteral("OK");
+QString kOK()
+{
+    return Tr::tr("OK");
+}
 
 // What the PDF view would accept: a file that starts like a PDF.
 bool isPdfFile(const QString &path)
@@ -46,7 +57,7 @@ Error copyPdf(const QString &from, const QString &to)
 {
     QFile source(from);
     if (!isPdfFile(from) || !source.open(QIODevice::ReadOnly))
-        return Error::file(QStringLiteral("The PDF file “%1” could not be read.").arg(from));
+        return Error::file(Tr::tr("The PDF file “%1” could not be read.").arg(from));
     return ProtectedFiles::writeAtomically(to, source.readAll());
 }
 
@@ -99,8 +110,7 @@ bool OutputCommands::checkDesignsAvailable()
 {
     if (!m_designs.designs().isEmpty())
         return true;
-    m_ui.alert(QStringLiteral("Error!"), QStringLiteral("No design available. Please download or create a design."),
-                     {kOK});
+    m_ui.alert(Tr::tr("Error!"), Tr::tr("No design available. Please download or create a design."), { kOK() });
     return false;
 }
 
@@ -156,13 +166,13 @@ QString OutputCommands::exportSheetTitle(int kind)
 {
     switch (kind) {
     case Print:
-        return QStringLiteral("Print Invoice");
+        return Tr::tr("Print Invoice");
     case SavePdf:
-        return QStringLiteral("Export Invoice As PDF File");
+        return Tr::tr("Export Invoice As PDF File");
     case Email:
-        return QStringLiteral("Send Invoice As Email Attachment");
+        return Tr::tr("Send Invoice As Email Attachment");
     case ExportDocument:
-        return QStringLiteral("Export Invoice As Document");
+        return Tr::tr("Export Invoice As Document");
     default:
         return QString();
     }
@@ -233,7 +243,7 @@ bool OutputCommands::printPdf(const QString &path, const QString &title)
     const Error error = PrintSystem::printFile(path, request);
     if (!error)
         return true;
-    m_ui.alert(QStringLiteral("Error!"), error.message(), {kOK});
+    m_ui.alert(Tr::tr("Error!"), error.message(), { kOK() });
     return false;
 }
 
@@ -243,7 +253,7 @@ bool OutputCommands::savePdf(Record &invoice)
     const QString name = jobTitle(invoice).replace(QLatin1Char('/'), QLatin1Char('-'));
     const qint64 form = invoice.integer(Invoice::kind) == 1 ? m_prefs.integer(P::einvoiceForm) : 0;
     if (form == EInvoiceCommands::PlainPdf)
-        return savePdfAs(m_workingFiles.pdfPath(), QStringLiteral("Export As PDF File"), name);
+        return savePdfAs(m_workingFiles.pdfPath(), Tr::tr("Export As PDF File"), name);
     EInvoiceCommands &einvoices = *m_einvoices;
     // Asked before the panel: a missing detail is found before a file name is chosen.
     const einvoice::Mapping mapping = einvoices.map(invoice);
@@ -251,7 +261,7 @@ bool OutputCommands::savePdf(Record &invoice)
         return false;
     const bool xml = form == EInvoiceCommands::XRechnungXml;
     Interaction::FileRequest request;
-    request.title = xml ? QStringLiteral("Export As E-Invoice (XRechnung)") : QStringLiteral("Export As PDF With E-Invoice");
+    request.title = xml ? Tr::tr("Export As E-Invoice (XRechnung)") : Tr::tr("Export As PDF With E-Invoice");
     request.extensions = {xml ? QStringLiteral("xml") : QStringLiteral("pdf")};
     request.suggestedName = name;
     request.canCreateFolders = true;
@@ -279,7 +289,7 @@ bool OutputCommands::savePdfAs(const QString &path, const QString &panelTitle, c
     const Error e = copyPdf(path, target);
     if (!e)
         return true;
-    m_ui.alert(QStringLiteral("Error!"), e.text, {kOK});
+    m_ui.alert(Tr::tr("Error!"), e.text, { kOK() });
     return false;
 }
 
@@ -295,7 +305,7 @@ bool OutputCommands::emailPdf(Record &invoice)
         return m_einvoices->exportXml(invoice, xml, EInvoiceCommands::Form::XRechnungCii) && sendEmail(xml);
     }
     if (const Error e = copyPdf(m_workingFiles.pdfPath(), m_workingFiles.pdfEmailPath())) {
-        m_ui.alert(QStringLiteral("Error!"), e.text, {kOK});
+        m_ui.alert(Tr::tr("Error!"), e.text, { kOK() });
         return false;
     }
     return sendEmail();
@@ -322,11 +332,11 @@ bool OutputCommands::sendEmail(const QString &attachment)
     if (!error)
         return true;
     // The PDF is made: offer it another way out.
-    const int answer = m_ui.alert(
-        QStringLiteral("The E-Mail Could Not Be Written"),
-        error.text + QStringLiteral("\n\nYou can save the PDF and attach it to a message yourself, or open the folder "
-                               "that holds it."),
-        {QStringLiteral("Save PDF…"), QStringLiteral("Open Folder"), QStringLiteral("Cancel")});
+    const int answer = m_ui.alert(Tr::tr("The E-Mail Could Not Be Written"),
+        error.text
+            + Tr::tr("\n\nYou can save the PDF and attach it to a message yourself, or open the folder "
+                     "that holds it."),
+        { Tr::tr("Save PDF…"), Tr::tr("Open Folder"), Tr::tr("Cancel") });
     if (answer == 0)
         savePdf(*invoice);
     else if (answer == 1)
@@ -338,7 +348,7 @@ void OutputCommands::markInvoiceAsSent(Record *document)
 {
     if (!document || document->integer(Invoice::kind) != 1 || !m_prefs.boolean(P::markInvoiceAsSent))
         return;
-    const UndoHistory::Step step(m_undo, document, QStringLiteral("Mark as Sent"));
+    const UndoHistory::Step step(m_undo, document, Tr::tr("Mark as Sent"));
     // A paid invoice sent again is open again, and so no longer counts as
     // paid (a part payment stays received).
     if (document->integer(Invoice::status) == 3) {
@@ -505,9 +515,9 @@ bool OutputCommands::reportRunaway(const QString &designTitle)
     const int pages = engine().lastRunawayPages();
     if (pages <= 0)
         return false;
-    m_ui.presentError(Error::file(QStringLiteral("The design “%1” laid the document out on %2 pages, far more than "
-                                                 "its lines can fill, so no PDF was made. Choose another design or "
-                                                 "fix this one in Preferences ▸ Designs.")
+    m_ui.presentError(Error::file(Tr::tr("The design “%1” laid the document out on %2 pages, far more than "
+                                         "its lines can fill, so no PDF was made. Choose another design or "
+                                         "fix this one in Preferences ▸ Designs.")
                                       .arg(designTitle)
                                       .arg(pages)));
     return true;
@@ -517,11 +527,10 @@ void OutputCommands::failureAlert(Target target)
 {
     if (reportRunaway(m_renderingDesign))
         return;
-    m_ui.alert(QStringLiteral("Ooops!"),
-                     target == Target::DesignChoice
-                         ? QStringLiteral("Something went really wrong while creating the design preview.")
-                         : QStringLiteral("Something went really wrong while creating the preview."),
-                     {kOK});
+    m_ui.alert(Tr::tr("Ooops!"),
+        target == Target::DesignChoice ? Tr::tr("Something went really wrong while creating the design preview.")
+                                       : Tr::tr("Something went really wrong while creating the preview."),
+        { kOK() });
 }
 
 void OutputCommands::setBusy(int delta)

@@ -7,6 +7,13 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ReminderTimer)
+};
+} // namespace
+
 namespace tabo {
 
 namespace {
@@ -67,27 +74,27 @@ Error ReminderTimer::systemctl(const QStringList &arguments) const
     QProcess process;
     process.start(m_systemctl, QStringList{QStringLiteral("--user")} + arguments);
     if (!process.waitForStarted(5000))
-        return Error::file(QStringLiteral("systemd could not be asked (%1 did not start).").arg(m_systemctl));
+        return Error::file(Tr::tr("systemd could not be asked (%1 did not start).").arg(m_systemctl));
     if (!process.waitForFinished(30000)) {
         process.kill();
-        return Error::file(QStringLiteral("systemd did not answer in time."));
+        return Error::file(Tr::tr("systemd did not answer in time."));
     }
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        return Error::file(QStringLiteral("systemd refused: %1")
-                               .arg(QString::fromLocal8Bit(process.readAllStandardError()).trimmed()));
+        return Error::file(
+            Tr::tr("systemd refused: %1").arg(QString::fromLocal8Bit(process.readAllStandardError()).trimmed()));
     return {};
 }
 
 Error ReminderTimer::install()
 {
     if (!QFileInfo(m_cli).isExecutable())
-        return Error::file(QStringLiteral("The reminder timer needs tabo-cli, which is not at “%1”.").arg(m_cli));
+        return Error::file(Tr::tr("The reminder timer needs tabo-cli, which is not at “%1”.").arg(m_cli));
     QDir().mkpath(unitFolder());
     for (const auto &[suffix, text] : {std::pair{QStringLiteral(".service"), serviceUnit()},
                                       std::pair{QStringLiteral(".timer"), timerUnit()}}) {
         QSaveFile file(unitPath(suffix));
         if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0 || !file.commit())
-            return Error::file(QStringLiteral("The file “%1” could not be written.").arg(unitPath(suffix)));
+            return Error::file(Tr::tr("The file “%1” could not be written.").arg(unitPath(suffix)));
     }
     Error e = systemctl({QStringLiteral("daemon-reload")});
     if (!e)
@@ -96,7 +103,7 @@ Error ReminderTimer::install()
         // Half an installation would look installed and never run.
         QFile::remove(unitPath(QStringLiteral(".timer")));
         QFile::remove(unitPath(QStringLiteral(".service")));
-        e.text = QStringLiteral("The reminder timer could not be installed. ") + e.text;
+        e.text = Tr::tr("The reminder timer could not be installed. ") + e.text;
     }
     return e;
 }
@@ -107,7 +114,7 @@ Error ReminderTimer::remove()
     systemctl({QStringLiteral("disable"), QStringLiteral("--now"), kName + QStringLiteral(".timer")});
     for (const QString &suffix : {QStringLiteral(".timer"), QStringLiteral(".service")})
         if (QFile::exists(unitPath(suffix)) && !QFile::remove(unitPath(suffix)))
-            return Error::file(QStringLiteral("The file “%1” could not be removed.").arg(unitPath(suffix)));
+            return Error::file(Tr::tr("The file “%1” could not be removed.").arg(unitPath(suffix)));
     // The wants-link of "enable" goes with "disable"; a leftover one dangles harmlessly.
     QFile::remove(QDir(unitFolder()).filePath(QStringLiteral("timers.target.wants/") + kName + QStringLiteral(".timer")));
     systemctl({QStringLiteral("daemon-reload")});

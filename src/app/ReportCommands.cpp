@@ -9,9 +9,17 @@
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QLocale>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ReportCommands)
+};
+} // namespace
 
 namespace tabo {
 
@@ -39,8 +47,8 @@ ReportFigures ReportCommands::generateReport(const Report::Range &range)
 QString ReportCommands::reportPage(const ReportFigures &figures) const
 {
     const QString comment = QStringLiteral("%1 | %2 | %3")
-                                .arg(QStringLiteral("Report"), m_prefs.string(P::prefsName),
-                                     Numbering::getPatternDateStringFromDate(m_prefs, now()));
+                                .arg(Tr::tr("Report"), m_prefs.string(P::prefsName),
+                                    Numbering::getPatternDateStringFromDate(m_prefs, now()));
     return Report::page(Report::chartTemplate(), figures, Report::chartScript(), comment,
                         QLocale(m_prefs.documentRegion()));
 }
@@ -50,12 +58,12 @@ void ReportCommands::showHintOnce()
     Preferences &prefs = m_prefs;
     if (prefs.boolean(P::isReportHintShown))
         return;
-    m_ui.alert(QStringLiteral("Hint!"),
-                     QStringLiteral("The report is bound to the arranged invoices in Tabo's main window. This means "
-                                    "you can, for example, search for a client and therefore see the report just for "
-                                    "this single client or you can pre-filter all your invoices to see a report only "
-                                    "for overdue invoices."),
-                     {QStringLiteral("OK")});
+    m_ui.alert(Tr::tr("Hint!"),
+        Tr::tr("The report is bound to the arranged invoices in Tabo's main window. This means "
+               "you can, for example, search for a client and therefore see the report just for "
+               "this single client or you can pre-filter all your invoices to see a report only "
+               "for overdue invoices."),
+        { Tr::tr("OK") });
     prefs.setDate(P::reportDateL, now());
     prefs.setDate(P::reportDateR, now());
     prefs.setBool(P::isReportHintShown, true);
@@ -68,8 +76,7 @@ QString ReportCommands::render()
     const QString path = reportPdfPath();
     if (m_outputs.renderHtmlToFile(reportPage(generateReport()), path))
         return path;
-    m_ui.alert(QStringLiteral("Ooops!"), QStringLiteral("Something went really wrong while creating the report."),
-                     {QStringLiteral("OK")});
+    m_ui.alert(Tr::tr("Ooops!"), Tr::tr("Something went really wrong while creating the report."), { Tr::tr("OK") });
     return QString();
 }
 
@@ -77,8 +84,8 @@ bool ReportCommands::savePdf()
 {
     const QString path = render();
     return !path.isEmpty()
-           && m_outputs.savePdfAs(path, QStringLiteral("Save Report as PDF"),
-                                        QStringLiteral("%1 | Report").arg(m_prefs.string(P::prefsName)));
+        && m_outputs.savePdfAs(
+            path, Tr::tr("Save Report as PDF"), QStringLiteral("%1 | Report").arg(m_prefs.string(P::prefsName)));
 }
 
 bool ReportCommands::print()

@@ -8,7 +8,15 @@
 #include "prefs/Preferences.h"
 #include "store/Store.h"
 
+#include <QCoreApplication>
 #include <algorithm>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(TemplateCommands)
+};
+} // namespace
 
 namespace tabo {
 
@@ -126,14 +134,14 @@ bool TemplateCommands::selectTemplate(Record *templateRecord)
     if (!doc || !templateRecord || !store)
         return false;
     if (doc->integer(Invoice::status) != 0) {
-        m_ui.alert(QStringLiteral("Error!"),
-                         QStringLiteral("The selected invoice is marked as already sent. If you really need to make "
-                                        "changes, please set its status back to 'Created' first. Then you will also "
-                                        "be able to resend the modified invoice."),
-                         {QStringLiteral("OK")});
+        m_ui.alert(Tr::tr("Error!"),
+            Tr::tr("The selected invoice is marked as already sent. If you really need to make "
+                   "changes, please set its status back to 'Created' first. Then you will also "
+                   "be able to resend the modified invoice."),
+            { Tr::tr("OK") });
         return false;
     }
-    const UndoHistory::Step step(m_undo, doc, QStringLiteral("Template"));
+    const UndoHistory::Step step(m_undo, doc, Tr::tr("Template"));
 
     const QList<Record *> oldLines = doc->toMany(Invoice::items);
     for (Record *line : oldLines)

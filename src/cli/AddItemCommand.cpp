@@ -10,17 +10,25 @@
 
 #include <QCommandLineParser>
 
+#include <QCoreApplication>
 #include <utility>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(AddItemCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 AddItemCommand::AddItemCommand(Session &session)
     : Command(session, QStringLiteral("add-item"), QStringLiteral("ID KEY=VALUE..."),
-              QStringLiteral("Add a line to a document as the item popover does, e.g. title=Consulting "
-                             "price=100 quantity=2 tax1=1 (also subtitle, unit, unitCode, sku, note; baseAmount, "
-                             "unitCount, isTax1Applied..3 are the same fields). Rates, tax titles and compound "
-                             "flags come from the preferences; any other line attribute is set afterwards. "
-                             "The catalogue remembers the line. Prints the line's unique ID."))
+        Tr::tr("Add a line to a document as the item popover does, e.g. title=Consulting "
+               "price=100 quantity=2 tax1=1 (also subtitle, unit, unitCode, sku, note; baseAmount, "
+               "unitCount, isTax1Applied..3 are the same fields). Rates, tax titles and compound "
+               "flags come from the preferences; any other line attribute is set afterwards. "
+               "The catalogue remembers the line. Prints the line's unique ID."))
 {
 }
 
@@ -42,8 +50,9 @@ Result<bool> AddItemCommand::popoverField(ItemFields &f, const QString &key, con
         if (UnitCodes::isCode(value))
             f.unitCode = value.toUpper();
         else
-            return Error::input(QStringLiteral("“%1” is not a unit code of UN/ECE Recommendation 20 (such as HUR, "
-                                               "C62, DAY).").arg(value));
+            return Error::input(Tr::tr("“%1” is not a unit code of UN/ECE Recommendation 20 (such as HUR, "
+                                       "C62, DAY).")
+                                    .arg(value));
     else if (is("sku"))
         f.sku = value;
     else if (is("note"))

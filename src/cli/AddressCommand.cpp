@@ -9,6 +9,14 @@
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(AddressCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -37,11 +45,11 @@ QString *field(AddressFields &f, const QString &key)
 
 AddressCommand::AddressCommand(Session &session)
     : Command(session, QStringLiteral("address"), QStringLiteral("ID [--vcard FILE [--contact N]] [KEY=VALUE...]"),
-              QStringLiteral("Set a document's client as the address popover does, from contact N (default 1) "
-                             "of a vCard file by the address pattern and from the keys ")
-                  + allKeys().join(QStringLiteral(", "))
-                  + QStringLiteral(". Fields not given are empty, as in a fresh popover. The address is "
-                                   "remembered unless it already is."))
+        Tr::tr("Set a document's client as the address popover does, from contact N (default 1) "
+               "of a vCard file by the address pattern and from the keys ")
+            + allKeys().join(QStringLiteral(", "))
+            + Tr::tr(". Fields not given are empty, as in a fresh popover. The address is "
+                     "remembered unless it already is."))
 {
 }
 
@@ -54,9 +62,8 @@ bool AddressCommand::fromVCard(const QString &path, int number, AddressFields *f
     }
     const QList<Contact> &contacts = read.value();
     if (number > contacts.size()) {
-        printError(QStringLiteral("The vCard file holds %1 contact(s); there is no contact %2.")
-                       .arg(contacts.size())
-                       .arg(number));
+        printError(
+            Tr::tr("The vCard file holds %1 contact(s); there is no contact %2.").arg(contacts.size()).arg(number));
         return false;
     }
     QString reason;
@@ -70,10 +77,10 @@ bool AddressCommand::fromVCard(const QString &path, int number, AddressFields *f
 int AddressCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption vcard(QStringLiteral("vcard"), QStringLiteral("Take the contact from a vCard file."),
-                                   QStringLiteral("FILE"));
-    const QCommandLineOption contact(QStringLiteral("contact"),
-                                     QStringLiteral("Which contact of the file, 1 for the first."), QStringLiteral("N"));
+    const QCommandLineOption vcard(
+        QStringLiteral("vcard"), Tr::tr("Take the contact from a vCard file."), QStringLiteral("FILE"));
+    const QCommandLineOption contact(
+        QStringLiteral("contact"), Tr::tr("Which contact of the file, 1 for the first."), QStringLiteral("N"));
     parser.addOptions({vcard, contact});
     int code = kExitOk;
     if (!parse(parser, args, 1, -1, &code))
@@ -84,15 +91,15 @@ int AddressCommand::execute(const QStringList &args)
     if (!splitKeyValues(pos, allKeys(), &values, &code))
         return code;
     if (!parser.isSet(vcard) && values.isEmpty())
-        return usageError(QStringLiteral("Give a vCard file or at least one field."));
+        return usageError(Tr::tr("Give a vCard file or at least one field."));
     int number = 1;
     if (parser.isSet(contact)) {
         bool ok = false;
         number = parser.value(contact).toInt(&ok);
         if (!parser.isSet(vcard))
-            return usageError(QStringLiteral("--contact needs --vcard."));
+            return usageError(Tr::tr("--contact needs --vcard."));
         if (!ok || number < 1)
-            return usageError(QStringLiteral("“%1” is not a contact number.").arg(parser.value(contact)));
+            return usageError(Tr::tr("“%1” is not a contact number.").arg(parser.value(contact)));
     }
 
     Record *doc = m_session.select(id);

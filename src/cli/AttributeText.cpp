@@ -5,7 +5,15 @@
 
 #include <QLocale>
 
+#include <QCoreApplication>
 #include <cmath>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(AttributeText)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -23,7 +31,7 @@ int boolFromText(const QString &t)
 
 QString invalid(const QString &text, AttrType type, const QString &key)
 {
-    return QStringLiteral("“%1” is not a valid %2 for %3.").arg(text, attrTypeName(type), key);
+    return Tr::tr("“%1” is not a valid %2 for %3.").arg(text, attrTypeName(type), key);
 }
 
 } // namespace
@@ -33,8 +41,8 @@ Result<QVariant> AttributeText::convert(const EntityDesc &desc, const QString &k
     const int attr = desc.attributeIndex(key);
     if (attr < 0)
         return Error::input(desc.relationIndex(key) >= 0
-                                ? QStringLiteral("“%1” is a relationship of %2, not an attribute.").arg(key, desc.name)
-                                : QStringLiteral("%1 has no attribute “%2”.").arg(desc.name, key));
+                ? Tr::tr("“%1” is a relationship of %2, not an attribute.").arg(key, desc.name)
+                : QStringLiteral("%1 has no attribute “%2”.").arg(desc.name, key));
     const AttrType type = desc.attributes[attr].type;
     const QString t = text.trimmed();
     bool ok = true;
@@ -68,9 +76,9 @@ Result<QVariant> AttributeText::convert(const EntityDesc &desc, const QString &k
     // A value the attribute cannot hold (1e39 in a float) would be stored as
     // infinity and poison every total.
     if (ok && (type == AttrType::Double || type == AttrType::Float) && !fitsAttribute(type, value->toDouble()))
-        return Error::input(QStringLiteral("“%1” is too large for %2 (at most %3).")
-                                .arg(text, key, type == AttrType::Float ? QStringLiteral("about 3.4e38")
-                                                                        : QStringLiteral("about 1.8e308")));
+        return Error::input(
+            Tr::tr("“%1” is too large for %2 (at most %3).")
+                .arg(text, key, type == AttrType::Float ? Tr::tr("about 3.4e38") : Tr::tr("about 1.8e308")));
     if (!ok)
         return Error::input(invalid(text, type, key));
     return converted;

@@ -6,15 +6,23 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(BackupCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 BackupCommand::BackupCommand(Session &session)
     : Command(session, QStringLiteral("backup"), QStringLiteral("database|invoices|items FILE | auto"),
-              QStringLiteral("Back up the whole database (prints the .tabo2db written), the documents or the "
-                             "catalogue to FILE, or the documents to the automatic backup (prints its path)."))
+        Tr::tr("Back up the whole database (prints the .tabo2db written), the documents or the "
+               "catalogue to FILE, or the documents to the automatic backup (prints its path)."))
 {
 }
 
@@ -28,21 +36,21 @@ int BackupCommand::execute(const QStringList &args)
     const QString &what = pos.constFirst();
     if (what == QLatin1String("auto")) {
         if (pos.size() != 1)
-            return usageError(QStringLiteral("The automatic backup has its own place."));
+            return usageError(Tr::tr("The automatic backup has its own place."));
         if (!m_session.store())
             return kExitFailure;
         AppController &app = m_session.controller();
         if (const Error e = app.backups().doTheNewBackup())
-            return failure(QStringLiteral("The automatic backup “%1” could not be written. %2")
+            return failure(Tr::tr("The automatic backup “%1” could not be written. %2")
                                .arg(app.automaticBackupFile(), e.message()));
         printOut(app.automaticBackupFile());
         return kExitOk;
     }
     if (pos.size() != 2)
-        return usageError(what == QLatin1String("database") || what == QLatin1String("invoices")
-                                  || what == QLatin1String("items")
-                              ? QStringLiteral("Missing FILE.")
-                              : QString());
+        return usageError(
+            what == QLatin1String("database") || what == QLatin1String("invoices") || what == QLatin1String("items")
+                ? Tr::tr("Missing FILE.")
+                : QString());
     if (what == QLatin1String("database"))
         return backupDatabase(pos.at(1));
     Error (BackupCommands::*write)(const QString &) = nullptr;
@@ -51,7 +59,7 @@ int BackupCommand::execute(const QStringList &args)
     else if (what == QLatin1String("items"))
         write = &BackupCommands::writeItemBackup;
     else
-        return usageError(QStringLiteral("Unknown backup “%1”.").arg(what));
+        return usageError(Tr::tr("Unknown backup “%1”.").arg(what));
     if (!m_session.store())
         return kExitFailure;
     if (const Error e = (m_session.controller().backups().*write)(pos.at(1)))

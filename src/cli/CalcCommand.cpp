@@ -5,12 +5,19 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(CalcCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 CalcCommand::CalcCommand(Session &session)
-    : Command(session, QStringLiteral("calc"), QStringLiteral("ID"),
-              QStringLiteral("Recalculate the totals of a document."))
+    : Command(session, QStringLiteral("calc"), QStringLiteral("ID"), Tr::tr("Recalculate the totals of a document."))
 {
 }
 

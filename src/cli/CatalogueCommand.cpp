@@ -13,17 +13,25 @@
 #include <QCommandLineParser>
 #include <QHash>
 
+#include <QCoreApplication>
 #include <algorithm>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(CatalogueCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 CatalogueCommand::CatalogueCommand(Session &session)
     : Command(session, QStringLiteral("catalogue"),
-              QStringLiteral("list|shipping [--json] | edit ENTRY KEY=VALUE... | delete ENTRY... --yes"),
-              QStringLiteral("List the article catalogue (title, price, article number, unit) or the "
-                             "remembered shipping lines (title, amount), by title; change an entry (title, subtitle, "
-                             "unit, sku, note, price, tax1..tax3) or delete entries. ENTRY is a title, an article "
-                             "number or a uniqueID."))
+        QStringLiteral("list|shipping [--json] | edit ENTRY KEY=VALUE... | delete ENTRY... --yes"),
+        Tr::tr("List the article catalogue (title, price, article number, unit) or the "
+               "remembered shipping lines (title, amount), by title; change an entry (title, subtitle, "
+               "unit, sku, note, price, tax1..tax3) or delete entries. ENTRY is a title, an article "
+               "number or a uniqueID."))
 {
 }
 
@@ -38,7 +46,7 @@ Record *CatalogueCommand::entry(const QString &name) const
     if (found.size() == 1)
         return found.first();
     if (found.isEmpty()) {
-        failure(QStringLiteral("The catalogue has no entry “%1”.").arg(name));
+        failure(Tr::tr("The catalogue has no entry “%1”.").arg(name));
     } else {
         QStringList ids;
         for (const Record *e : std::as_const(found))
@@ -51,7 +59,7 @@ Record *CatalogueCommand::entry(const QString &name) const
 int CatalogueCommand::edit(const QStringList &pos)
 {
     if (pos.size() < 3)
-        return usageError(QStringLiteral("Give the entry and at least one KEY=VALUE."));
+        return usageError(Tr::tr("Give the entry and at least one KEY=VALUE."));
     static const QHash<QString, QString> keys = {
         {QStringLiteral("title"), QStringLiteral("title")},       {QStringLiteral("subtitle"), QStringLiteral("subtitle")},
         {QStringLiteral("unit"), QStringLiteral("unit")},         {QStringLiteral("sku"), QStringLiteral("sku")},
@@ -86,7 +94,7 @@ int CatalogueCommand::edit(const QStringList &pos)
 int CatalogueCommand::remove(const QStringList &pos)
 {
     if (pos.size() < 2)
-        return usageError(QStringLiteral("Give the entries to delete."));
+        return usageError(Tr::tr("Give the entries to delete."));
     QList<Record *> entries;
     for (const QString &name : pos.mid(1)) {
         Record *e = entry(name);
@@ -101,7 +109,7 @@ int CatalogueCommand::remove(const QStringList &pos)
 int CatalogueCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
+    const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
     parser.addOption(json);
     int code = kExitOk;
     if (!parseConfirmed(parser, args, 1, -1, &code))
@@ -114,7 +122,7 @@ int CatalogueCommand::execute(const QStringList &args)
         return m_session.store() ? remove(pos) : kExitFailure;
     const bool articles = what == QLatin1String("list");
     if (!articles && what != QLatin1String("shipping"))
-        return usageError(QStringLiteral("Unknown catalogue “%1”.").arg(what));
+        return usageError(Tr::tr("Unknown catalogue “%1”.").arg(what));
     if (pos.size() > 1)
         return usageError();
     if (!m_session.store())

@@ -4,13 +4,25 @@
 
 #include "cli/Console.h"
 
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(CliInteraction)
+};
+} // namespace
+
 namespace tabo::cli {
 
 int CliInteraction::decliningButton(const QStringList &buttons)
 {
+    // Buttons arrive in the person's language; the English prefixes cover
+    // commands that run without a translation.
+    const QStringList declining { Tr::tr("Cancel"), Tr::tr("Don't Update Database and Quit Tabo 2") };
     for (int i = 0; i < buttons.size(); ++i) {
         const QString &b = buttons.at(i);
-        if (b.startsWith(QLatin1String("Cancel")) || b.startsWith(QLatin1String("Don't"))
+        if (declining.contains(b) || b.startsWith(QLatin1String("Cancel")) || b.startsWith(QLatin1String("Don't"))
             || b.startsWith(QLatin1String("Don’t")))
             return i;
     }

@@ -6,6 +6,14 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Command)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -27,7 +35,7 @@ QString Command::usage() const
 bool Command::parse(QCommandLineParser &parser, const QStringList &args, int minPositional, int maxPositional,
                     int *exitCode, bool optionsFirst) const
 {
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
+    const QCommandLineOption help({ QStringLiteral("h"), QStringLiteral("help") }, Tr::tr("Show this help."));
     parser.addOption(help);
     if (optionsFirst)
         parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
@@ -37,17 +45,17 @@ bool Command::parse(QCommandLineParser &parser, const QStringList &args, int min
         return false;
     }
     if (parser.isSet(help)) {
-        printOut(QStringLiteral("Usage: ") + usage() + QStringLiteral("\n") + m_description);
+        printOut(Tr::tr("Usage: ") + usage() + QStringLiteral("\n") + m_description);
         *exitCode = kExitOk;
         return false;
     }
     const qsizetype n = parser.positionalArguments().size();
     if (n < minPositional) {
-        *exitCode = usageError(QStringLiteral("Missing argument."));
+        *exitCode = usageError(Tr::tr("Missing argument."));
         return false;
     }
     if (maxPositional >= 0 && n > maxPositional) {
-        *exitCode = usageError(QStringLiteral("Too many arguments."));
+        *exitCode = usageError(Tr::tr("Too many arguments."));
         return false;
     }
     return true;
@@ -55,7 +63,7 @@ bool Command::parse(QCommandLineParser &parser, const QStringList &args, int min
 
 int Command::usageError(const QString &reason) const
 {
-    printError((reason.isEmpty() ? QString() : reason + QLatin1Char(' ')) + QStringLiteral("Usage: ") + usage());
+    printError((reason.isEmpty() ? QString() : reason + QLatin1Char(' ')) + Tr::tr("Usage: ") + usage());
     return kExitUsage;
 }
 
@@ -83,8 +91,8 @@ bool Command::splitKeyValues(const QStringList &words, const QStringList &keys, 
         }
         const QString key = word.left(eq);
         if (!keys.isEmpty() && !keys.contains(key)) {
-            *exitCode = usageError(
-                QStringLiteral("Unknown key “%1”; known keys: %2.").arg(key, keys.join(QStringLiteral(", "))));
+            *exitCode
+                = usageError(Tr::tr("Unknown key “%1”; known keys: %2.").arg(key, keys.join(QStringLiteral(", "))));
             return false;
         }
         out->append({key, word.mid(eq + 1)});
@@ -103,17 +111,17 @@ std::optional<Date> Command::rangeDate(const QString &text, bool end)
 
 QCommandLineOption Command::yesOption()
 {
-    return QCommandLineOption(QStringLiteral("yes"), QStringLiteral("Confirm the questions the command asks."));
+    return QCommandLineOption(QStringLiteral("yes"), Tr::tr("Confirm the questions the command asks."));
 }
 
 QCommandLineOption Command::filterOption()
 {
-    return QCommandLineOption(QStringLiteral("filter"), QStringLiteral("Filter tag."), QStringLiteral("TAG"));
+    return QCommandLineOption(QStringLiteral("filter"), Tr::tr("Filter tag."), QStringLiteral("TAG"));
 }
 
 QCommandLineOption Command::searchOption()
 {
-    return QCommandLineOption(QStringLiteral("search"), QStringLiteral("The list's search."), QStringLiteral("TEXT"));
+    return QCommandLineOption(QStringLiteral("search"), Tr::tr("The list's search."), QStringLiteral("TEXT"));
 }
 
 void Command::arrangeList(const QCommandLineParser &parser, unsigned tag)
@@ -132,7 +140,7 @@ bool Command::filterTag(const QCommandLineParser &parser, unsigned *tag, int *ex
     bool ok = true;
     *tag = parser.isSet(name) ? parser.value(name).toUInt(&ok) : 0;
     if (!ok)
-        *exitCode = usageError(QStringLiteral("“%1” is not a filter tag.").arg(parser.value(name)));
+        *exitCode = usageError(Tr::tr("“%1” is not a filter tag.").arg(parser.value(name)));
     return ok;
 }
 

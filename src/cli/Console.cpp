@@ -1,6 +1,14 @@
 #include "cli/Console.h"
 
+#include <QCoreApplication>
 #include <cstdio>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Console)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -21,7 +29,7 @@ void printError(const QString &line)
 
 QString ambiguousName(const QString &name, const QString &what, const QStringList &ids)
 {
-    return QStringLiteral("“%1” names %2 %3; use one of their unique IDs: %4.")
+    return Tr::tr("“%1” names %2 %3; use one of their unique IDs: %4.")
         .arg(name)
         .arg(ids.size())
         .arg(what, ids.join(QStringLiteral(", ")));

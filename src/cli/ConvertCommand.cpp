@@ -7,13 +7,21 @@
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ConvertCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 ConvertCommand::ConvertCommand(Session &session)
     : Command(session, QStringLiteral("convert"), QStringLiteral("ID [--yes]"),
-              QStringLiteral("Convert a quote into an invoice (new number, title and texts); cannot be undone, "
-                             "so it needs --yes."))
+        Tr::tr("Convert a quote into an invoice (new number, title and texts); cannot be undone, "
+               "so it needs --yes."))
 {
 }
 

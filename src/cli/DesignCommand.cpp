@@ -16,26 +16,38 @@
 #include <QSaveFile>
 #include <QStringDecoder>
 
+#include <QCoreApplication>
 #include <array>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DesignCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 namespace {
 
-const QString kNoDesign = QStringLiteral("No design available. Please download or create a design.");
+QString kNoDesign()
+{
+    return Tr::tr("No design available. Please download or create a design.");
+}
 
 } // namespace
 
 DesignCommand::DesignCommand(Session &session)
     : Command(session, QStringLiteral("design"),
-              QStringLiteral("list [--json] | add [TITLE] | delete TITLE [--yes] | default TITLE | import FILE | "
-                             "export TITLE FILE | preview FILE.pdf [--design TITLE] | "
-                             "get TITLE [--invoice FILE] [--item FILE] [--css FILE] | "
-                             "set TITLE [--invoice FILE] [--item FILE] [--css FILE]"),
-              QStringLiteral("Manage the designs documents are rendered with; preview writes the sample document "
-                             "through a design (the default one unless --design) as a PDF. get writes a design's page, row and stylesheet "
-                             "to files and set reads them back, to edit a design in any editor. TITLE may also be a "
-                             "design's unique ID."))
+        QStringLiteral("list [--json] | add [TITLE] | delete TITLE [--yes] | default TITLE | import FILE | "
+                       "export TITLE FILE | preview FILE.pdf [--design TITLE] | "
+                       "get TITLE [--invoice FILE] [--item FILE] [--css FILE] | "
+                       "set TITLE [--invoice FILE] [--item FILE] [--css FILE]"),
+        Tr::tr("Manage the designs documents are rendered with; preview writes the sample document "
+               "through a design (the default one unless --design) as a PDF. get writes a design's page, row and "
+               "stylesheet "
+               "to files and set reads them back, to edit a design in any editor. TITLE may also be a "
+               "design's unique ID."))
 {
 }
 
@@ -47,13 +59,12 @@ bool DesignCommand::rendersPages(const QStringList &args)
 int DesignCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
-    const QCommandLineOption design(QStringLiteral("design"), QStringLiteral("Design to preview."),
-                                    QStringLiteral("TITLE"));
-    const QCommandLineOption invoice(QStringLiteral("invoice"), QStringLiteral("The page's HTML file."),
-                                     QStringLiteral("FILE"));
-    const QCommandLineOption item(QStringLiteral("item"), QStringLiteral("The row's HTML file."), QStringLiteral("FILE"));
-    const QCommandLineOption css(QStringLiteral("css"), QStringLiteral("The stylesheet file."), QStringLiteral("FILE"));
+    const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
+    const QCommandLineOption design(QStringLiteral("design"), Tr::tr("Design to preview."), QStringLiteral("TITLE"));
+    const QCommandLineOption invoice(
+        QStringLiteral("invoice"), Tr::tr("The page's HTML file."), QStringLiteral("FILE"));
+    const QCommandLineOption item(QStringLiteral("item"), Tr::tr("The row's HTML file."), QStringLiteral("FILE"));
+    const QCommandLineOption css(QStringLiteral("css"), Tr::tr("The stylesheet file."), QStringLiteral("FILE"));
     parser.addOptions({json, design, invoice, item, css});
     int code = kExitOk;
     if (!parseConfirmed(parser, args, 1, 3, &code))
@@ -62,16 +73,16 @@ int DesignCommand::execute(const QStringList &args)
     const QString &action = pos.at(0);
     const qsizetype n = pos.size();
     if (parser.isSet(json) && action != QLatin1String("list"))
-        return usageError(QStringLiteral("--json belongs to “design list”."));
+        return usageError(Tr::tr("--json belongs to “design list”."));
     if (parser.isSet(design) && action != QLatin1String("preview"))
-        return usageError(QStringLiteral("--design belongs to “design preview”."));
+        return usageError(Tr::tr("--design belongs to “design preview”."));
     const TextFiles files {parser.value(invoice), parser.value(item), parser.value(css)};
     const bool texts = action == QLatin1String("get") || action == QLatin1String("set");
     if (files.any() && !texts)
-        return usageError(QStringLiteral("--invoice, --item and --css belong to “design get” and “design set”."));
+        return usageError(Tr::tr("--invoice, --item and --css belong to “design get” and “design set”."));
     if (texts && n == 2) {
         if (!files.any())
-            return usageError(QStringLiteral("Name at least one of --invoice, --item and --css."));
+            return usageError(Tr::tr("Name at least one of --invoice, --item and --css."));
         return action == QLatin1String("get") ? getTexts(pos.at(1), files) : setTexts(pos.at(1), files);
     }
     if (action == QLatin1String("list") && n == 1)
@@ -112,9 +123,9 @@ int DesignCommand::list(bool json)
         return kExitOk;
     }
     if (designs.isEmpty())
-        return failure(kNoDesign
-                       + QStringLiteral(" Run “tabo-cli prefs install-language N” to install the built-in designs, "
-                                        "or “tabo-cli design add”."));
+        return failure(kNoDesign()
+            + Tr::tr(" Run “tabo-cli prefs install-language N” to install the built-in designs, "
+                     "or “tabo-cli design add”."));
     // The one pages are rendered with is starred.
     QStringList lines;
     for (const Record *d : designs)
@@ -129,7 +140,7 @@ int DesignCommand::add(const QString &title)
         return kExitFailure;
     Record *design = m_session.controller().designs().addDesign();
     if (!design)
-        return failure(QStringLiteral("The design could not be added."));
+        return failure(Tr::tr("The design could not be added."));
     // The window starts editing the title here; the command line takes it as an argument.
     if (!title.isEmpty()) {
         design->setText(Design::title, title);
@@ -202,7 +213,7 @@ int DesignCommand::preview(const QString &path, const QString *title)
     const SampleDocument sample(m_session.prefs());
     const QString html = outputs.renderer().invoiceHTMLString(design, sample.invoice(), sample.items());
     if (!outputs.renderHtmlToFile(html, path))
-        return failure(QStringLiteral("The PDF file “%1” could not be created.").arg(path));
+        return failure(Tr::tr("The PDF file “%1” could not be created.").arg(path));
     return kExitOk;
 }
 
@@ -239,12 +250,12 @@ int DesignCommand::setTexts(const QString &title, const TextFiles &files)
             continue;
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
-            return failure(QStringLiteral("“%1” cannot be read.").arg(path));
+            return failure(Tr::tr("“%1” cannot be read.").arg(path));
         const QByteArray data = file.readAll();
         QStringDecoder utf8(QStringDecoder::Utf8);
         texts[i] = utf8(data);
         if (utf8.hasError())
-            return failure(QStringLiteral("“%1” is not UTF-8 text.").arg(path));
+            return failure(Tr::tr("“%1” is not UTF-8 text.").arg(path));
     }
     for (std::size_t i = 0; i < parts.size(); ++i) {
         if (!parts[i].first.isEmpty())

@@ -7,6 +7,14 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DiscountCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -34,8 +42,7 @@ Error apply(DiscountFields &f, const QString &key, const QString &value)
         bool ok = false;
         f.kind = value.trimmed().toInt(&ok);
         if (!ok)
-            return Error::input(
-                QStringLiteral("“%1” is not a valid kind; 0 is a fixed amount, 1 a percentage.").arg(value));
+            return Error::input(Tr::tr("“%1” is not a valid kind; 0 is a fixed amount, 1 a percentage.").arg(value));
     }
     return {};
 }
@@ -44,9 +51,9 @@ Error apply(DiscountFields &f, const QString &key, const QString &value)
 
 DiscountCommand::DiscountCommand(Session &session)
     : Command(session, QStringLiteral("discount"), QStringLiteral("ID KEY=VALUE..."),
-              QStringLiteral("Edit the discount (keys: ") + kKeys.join(QStringLiteral(", "))
-                  + QStringLiteral("); kind 0 takes the amount, any other the percent (19 means 19 %); "
-                                   "keys not given keep their values."))
+        Tr::tr("Edit the discount (keys: ") + kKeys.join(QStringLiteral(", "))
+            + Tr::tr("); kind 0 takes the amount, any other the percent (19 means 19 %); "
+                     "keys not given keep their values."))
 {
 }
 

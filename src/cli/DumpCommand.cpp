@@ -6,13 +6,21 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DumpCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 DumpCommand::DumpCommand(Session &session)
     : Command(session, QStringLiteral("dump"), QStringLiteral("FILE"),
-              QStringLiteral("Write documents, catalogue, designs, addresses, shipping lines and templates to an "
-                             "invoices dump (a keyed archive; nothing reads it back)."))
+        Tr::tr("Write documents, catalogue, designs, addresses, shipping lines and templates to an "
+               "invoices dump (a keyed archive; nothing reads it back)."))
 {
 }
 

@@ -7,13 +7,21 @@
 #include "domain/Record.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DuplicateCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 DuplicateCommand::DuplicateCommand(Session &session)
     : Command(session, QStringLiteral("duplicate"), QStringLiteral("ID [--to-the-cent]"),
-              QStringLiteral("Copy a document with its lines under a new number; prints the copy's unique ID. "
-                             "--to-the-cent calculates the copy to the cent per VAT rate, as e-invoices need."))
+        Tr::tr("Copy a document with its lines under a new number; prints the copy's unique ID. "
+               "--to-the-cent calculates the copy to the cent per VAT rate, as e-invoices need."))
 {
 }
 
@@ -46,8 +54,8 @@ int DuplicateCommand::execute(const QStringList &args)
 
 CancelCommand::CancelCommand(Session &session)
     : Command(session, QStringLiteral("cancel"), QStringLiteral("ID [--yes]"),
-              QStringLiteral("Cancel a sent or paid invoice by a credit note (needs --yes): its lines negated, "
-                             "numbered as invoices are, naming the invoice. Prints the credit note's unique ID."))
+        Tr::tr("Cancel a sent or paid invoice by a credit note (needs --yes): its lines negated, "
+               "numbered as invoices are, naming the invoice. Prints the credit note's unique ID."))
 {
 }
 

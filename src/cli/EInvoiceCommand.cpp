@@ -11,33 +11,42 @@
 #include "einvoice/Reader.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QSaveFile>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(EInvoiceCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 EInvoiceCommand::EInvoiceCommand(Session &session)
-    : Command(session, QStringLiteral("einvoice"), QStringLiteral("export ID --xrechnung-cii FILE | --xrechnung-ubl FILE | --facturx FILE.pdf [--design TITLE] | "
-                             "missing ID | view FILE --pdf OUT | --html OUT | check FILE"),
-              QStringLiteral("Write an invoice as XRechnung (CII or UBL) or as a Factur-X / ZUGFeRD PDF, or list what "
-                             "it still needs for one (each in words, with where to fill it); nothing is written while "
-                             "something is missing. view and check read a received e-invoice (XML, or a PDF carrying "
-                             "one): a readable page of it, or whether it is well-formed and its totals add up. A "
-                             "received invoice is never stored."))
+    : Command(session, QStringLiteral("einvoice"),
+        QStringLiteral("export ID --xrechnung-cii FILE | --xrechnung-ubl FILE | --facturx FILE.pdf [--design TITLE] | "
+                       "missing ID | view FILE --pdf OUT | --html OUT | check FILE"),
+        Tr::tr("Write an invoice as XRechnung (CII or UBL) or as a Factur-X / ZUGFeRD PDF, or list what "
+               "it still needs for one (each in words, with where to fill it); nothing is written while "
+               "something is missing. view and check read a received e-invoice (XML, or a PDF carrying "
+               "one): a readable page of it, or whether it is well-formed and its totals add up. A "
+               "received invoice is never stored."))
 {
 }
 
 int EInvoiceCommand::received(const QString &sub, const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption pdf(QStringLiteral("pdf"), QStringLiteral("Write the page as PDF."), QStringLiteral("OUT"));
-    const QCommandLineOption html(QStringLiteral("html"), QStringLiteral("Write the page as HTML."), QStringLiteral("OUT"));
+    const QCommandLineOption pdf(QStringLiteral("pdf"), Tr::tr("Write the page as PDF."), QStringLiteral("OUT"));
+    const QCommandLineOption html(QStringLiteral("html"), Tr::tr("Write the page as HTML."), QStringLiteral("OUT"));
     if (sub == QLatin1String("view"))
         parser.addOptions({pdf, html});
     int code = kExitOk;
     if (!parse(parser, args, 1, 1, &code))
         return code;
     if (sub == QLatin1String("view") && parser.isSet(pdf) == parser.isSet(html))
-        return usageError(QStringLiteral("Say where: --pdf OUT or --html OUT."));
+        return usageError(Tr::tr("Say where: --pdf OUT or --html OUT."));
     // What is received is only read: the store is never opened.
     const Result<einvoice::Received> read = einvoice::readReceivedFile(parser.positionalArguments().constFirst());
     if (!read)
@@ -46,14 +55,16 @@ int EInvoiceCommand::received(const QString &sub, const QStringList &args)
     if (sub == QLatin1String("check")) {
         const QStringList problems = einvoice::checkTotals(received.invoice);
         printOut(QStringLiteral("well-formed %1 %2 (%3)%4\n")
-                     .arg(received.syntaxName(), received.invoice.typeCode == QLatin1String("381")
-                                                     ? QStringLiteral("credit note") : QStringLiteral("invoice"),
-                          received.guideline, received.fromPdf ? QStringLiteral(", from a PDF") : QString()));
+                     .arg(received.syntaxName(),
+                         received.invoice.typeCode == QLatin1String("381") ? Tr::tr("credit note")
+                                                                           : QStringLiteral("invoice"),
+                         received.guideline, received.fromPdf ? Tr::tr(", from a PDF") : QString()));
         for (const QString &problem : problems)
             printOut(problem + QLatin1Char('\n'));
         if (!problems.isEmpty())
-            return failure(QStringLiteral("Its totals do not add up."));
-        printOut(QStringLiteral("its totals add up: %1 %2 due\n").arg(einvoice::amount(received.invoice.payable), received.invoice.currency));
+            return failure(Tr::tr("Its totals do not add up."));
+        printOut(Tr::tr("its totals add up: %1 %2 due\n")
+                     .arg(einvoice::amount(received.invoice.payable), received.invoice.currency));
         return kExitOk;
     }
     const QString page = einvoice::viewPage(received);
@@ -63,7 +74,7 @@ int EInvoiceCommand::received(const QString &sub, const QStringList &args)
         return kExitOk;
     }
     if (!m_session.controller().outputs().renderHtmlToFile(page, parser.value(pdf)))
-        return failure(QStringLiteral("The page could not be written to “%1”.").arg(parser.value(pdf)));
+        return failure(Tr::tr("The page could not be written to “%1”.").arg(parser.value(pdf)));
     return kExitOk;
 }
 
@@ -73,25 +84,22 @@ int EInvoiceCommand::execute(const QStringList &args)
     if (sub == QLatin1String("view") || sub == QLatin1String("check"))
         return received(sub, args.mid(1));
     QCommandLineParser parser;
-    const QCommandLineOption cii(QStringLiteral("xrechnung-cii"), QStringLiteral("XRechnung in CII."),
-                                 QStringLiteral("FILE"));
-    const QCommandLineOption ubl(QStringLiteral("xrechnung-ubl"), QStringLiteral("XRechnung in UBL."),
-                                 QStringLiteral("FILE"));
-    const QCommandLineOption facturx(QStringLiteral("facturx"), QStringLiteral("Factur-X / ZUGFeRD PDF."),
-                                     QStringLiteral("FILE.pdf"));
-    const QCommandLineOption design(QStringLiteral("design"), QStringLiteral("Design of the PDF."),
-                                    QStringLiteral("TITLE"));
+    const QCommandLineOption cii(QStringLiteral("xrechnung-cii"), Tr::tr("XRechnung in CII."), QStringLiteral("FILE"));
+    const QCommandLineOption ubl(QStringLiteral("xrechnung-ubl"), Tr::tr("XRechnung in UBL."), QStringLiteral("FILE"));
+    const QCommandLineOption facturx(
+        QStringLiteral("facturx"), Tr::tr("Factur-X / ZUGFeRD PDF."), QStringLiteral("FILE.pdf"));
+    const QCommandLineOption design(QStringLiteral("design"), Tr::tr("Design of the PDF."), QStringLiteral("TITLE"));
     if (sub == QLatin1String("export"))
         parser.addOptions({cii, ubl, facturx, design});
     else if (sub != QLatin1String("missing"))
-        return usageError(sub.isEmpty() ? QStringLiteral("Missing export, missing, view or check.")
-                                        : QStringLiteral("Unknown “%1”: export, missing, view or check.").arg(sub));
+        return usageError(sub.isEmpty() ? Tr::tr("Missing export, missing, view or check.")
+                                        : Tr::tr("Unknown “%1”: export, missing, view or check.").arg(sub));
     int code = kExitOk;
     if (!parse(parser, args.mid(1), 1, 1, &code))
         return code;
     if (sub == QLatin1String("export") && int(parser.isSet(cii)) + int(parser.isSet(ubl)) + int(parser.isSet(facturx)) != 1)
-        return usageError(QStringLiteral("Say which and where: --xrechnung-cii FILE, --xrechnung-ubl FILE or "
-                                         "--facturx FILE.pdf."));
+        return usageError(Tr::tr("Say which and where: --xrechnung-cii FILE, --xrechnung-ubl FILE or "
+                                 "--facturx FILE.pdf."));
     // Exporting does not make the document the current one.
     Record *doc = m_session.document(parser.positionalArguments().constFirst());
     if (!doc)
@@ -109,8 +117,8 @@ int EInvoiceCommand::execute(const QStringList &args)
     const einvoice::Mapping mapping = commands.map(*doc, request.lines);
     // The one action that helps a classic document, in this program's words.
     const QString advice = mapping.toTheCentHelps
-        ? QStringLiteral(" tabo-cli duplicate %1 --to-the-cent makes a copy calculated to the cent; tabo-cli prefs "
-                         "set centExactTotals true does so for new invoices.")
+        ? Tr::tr(" tabo-cli duplicate %1 --to-the-cent makes a copy calculated to the cent; tabo-cli prefs "
+                 "set centExactTotals true does so for new invoices.")
               .arg(doc->text(Invoice::uniqueID))
         : QString();
     if (sub == QLatin1String("missing")) {
@@ -118,12 +126,12 @@ int EInvoiceCommand::execute(const QStringList &args)
             printOut(problem + QLatin1Char('\n'));
         if (mapping.ok())
             return kExitOk;
-        return failure(QStringLiteral("The e-invoice cannot be written yet (%1 above).").arg(mapping.problems().size())
-                       + advice);
+        return failure(
+            Tr::tr("The e-invoice cannot be written yet (%1 above).").arg(mapping.problems().size()) + advice);
     }
     if (!mapping.ok())
-        return failure(QStringLiteral("The e-invoice cannot be written yet: ") + mapping.problems().join(QStringLiteral("; "))
-                       + advice);
+        return failure(
+            Tr::tr("The e-invoice cannot be written yet: ") + mapping.problems().join(QStringLiteral("; ")) + advice);
     if (parser.isSet(facturx))
         return commands.exportFacturX(request, mapping, parser.value(facturx)) ? kExitOk : kExitFailure;
     const bool asCii = parser.isSet(cii);

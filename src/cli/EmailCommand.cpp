@@ -7,22 +7,30 @@
 #include "prefs/Preferences.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(EmailCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 EmailCommand::EmailCommand(Session &session)
     : Command(session, QStringLiteral("email"), QStringLiteral("ID [--form pdf|facturx|xrechnung]"),
-              QStringLiteral("Open a new message in the mail program with the document as a PDF attachment; an "
-                             "invoice is then marked as sent when markInvoiceAsSent is on. --form attaches an "
-                             "invoice as PDF with its e-invoice (Factur-X / ZUGFeRD) or as e-invoice alone "
-                             "(XRechnung) instead; without it, the einvoiceForm preference decides."))
+        Tr::tr("Open a new message in the mail program with the document as a PDF attachment; an "
+               "invoice is then marked as sent when markInvoiceAsSent is on. --form attaches an "
+               "invoice as PDF with its e-invoice (Factur-X / ZUGFeRD) or as e-invoice alone "
+               "(XRechnung) instead; without it, the einvoiceForm preference decides."))
 {
 }
 
 int EmailCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption form(QStringLiteral("form"), QStringLiteral("What to attach."), QStringLiteral("FORM"));
+    const QCommandLineOption form(QStringLiteral("form"), Tr::tr("What to attach."), QStringLiteral("FORM"));
     parser.addOption(form);
     int code = kExitOk;
     if (!parse(parser, args, 1, 1, &code))
@@ -30,7 +38,7 @@ int EmailCommand::execute(const QStringList &args)
     const QStringList forms{QStringLiteral("pdf"), QStringLiteral("facturx"), QStringLiteral("xrechnung")};
     const qsizetype chosen = forms.indexOf(parser.value(form));
     if (parser.isSet(form) && chosen < 0)
-        return usageError(QStringLiteral("--form takes pdf, facturx or xrechnung."));
+        return usageError(Tr::tr("--form takes pdf, facturx or xrechnung."));
     Preferences &prefs = m_session.prefs();
     const QVariant before = prefs.value(Preferences::einvoiceForm);
     const bool had = prefs.contains(Preferences::einvoiceForm);

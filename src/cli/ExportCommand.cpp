@@ -6,28 +6,35 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ExportCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 ExportCommand::ExportCommand(Session &session)
     : Command(session, QStringLiteral("export"), QStringLiteral("ID --tabo FILE | --xml FILE"),
-              QStringLiteral("Write a document as a Tabo document (the form import reads) or as an XML property "
-                             "list."))
+        Tr::tr("Write a document as a Tabo document (the form import reads) or as an XML property "
+               "list."))
 {
 }
 
 int ExportCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption tabo(QStringLiteral("tabo"), QStringLiteral("Tabo document to write."),
-                                  QStringLiteral("FILE"));
-    const QCommandLineOption xml(QStringLiteral("xml"), QStringLiteral("XML file to write."), QStringLiteral("FILE"));
+    const QCommandLineOption tabo(QStringLiteral("tabo"), Tr::tr("Tabo document to write."), QStringLiteral("FILE"));
+    const QCommandLineOption xml(QStringLiteral("xml"), Tr::tr("XML file to write."), QStringLiteral("FILE"));
     parser.addOptions({tabo, xml});
     int code = kExitOk;
     if (!parse(parser, args, 1, 1, &code))
         return code;
     if (parser.isSet(tabo) == parser.isSet(xml))
-        return usageError(QStringLiteral("Give one of --tabo and --xml."));
+        return usageError(Tr::tr("Give one of --tabo and --xml."));
     const Record *doc = m_session.document(parser.positionalArguments().constFirst());
     if (!doc)
         return kExitFailure;

@@ -6,13 +6,21 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ExportXmlCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 ExportXmlCommand::ExportXmlCommand(Session &session)
     : Command(session, QStringLiteral("export-xml"), QStringLiteral("FILE [--filter TAG]"),
-              QStringLiteral("Write every document, or those the list shows under a filter tag (as in list), "
-                             "to an XML property list."))
+        Tr::tr("Write every document, or those the list shows under a filter tag (as in list), "
+               "to an XML property list."))
 {
 }
 

@@ -7,14 +7,22 @@
 #include "domain/Record.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QFileInfo>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ImportCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 ImportCommand::ImportCommand(Session &session)
     : Command(session, QStringLiteral("import"), QStringLiteral("FILE [--yes]"),
-              QStringLiteral("Add the document of a Tabo document file; the application warns first, so it needs "
-                             "--yes. Prints the new document's unique ID."))
+        Tr::tr("Add the document of a Tabo document file; the application warns first, so it needs "
+               "--yes. Prints the new document's unique ID."))
 {
 }
 
@@ -26,7 +34,7 @@ int ImportCommand::execute(const QStringList &args)
         return code;
     const QString path = parser.positionalArguments().constFirst();
     if (!QFileInfo(path).isFile())
-        return failure(QStringLiteral("No file “%1”.").arg(path));
+        return failure(Tr::tr("No file “%1”.").arg(path));
     if (!m_session.store())
         return kExitFailure;
     // The application's own command: its warning, then the file as the
@@ -36,7 +44,7 @@ int ImportCommand::execute(const QStringList &args)
     const Record *doc = m_session.controller().files().importInvoice();
     if (!doc) {
         if (ui.messagesShown() == 0)
-            return failure(QStringLiteral("Nothing was imported from “%1”.").arg(path));
+            return failure(Tr::tr("Nothing was imported from “%1”.").arg(path));
         return kExitFailure;
     }
     printOut(doc->text(Invoice::uniqueID));

@@ -5,8 +5,16 @@
 
 #include <QStringList>
 
+#include <QCoreApplication>
 #include <charconv>
 #include <cmath>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(JsonWriter)
+};
+} // namespace
 
 namespace tabo::cli {
 

@@ -9,13 +9,21 @@
 #include "domain/Record.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ListCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 ListCommand::ListCommand(Session &session)
     : Command(session, QStringLiteral("list"), QStringLiteral("[--filter TAG] [--json]"),
-              QStringLiteral("List the documents shown by a filter (0 all, 1 sent, 2 overdue or partly paid, "
-                             "3 paid, 4 quotes, 5-8 the last 12 hours, 3.5, 15.5, 182.5 days) and the summary."))
+        Tr::tr("List the documents shown by a filter (0 all, 1 sent, 2 overdue or partly paid, "
+               "3 paid, 4 quotes, 5-8 the last 12 hours, 3.5, 15.5, 182.5 days) and the summary."))
 {
 }
 
@@ -29,7 +37,7 @@ int ListCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
     const QCommandLineOption filter = filterOption();
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
+    const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
     parser.addOptions({filter, json});
     int code = kExitOk;
     if (!parse(parser, args, 0, 0, &code))

@@ -6,12 +6,20 @@
 #include "domain/Record.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(NewCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 NewCommand::NewCommand(Session &session)
     : Command(session, QStringLiteral("new"), QStringLiteral("invoice|quote"),
-              QStringLiteral("Create a document and print its unique ID."))
+        Tr::tr("Create a document and print its unique ID."))
 {
 }
 
@@ -23,7 +31,7 @@ int NewCommand::execute(const QStringList &args)
         return code;
     const QString kind = parser.positionalArguments().constFirst();
     if (kind != QLatin1String("invoice") && kind != QLatin1String("quote"))
-        return usageError(QStringLiteral("Unknown document kind “%1”.").arg(kind));
+        return usageError(Tr::tr("Unknown document kind “%1”.").arg(kind));
     if (!m_session.store())
         return kExitFailure;
     AppController &app = m_session.controller();

@@ -14,11 +14,21 @@
 #include <QProcess>
 #include <QTimer>
 
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(NotifyCommand)
+};
+} // namespace
+
 namespace tabo::cli {
 
 namespace {
 
-const QString kDateHelp = QStringLiteral("“%1” is not an ISO 8601 date or moment (2026-12-03 or 2026-12-03T09:00).");
+QString kDateHelp()
+{
+    return Tr::tr("“%1” is not an ISO 8601 date or moment (2026-12-03 or 2026-12-03T09:00).");
+}
 
 // A day alone means its first moment, where the person is.
 // A moment without a zone is local time; one with "Z" or an offset is kept
@@ -39,27 +49,27 @@ std::optional<Date> moment(const QString &text)
 
 NotifyCommand::NotifyCommand(Session &session)
     : Command(session, QStringLiteral("notify"),
-              QStringLiteral("ID [--date ISO] [--title T] [--subtitle S] [--text T] [--yes]"),
-              QStringLiteral("Schedule a reminder of a document: by default three days after it is due, titled "
-                             "with its title and number, with the address's first line as subtitle. A second "
-                             "reminder of the same document needs --yes. Prints the reminder's number."))
+        QStringLiteral("ID [--date ISO] [--title T] [--subtitle S] [--text T] [--yes]"),
+        Tr::tr("Schedule a reminder of a document: by default three days after it is due, titled "
+               "with its title and number, with the address's first line as subtitle. A second "
+               "reminder of the same document needs --yes. Prints the reminder's number."))
 {
 }
 
 int NotifyCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption date(QStringLiteral("date"), QStringLiteral("When to show it."), QStringLiteral("ISO"));
-    const QCommandLineOption title(QStringLiteral("title"), QStringLiteral("Title."), QStringLiteral("T"));
-    const QCommandLineOption subtitle(QStringLiteral("subtitle"), QStringLiteral("Subtitle."), QStringLiteral("S"));
-    const QCommandLineOption text(QStringLiteral("text"), QStringLiteral("Informative text."), QStringLiteral("T"));
+    const QCommandLineOption date(QStringLiteral("date"), Tr::tr("When to show it."), QStringLiteral("ISO"));
+    const QCommandLineOption title(QStringLiteral("title"), Tr::tr("Title."), QStringLiteral("T"));
+    const QCommandLineOption subtitle(QStringLiteral("subtitle"), Tr::tr("Subtitle."), QStringLiteral("S"));
+    const QCommandLineOption text(QStringLiteral("text"), Tr::tr("Informative text."), QStringLiteral("T"));
     parser.addOptions({date, title, subtitle, text});
     int code = kExitOk;
     if (!parseConfirmed(parser, args, 1, 1, &code))
         return code;
     std::optional<Date> when;
     if (parser.isSet(date) && !(when = moment(parser.value(date))))
-        return usageError(kDateHelp.arg(parser.value(date)));
+        return usageError(kDateHelp().arg(parser.value(date)));
     if (!m_session.select(parser.positionalArguments().constFirst()))
         return kExitFailure;
     NotificationCommands &notifications = m_session.controller().notifications();
@@ -80,17 +90,17 @@ int NotifyCommand::execute(const QStringList &args)
     printOut(QString::number(id) + QLatin1Char('\n'));
     const QString reason = notifications.unavailableReason();
     if (!reason.isEmpty())
-        printError(reason + QStringLiteral(" The reminder is kept and shown by the first Tabo that can."));
+        printError(reason + Tr::tr(" The reminder is kept and shown by the first Tabo that can."));
     return kExitOk;
 }
 
 NotificationsCommand::NotificationsCommand(Session &session)
     : Command(session, QStringLiteral("notifications"),
-              QStringLiteral("list [--json] | cancel ID | deliver-due [--wait SECONDS]"),
-              QStringLiteral("The scheduled reminders: list them, cancel one by its number, or show those whose "
-                             "moment has come (what the reminder timer runs every hour). With --wait the run "
-                             "stays up to SECONDS after showing something, so that a click opens Tabo on the "
-                             "invoice."))
+        QStringLiteral("list [--json] | cancel ID | deliver-due [--wait SECONDS]"),
+        Tr::tr("The scheduled reminders: list them, cancel one by its number, or show those whose "
+               "moment has come (what the reminder timer runs every hour). With --wait the run "
+               "stays up to SECONDS after showing something, so that a click opens Tabo on the "
+               "invoice."))
 {
 }
 
@@ -107,14 +117,14 @@ int NotificationsCommand::execute(const QStringList &args)
         printOut(usage() + QLatin1Char('\n'));
         return kExitOk;
     }
-    return usageError(sub.isEmpty() ? QStringLiteral("Missing list, cancel or deliver-due.")
-                                    : QStringLiteral("Unknown “%1”: list, cancel or deliver-due.").arg(sub));
+    return usageError(sub.isEmpty() ? Tr::tr("Missing list, cancel or deliver-due.")
+                                    : Tr::tr("Unknown “%1”: list, cancel or deliver-due.").arg(sub));
 }
 
 int NotificationsCommand::list(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
+    const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
     parser.addOption(json);
     int code = kExitOk;
     if (!parse(parser, args, 0, 0, &code))
@@ -157,7 +167,7 @@ int NotificationsCommand::cancel(const QStringList &args)
     bool ok = false;
     const qint64 id = parser.positionalArguments().constFirst().toLongLong(&ok);
     if (!ok)
-        return usageError(QStringLiteral("“%1” is not a reminder's number (see “notifications list”).")
+        return usageError(Tr::tr("“%1” is not a reminder's number (see “notifications list”).")
                               .arg(parser.positionalArguments().constFirst()));
     if (!m_session.store())
         return kExitFailure;
@@ -167,7 +177,7 @@ int NotificationsCommand::cancel(const QStringList &args)
 int NotificationsCommand::deliverDue(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption wait(QStringLiteral("wait"), QStringLiteral("Stay for clicks."), QStringLiteral("SECONDS"));
+    const QCommandLineOption wait(QStringLiteral("wait"), Tr::tr("Stay for clicks."), QStringLiteral("SECONDS"));
     parser.addOption(wait);
     int code = kExitOk;
     if (!parse(parser, args, 0, 0, &code))
@@ -175,7 +185,7 @@ int NotificationsCommand::deliverDue(const QStringList &args)
     bool ok = true;
     const int seconds = parser.isSet(wait) ? parser.value(wait).toInt(&ok) : 0;
     if (!ok || seconds < 0)
-        return usageError(QStringLiteral("--wait takes a number of seconds."));
+        return usageError(Tr::tr("--wait takes a number of seconds."));
     if (!m_session.store())
         return kExitFailure;
     NotificationCommands &notifications = m_session.controller().notifications();
@@ -183,7 +193,7 @@ int NotificationsCommand::deliverDue(const QStringList &args)
     const int shown = delivery.shown;
     if (delivery.problem)
         printError(delivery.problem.message());
-    printOut(shown == 1 ? QStringLiteral("1 reminder shown.\n") : QStringLiteral("%1 reminders shown.\n").arg(shown));
+    printOut(shown == 1 ? Tr::tr("1 reminder shown.\n") : QStringLiteral("%1 reminders shown.\n").arg(shown));
     if (shown > 0 && seconds > 0) {
         // Holding the store open blocks nobody: its writers lock only while writing.
         Notifier &notifier = notifications.notifier();

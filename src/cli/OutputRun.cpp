@@ -6,6 +6,14 @@
 #include "cli/Console.h"
 #include "cli/Session.h"
 #include "domain/Record.h"
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(OutputRun)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -49,13 +57,12 @@ Result<Record *> OutputRun::design(Session &session, const QString &titleOrId)
     QStringList ids;
     for (const Record *d : found)
         ids << d->text(Design::uniqueID);
-    return Error::input(found.isEmpty()   ? QStringLiteral("No design titled “%1”.").arg(titleOrId)
-                        : byId.isEmpty() ? QStringLiteral("%1 designs are titled “%2”; give its unique ID instead: %3.")
-                                               .arg(found.size())
-                                               .arg(titleOrId, ids.join(QStringLiteral(", ")))
-                                         : QStringLiteral("“%1” is the ID of %2 designs; give its title instead.")
-                                               .arg(titleOrId)
-                                               .arg(found.size()));
+    return Error::input(found.isEmpty() ? Tr::tr("No design titled “%1”.").arg(titleOrId)
+            : byId.isEmpty()
+            ? Tr::tr("%1 designs are titled “%2”; give its unique ID instead: %3.")
+                  .arg(found.size())
+                  .arg(titleOrId, ids.join(QStringLiteral(", ")))
+            : Tr::tr("“%1” is the ID of %2 designs; give its title instead.").arg(titleOrId).arg(found.size()));
 }
 
 } // namespace tabo::cli

@@ -9,21 +9,30 @@
 #include "prefs/Preferences.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(PrefsCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 PrefsCommand::PrefsCommand(Session &session)
-    : Command(session, QStringLiteral("prefs"), QStringLiteral("list [--json] | get KEY | set KEY VALUE | install-language N | restore"),
-              QStringLiteral("List every preference with its type and value (stored, or the default); read or "
-                             "write one; install the language defaults (0 English, 1 German, 2 French, 3 Spanish); "
-                             "put the last good settings (Tabo.conf.bak) back in place of a damaged file."))
+    : Command(session, QStringLiteral("prefs"),
+        QStringLiteral("list [--json] | get KEY | set KEY VALUE | install-language N | restore"),
+        Tr::tr("List every preference with its type and value (stored, or the default); read or "
+               "write one; install the language defaults (0 English, 1 German, 2 French, 3 Spanish); "
+               "put the last good settings (Tabo.conf.bak) back in place of a damaged file."))
 {
 }
 
 int PrefsCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
+    const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
     parser.addOption(json);
     int code = kExitOk;
     // Values may start with a dash ("-5"), so options come first, except
@@ -34,7 +43,7 @@ int PrefsCommand::execute(const QStringList &args)
     const QStringList pos = parser.positionalArguments();
     const QString &action = pos.at(0);
     if (parser.isSet(json) && action != QLatin1String("list"))
-        return usageError(QStringLiteral("--json belongs to “prefs list”."));
+        return usageError(Tr::tr("--json belongs to “prefs list”."));
     if (action == QLatin1String("list") && pos.size() == 1)
         return list(parser.isSet(json));
     if (action == QLatin1String("get") && pos.size() == 2)
@@ -46,7 +55,7 @@ int PrefsCommand::execute(const QStringList &args)
     if (action == QLatin1String("restore") && pos.size() == 1) {
         if (const Error e = m_session.prefs().restoreBackup())
             return failure(e.message());
-        printOut(QStringLiteral("Restored the last good settings from “%1”.").arg(m_session.prefs().backupFilePath()));
+        printOut(Tr::tr("Restored the last good settings from “%1”.").arg(m_session.prefs().backupFilePath()));
         return kExitOk;
     }
     return usageError();
@@ -86,7 +95,7 @@ int PrefsCommand::get(const QString &key)
 {
     const int idx = Preferences::keyIndex(key);
     if (idx < 0)
-        return failure(QStringLiteral("Unknown preference key “%1”.").arg(key));
+        return failure(Tr::tr("Unknown preference key “%1”.").arg(key));
     printOut(m_session.prefs().toText(Preferences::Key(idx)));
     return kExitOk;
 }
@@ -127,7 +136,7 @@ int PrefsCommand::moveStore(Preferences::Key key, const QString &value)
         folder = value.trimmed();
     }
     if (useCustom && folder.isEmpty())
-        return failure(QStringLiteral("Name the folder first: tabo-cli prefs set customDatabasePath FOLDER."));
+        return failure(Tr::tr("Name the folder first: tabo-cli prefs set customDatabasePath FOLDER."));
     if (const QString refused = PrefRules::refusal(P::customDatabasePath, folder); !refused.isEmpty())
         return failure(refused);
     // Only a change of where the store is used moves it.
@@ -140,7 +149,7 @@ int PrefsCommand::moveStore(Preferences::Key key, const QString &value)
     if (!m_session.store())
         return kExitFailure;
     if (!m_session.controller().moveStore(useCustom, useCustom ? folder : QString()))
-        return failure(QStringLiteral("The database was not moved; the settings still name where it is."));
+        return failure(Tr::tr("The database was not moved; the settings still name where it is."));
     if (!useCustom)
         prefs.setString(P::customDatabasePath, folder);
     if (const Error e = prefs.syncChecked())
@@ -154,21 +163,21 @@ int PrefsCommand::installLanguage(const QString &number)
     bool ok = false;
     const qint64 n = number.toLongLong(&ok);
     if (!ok)
-        return usageError(QStringLiteral("“%1” is not a number.").arg(number));
+        return usageError(Tr::tr("“%1” is not a number.").arg(number));
     // The assistant's first step: also installs the built-in designs once.
     if (m_session.controller().firstAssiTabAction(n)) {
         if (m_session.prefs().boolean(Preferences::centExactTotals))
-            printOut(QStringLiteral("New documents are calculated to the cent. %1 "
-                                    "(tabo-cli prefs set centExactTotals false keeps the classic calculation.)")
+            printOut(Tr::tr("New documents are calculated to the cent. %1 "
+                            "(tabo-cli prefs set centExactTotals false keeps the classic calculation.)")
                          .arg(AppController::centExactTotalsReason()));
         return kExitOk;
     }
     // The first-start assistant goes on without defaults; so do we.
     if (Preferences::languageDefaultsResource(n).isEmpty()) {
-        printError(QStringLiteral("No language defaults for %1; nothing was installed.").arg(n));
+        printError(Tr::tr("No language defaults for %1; nothing was installed.").arg(n));
         return kExitOk;
     }
-    return failure(QStringLiteral("The language defaults %1 could not be read.").arg(n));
+    return failure(Tr::tr("The language defaults %1 could not be read.").arg(n));
 }
 
 } // namespace tabo::cli

@@ -14,53 +14,61 @@
 #include "render/PageRenderer.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
 #include <QSaveFile>
 #include <QSet>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(RenderCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 RenderCommand::RenderCommand(Session &session)
     : Command(session, QStringLiteral("render"),
-              QStringLiteral("ID --html FILE | ID --pdf FILE | ID... --out DIR | --all [--filter TAG] --out DIR "
-                             "[--reminder | --slip] [--design TITLE]"),
-              QStringLiteral("Write a document's page as HTML or PDF (as a payment reminder or delivery slip with "
-                             "the sheet's default texts), or one PDF per document, named after its number, into a "
-                             "folder. --design renders through that design instead of the default one."))
+        QStringLiteral("ID --html FILE | ID --pdf FILE | ID... --out DIR | --all [--filter TAG] --out DIR "
+                       "[--reminder | --slip] [--design TITLE]"),
+        Tr::tr("Write a document's page as HTML or PDF (as a payment reminder or delivery slip with "
+               "the sheet's default texts), or one PDF per document, named after its number, into a "
+               "folder. --design renders through that design instead of the default one."))
 {
 }
 
 int RenderCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption html(QStringLiteral("html"), QStringLiteral("HTML file to write."), QStringLiteral("FILE"));
-    const QCommandLineOption pdf(QStringLiteral("pdf"), QStringLiteral("PDF file to write."), QStringLiteral("FILE"));
-    const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Folder for one PDF per document."),
-                                 QStringLiteral("DIR"));
-    const QCommandLineOption all(QStringLiteral("all"), QStringLiteral("Every document the list shows."));
-    const QCommandLineOption filter(QStringLiteral("filter"), QStringLiteral("Filter tag (with --all)."),
-                                    QStringLiteral("TAG"));
-    const QCommandLineOption reminder(QStringLiteral("reminder"), QStringLiteral("As a payment reminder."));
-    const QCommandLineOption slip(QStringLiteral("slip"), QStringLiteral("As a delivery slip."));
-    const QCommandLineOption design(QStringLiteral("design"), QStringLiteral("Design to render with."),
-                                    QStringLiteral("TITLE"));
+    const QCommandLineOption html(QStringLiteral("html"), Tr::tr("HTML file to write."), QStringLiteral("FILE"));
+    const QCommandLineOption pdf(QStringLiteral("pdf"), Tr::tr("PDF file to write."), QStringLiteral("FILE"));
+    const QCommandLineOption out(
+        QStringLiteral("out"), Tr::tr("Folder for one PDF per document."), QStringLiteral("DIR"));
+    const QCommandLineOption all(QStringLiteral("all"), Tr::tr("Every document the list shows."));
+    const QCommandLineOption filter(
+        QStringLiteral("filter"), Tr::tr("Filter tag (with --all)."), QStringLiteral("TAG"));
+    const QCommandLineOption reminder(QStringLiteral("reminder"), Tr::tr("As a payment reminder."));
+    const QCommandLineOption slip(QStringLiteral("slip"), Tr::tr("As a delivery slip."));
+    const QCommandLineOption design(
+        QStringLiteral("design"), Tr::tr("Design to render with."), QStringLiteral("TITLE"));
     parser.addOptions({html, pdf, out, all, filter, reminder, slip, design});
     int code = kExitOk;
     if (!parse(parser, args, 0, -1, &code))
         return code;
     const QStringList ids = parser.positionalArguments();
     if (int(parser.isSet(html)) + int(parser.isSet(pdf)) + int(parser.isSet(out)) != 1)
-        return usageError(QStringLiteral("Give one of --html, --pdf and --out."));
+        return usageError(Tr::tr("Give one of --html, --pdf and --out."));
     if (parser.isSet(reminder) && parser.isSet(slip))
-        return usageError(QStringLiteral("Give at most one of --reminder and --slip."));
+        return usageError(Tr::tr("Give at most one of --reminder and --slip."));
     if (parser.isSet(filter) && !parser.isSet(all))
-        return usageError(QStringLiteral("--filter goes with --all."));
+        return usageError(Tr::tr("--filter goes with --all."));
     if (parser.isSet(all) && !ids.isEmpty())
-        return usageError(QStringLiteral("Give IDs or --all, not both."));
+        return usageError(Tr::tr("Give IDs or --all, not both."));
     if (!parser.isSet(out) && (parser.isSet(all) || ids.size() != 1))
-        return usageError(QStringLiteral("--html and --pdf write one document; use --out DIR for several."));
+        return usageError(Tr::tr("--html and --pdf write one document; use --out DIR for several."));
     if (parser.isSet(out) && ids.isEmpty() && !parser.isSet(all))
-        return usageError(QStringLiteral("Missing argument."));
+        return usageError(Tr::tr("Missing argument."));
     unsigned tag = 0;
     if (!filterTag(parser, &tag, &code))
         return code;
@@ -83,8 +91,8 @@ int RenderCommand::execute(const QStringList &args)
     if (!used)
         used = app.designs().currentDesign();
     if (!PageRenderer::canRender(used))
-        return failure(QStringLiteral("The design “%1” cannot be used: its page, row or style text is missing. "
-                                      "Choose another design (tabo-cli design list) or fix this one.")
+        return failure(Tr::tr("The design “%1” cannot be used: its page, row or style text is missing. "
+                              "Choose another design (tabo-cli design list) or fix this one.")
                            .arg(used ? used->text(Design::title) : QString()));
     LetterMode mode;
     mode.isReminderAction = parser.isSet(reminder);
@@ -129,14 +137,14 @@ int RenderCommand::writeHtml(const RenderRequest &request, const QString &path)
 int RenderCommand::writePdf(const RenderRequest &request, const QString &path)
 {
     if (!m_session.controller().outputs().renderToFile(request, path))
-        return failure(QStringLiteral("The PDF file “%1” could not be created.").arg(path));
+        return failure(Tr::tr("The PDF file “%1” could not be created.").arg(path));
     return kExitOk;
 }
 
 int RenderCommand::writeFolder(const QList<RenderRequest> &requests, const QString &dir)
 {
     if (!QDir().mkpath(dir))
-        return failure(QStringLiteral("The folder “%1” could not be created.").arg(dir));
+        return failure(Tr::tr("The folder “%1” could not be created.").arg(dir));
     QSet<QString> taken;
     QStringList paths;
     for (const RenderRequest &request : requests) {
@@ -154,7 +162,7 @@ int RenderCommand::writeFolder(const QList<RenderRequest> &requests, const QStri
         if (!failed.contains(path))
             printOut(path);
     if (!failed.isEmpty())
-        return failure(QStringLiteral("The PDF file “%1” could not be created.").arg(failed.constFirst()));
+        return failure(Tr::tr("The PDF file “%1” could not be created.").arg(failed.constFirst()));
     return kExitOk;
 }
 

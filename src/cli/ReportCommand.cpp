@@ -9,18 +9,26 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QSaveFile>
 #include <QStringList>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ReportCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 ReportCommand::ReportCommand(Session &session)
     : Command(session, QStringLiteral("report"),
-              QStringLiteral("[--filter TAG] [--search TEXT] [--from DATE --to DATE] [--json | --html FILE | --pdf FILE]"),
-              QStringLiteral("The report over the documents a filter and search show: counts, sums and averages "
-                             "(with --json by their placeholder names), revenue per month and the five clients "
-                             "with the most. --from and --to limit it to invoices dated in between, both days "
-                             "included."))
+        QStringLiteral("[--filter TAG] [--search TEXT] [--from DATE --to DATE] [--json | --html FILE | --pdf FILE]"),
+        Tr::tr("The report over the documents a filter and search show: counts, sums and averages "
+               "(with --json by their placeholder names), revenue per month and the five clients "
+               "with the most. --from and --to limit it to invoices dated in between, both days "
+               "included."))
 {
 }
 
@@ -29,13 +37,11 @@ int ReportCommand::execute(const QStringList &args)
     QCommandLineParser parser;
     const QCommandLineOption filter = filterOption();
     const QCommandLineOption search = searchOption();
-    const QCommandLineOption from(QStringLiteral("from"), QStringLiteral("First day."), QStringLiteral("DATE"));
-    const QCommandLineOption to(QStringLiteral("to"), QStringLiteral("Last day."), QStringLiteral("DATE"));
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
-    const QCommandLineOption html(QStringLiteral("html"), QStringLiteral("Write the report page."),
-                                  QStringLiteral("FILE"));
-    const QCommandLineOption pdf(QStringLiteral("pdf"), QStringLiteral("Write the report as PDF."),
-                                 QStringLiteral("FILE"));
+    const QCommandLineOption from(QStringLiteral("from"), Tr::tr("First day."), QStringLiteral("DATE"));
+    const QCommandLineOption to(QStringLiteral("to"), Tr::tr("Last day."), QStringLiteral("DATE"));
+    const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
+    const QCommandLineOption html(QStringLiteral("html"), Tr::tr("Write the report page."), QStringLiteral("FILE"));
+    const QCommandLineOption pdf(QStringLiteral("pdf"), Tr::tr("Write the report as PDF."), QStringLiteral("FILE"));
     parser.addOptions({filter, search, from, to, json, html, pdf});
     int code = kExitOk;
     if (!parse(parser, args, 0, 0, &code))
@@ -44,14 +50,14 @@ int ReportCommand::execute(const QStringList &args)
     if (!filterTag(parser, &tag, &code))
         return code;
     if (parser.isSet(from) != parser.isSet(to))
-        return usageError(QStringLiteral("A range needs both --from and --to."));
+        return usageError(Tr::tr("A range needs both --from and --to."));
     Report::Range range;
     if (parser.isSet(from)) {
         const std::optional<Date> begin = rangeDate(parser.value(from), false);
         const std::optional<Date> end = rangeDate(parser.value(to), true);
         if (!begin || !end)
-            return usageError(QStringLiteral("“%1” is not an ISO 8601 date.")
-                                  .arg(begin ? parser.value(to) : parser.value(from)));
+            return usageError(
+                Tr::tr("“%1” is not an ISO 8601 date.").arg(begin ? parser.value(to) : parser.value(from)));
         range = std::pair(*begin, *end);
     }
     if (!m_session.store())
@@ -66,7 +72,7 @@ int ReportCommand::execute(const QStringList &args)
     if (parser.isSet(pdf)) {
         // The bars are the page's own CSS: the PDF engine runs no script.
         if (!app.outputs().renderHtmlToFile(app.reports().reportPage(figures), parser.value(pdf)))
-            return failure(QStringLiteral("The report could not be written to “%1”.").arg(parser.value(pdf)));
+            return failure(Tr::tr("The report could not be written to “%1”.").arg(parser.value(pdf)));
         return kExitOk;
     }
     if (parser.isSet(html)) {

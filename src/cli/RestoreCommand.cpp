@@ -6,13 +6,21 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(RestoreCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
 RestoreCommand::RestoreCommand(Session &session)
     : Command(session, QStringLiteral("restore"), QStringLiteral("database|invoices|items FILE [--yes] | auto [--yes]"),
-              QStringLiteral("Replace the whole database by a .tabo2db backup, the shown documents or the catalogue "
-                             "by their backup, or the shown documents by the automatic backup; needs --yes."))
+        Tr::tr("Replace the whole database by a .tabo2db backup, the shown documents or the catalogue "
+               "by their backup, or the shown documents by the automatic backup; needs --yes."))
 {
 }
 
@@ -32,10 +40,9 @@ int RestoreCommand::execute(const QStringList &args)
     else if (what == QLatin1String("items"))
         restore = &BackupCommands::restoreItems;
     else if (what != QLatin1String("auto"))
-        return usageError(QStringLiteral("Unknown backup “%1”.").arg(what));
+        return usageError(Tr::tr("Unknown backup “%1”.").arg(what));
     if (pos.size() != (restore ? 2 : 1))
-        return usageError(restore ? QStringLiteral("Missing FILE.")
-                                  : QStringLiteral("The automatic backup has its own place."));
+        return usageError(restore ? Tr::tr("Missing FILE.") : Tr::tr("The automatic backup has its own place."));
 
     CliInteraction &ui = m_session.ui();
     if (!m_session.store())
@@ -49,7 +56,7 @@ int RestoreCommand::execute(const QStringList &args)
     if ((m_session.controller().backups().*restore)())
         return kExitOk;
     if (ui.messagesShown() == shown)
-        return failure(QStringLiteral("Nothing was restored from “%1”.").arg(pos.at(1)));
+        return failure(Tr::tr("Nothing was restored from “%1”.").arg(pos.at(1)));
     return kExitFailure;
 }
 
@@ -58,17 +65,17 @@ int RestoreCommand::restoreAutomaticBackup()
     // The application restores it without asking; here nobody sees the
     // documents vanish, so it asks as the other restores do.
     CliInteraction &ui = m_session.ui();
-    if (ui.alert(QStringLiteral("Warning!"),
-                 QStringLiteral("You are about to restore your Tabo invoices from a backup. This will irretrievably "
-                                "replace any existing invoices. Do you really want to do that?"),
-                 {QStringLiteral("Restore…"), QStringLiteral("Cancel")})
+    if (ui.alert(Tr::tr("Warning!"),
+            Tr::tr("You are about to restore your Tabo invoices from a backup. This will irretrievably "
+                   "replace any existing invoices. Do you really want to do that?"),
+            { Tr::tr("Restore…"), Tr::tr("Cancel") })
         != 0)
         return kExitFailure;
     const int shown = ui.messagesShown();
     if (m_session.controller().backups().restoreFromBackup())
         return kExitOk;
     if (ui.messagesShown() == shown)
-        return failure(QStringLiteral("Nothing was restored from the automatic backup."));
+        return failure(Tr::tr("Nothing was restored from the automatic backup."));
     return kExitFailure;
 }
 

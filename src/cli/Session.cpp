@@ -5,6 +5,14 @@
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Session)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -38,7 +46,7 @@ Store *Session::store()
     }
     Store *store = controller().store();
     if (!store && !m_ui.errorPresented() && !m_ui.refused())
-        printError(QStringLiteral("The database could not be opened."));
+        printError(Tr::tr("The database could not be opened."));
     return store;
 }
 
@@ -48,7 +56,7 @@ Record *Session::document(const QString &idOrNumber)
         return nullptr;
     const QList<Record *> found = controller().findDocuments(idOrNumber);
     if (found.isEmpty()) {
-        printError(QStringLiteral("No document with ID or number “%1”.").arg(idOrNumber));
+        printError(Tr::tr("No document with ID or number “%1”.").arg(idOrNumber));
         return nullptr;
     }
     // Two documents may share a number (a deletion, an import): a command that

@@ -7,6 +7,14 @@
 #include "cli/Session.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ShippingCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -43,9 +51,9 @@ Error apply(ShippingFields &f, const QString &key, const QString &value)
 
 ShippingCommand::ShippingCommand(Session &session)
     : Command(session, QStringLiteral("shipping"), QStringLiteral("ID KEY=VALUE..."),
-              QStringLiteral("Edit the shipping line (keys: ") + kKeys.join(QStringLiteral(", "))
-                  + QStringLiteral("); keys not given keep their values. The line is remembered for "
-                                   "later unless one with the same title and amount is."))
+        Tr::tr("Edit the shipping line (keys: ") + kKeys.join(QStringLiteral(", "))
+            + Tr::tr("); keys not given keep their values. The line is remembered for "
+                     "later unless one with the same title and amount is."))
 {
 }
 

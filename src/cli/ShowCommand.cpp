@@ -7,6 +7,14 @@
 #include "domain/Record.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ShowCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -28,15 +36,15 @@ void appendAttributes(QStringList &lines, const Record &record, const QString &i
 } // namespace
 
 ShowCommand::ShowCommand(Session &session)
-    : Command(session, QStringLiteral("show"), QStringLiteral("ID [--json]"),
-              QStringLiteral("Print a document with its lines."))
+    : Command(
+        session, QStringLiteral("show"), QStringLiteral("ID [--json]"), Tr::tr("Print a document with its lines."))
 {
 }
 
 int ShowCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
+    const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
     parser.addOption(json);
     int code = kExitOk;
     if (!parse(parser, args, 1, 1, &code))

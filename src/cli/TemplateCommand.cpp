@@ -11,7 +11,15 @@
 #include <QCommandLineOption>
 #include <QCommandLineParser>
 
+#include <QCoreApplication>
 #include <array>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(TemplateCommand)
+};
+} // namespace
 
 namespace tabo::cli {
 
@@ -27,21 +35,20 @@ constexpr std::array<Preferences::Key, 5> kGroupKeys{
 
 TemplateCommand::TemplateCommand(Session &session)
     : Command(session, QStringLiteral("template"),
-              QStringLiteral("save ID NAME [--include client,title,items,shipping,discount] [--notes TEXT] | "
-                             "apply ID NAME | list [--json] | delete NAME"),
-              QStringLiteral("Save a document as a named template (--include picks the groups for this save; "
-                             "otherwise the preferences do), fill a document from one, list or delete them."))
+        QStringLiteral("save ID NAME [--include client,title,items,shipping,discount] [--notes TEXT] | "
+                       "apply ID NAME | list [--json] | delete NAME"),
+        Tr::tr("Save a document as a named template (--include picks the groups for this save; "
+               "otherwise the preferences do), fill a document from one, list or delete them."))
 {
 }
 
 int TemplateCommand::execute(const QStringList &args)
 {
     QCommandLineParser parser;
-    const QCommandLineOption include(QStringLiteral("include"), QStringLiteral("Groups to take over."),
-                                     QStringLiteral("LIST"));
-    const QCommandLineOption notes(QStringLiteral("notes"), QStringLiteral("The template's description."),
-                                   QStringLiteral("TEXT"));
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON."));
+    const QCommandLineOption include(QStringLiteral("include"), Tr::tr("Groups to take over."), QStringLiteral("LIST"));
+    const QCommandLineOption notes(
+        QStringLiteral("notes"), Tr::tr("The template's description."), QStringLiteral("TEXT"));
+    const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
     parser.addOptions({include, notes, json});
     int code = kExitOk;
     if (!parse(parser, args, 1, 3, &code))
@@ -50,9 +57,9 @@ int TemplateCommand::execute(const QStringList &args)
     const QString &action = pos.at(0);
     const bool isSave = action == QLatin1String("save") && pos.size() == 3;
     if ((parser.isSet(include) || parser.isSet(notes)) && !isSave)
-        return usageError(QStringLiteral("--include and --notes belong to “template save”."));
+        return usageError(Tr::tr("--include and --notes belong to “template save”."));
     if (parser.isSet(json) && action != QLatin1String("list"))
-        return usageError(QStringLiteral("--json belongs to “template list”."));
+        return usageError(Tr::tr("--json belongs to “template list”."));
     if (isSave) {
         const QString includeList = parser.value(include);
         const QString notesText = parser.value(notes);
@@ -71,7 +78,7 @@ int TemplateCommand::execute(const QStringList &args)
 int TemplateCommand::save(const QString &id, const QString &name, const QString *include, const QString *notes)
 {
     if (name.trimmed().isEmpty())
-        return usageError(QStringLiteral("A template needs a name."));
+        return usageError(Tr::tr("A template needs a name."));
     std::array<bool, 5> chosen{};
     if (include) {
         for (const QString &word : include->split(QLatin1Char(','), Qt::SkipEmptyParts)) {
@@ -88,7 +95,7 @@ int TemplateCommand::save(const QString &id, const QString &name, const QString 
     TemplateCommands &templates = m_session.controller().templates();
     // Saved by name and applied by name: a second one would never be reached.
     if (templates.findTemplate(name))
-        return failure(QStringLiteral("A template named “%1” exists already.").arg(name));
+        return failure(Tr::tr("A template named “%1” exists already.").arg(name));
 
     // The groups are the popover's settings for this one save: put back what
     // was stored before, including "nothing stored".
@@ -122,7 +129,7 @@ int TemplateCommand::apply(const QString &id, const QString &name)
     TemplateCommands &templates = m_session.controller().templates();
     Record *t = templates.findTemplate(name);
     if (!t)
-        return failure(QStringLiteral("No template named “%1”.").arg(name));
+        return failure(Tr::tr("No template named “%1”.").arg(name));
     return templates.selectTemplate(t) ? kExitOk : kExitFailure;
 }
 
@@ -154,7 +161,7 @@ int TemplateCommand::remove(const QString &name)
     TemplateCommands &templates = m_session.controller().templates();
     Record *t = templates.findTemplate(name);
     if (!t)
-        return failure(QStringLiteral("No template named “%1”.").arg(name));
+        return failure(Tr::tr("No template named “%1”.").arg(name));
     templates.deleteTemplate(t);
     return m_session.controller().save() ? kExitFailure : kExitOk;
 }

@@ -1,5 +1,5 @@
 #include "app/AppController.h"
-#include "prefs/Preferences.h"
+#include "app/Translations.h"
 #include "cli/AccountBookCommand.h"
 #include "cli/AccountingExportCommand.h"
 #include "cli/AddItemCommand.h"
@@ -15,17 +15,17 @@
 #include "cli/DiscountCommand.h"
 #include "cli/DumpCommand.h"
 #include "cli/DuplicateCommand.h"
+#include "cli/EInvoiceCommand.h"
 #include "cli/EmailCommand.h"
 #include "cli/ExportCommand.h"
 #include "cli/ExportXmlCommand.h"
 #include "cli/ImportCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/NewCommand.h"
+#include "cli/NotifyCommand.h"
 #include "cli/PrefsCommand.h"
 #include "cli/PrintCommand.h"
 #include "cli/RenderCommand.h"
-#include "cli/EInvoiceCommand.h"
-#include "cli/NotifyCommand.h"
 #include "cli/ReportCommand.h"
 #include "cli/RestoreCommand.h"
 #include "cli/Session.h"
@@ -33,6 +33,7 @@
 #include "cli/ShippingCommand.h"
 #include "cli/ShowCommand.h"
 #include "cli/TemplateCommand.h"
+#include "prefs/Preferences.h"
 #include "render/PdfEngine.h"
 
 #include <QCoreApplication>
@@ -42,14 +43,20 @@
 #include <memory>
 #include <vector>
 
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(main)
+};
+} // namespace
+
 using namespace tabo::cli;
 
 namespace {
 
 QString usageText(const std::vector<std::unique_ptr<Command>> &commands)
 {
-    QStringList lines{QStringLiteral("Usage: tabo-cli COMMAND [ARGUMENTS]"), QString(),
-                      QStringLiteral("Commands:")};
+    QStringList lines { Tr::tr("Usage: tabo-cli COMMAND [ARGUMENTS]"), QString(), Tr::tr("Commands:") };
     for (const auto &c : commands)
         lines << QStringLiteral("  ") + c->usage() << QStringLiteral("      ") + c->description();
     lines << QString()
@@ -105,6 +112,7 @@ int main(int argc, char *argv[])
     }
     QCoreApplication::setApplicationName(QStringLiteral("tabo-cli"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TABO_VERSION));
+    tabo::installTranslations(*application);
 
     Session session;
     std::vector<std::unique_ptr<Command>> commands;
@@ -144,7 +152,7 @@ int main(int argc, char *argv[])
 
     QStringList args = QCoreApplication::arguments().mid(1);
     if (args.isEmpty()) {
-        printError(QStringLiteral("Missing command. Run “tabo-cli --help” for usage."));
+        printError(Tr::tr("Missing command. Run “tabo-cli --help” for usage."));
         return kExitUsage;
     }
     const QString name = args.takeFirst();
@@ -173,9 +181,8 @@ int main(int argc, char *argv[])
         }
         return session.finish(command->execute(args));
     }
-    printError((name.startsWith(QLatin1Char('-')) ? QStringLiteral("Unknown option “%1”.")
-                                                  : QStringLiteral("Unknown command “%1”."))
-                   .arg(name)
-               + QStringLiteral(" Run “tabo-cli --help” for usage."));
+    printError(
+        (name.startsWith(QLatin1Char('-')) ? Tr::tr("Unknown option “%1”.") : Tr::tr("Unknown command “%1”.")).arg(name)
+        + Tr::tr(" Run “tabo-cli --help” for usage."));
     return kExitUsage;
 }

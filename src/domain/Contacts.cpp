@@ -15,9 +15,17 @@
 
 #include <unicode/unistr.h>
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <climits>
 #include <optional>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Contacts)
+};
+} // namespace
 
 namespace tabo {
 
@@ -370,10 +378,10 @@ Result<QList<Contact>> parse(const QByteArray &data, const QString &fileName)
     if (!contacts.isEmpty())
         return contacts;
     if (fileName.isEmpty())
-        return Error::file(sawCard ? QStringLiteral("The vCard data holds no usable contact.")
-                                   : QStringLiteral("The data is not a vCard file."));
-    return Error::file(sawCard ? QStringLiteral("The vCard file “%1” holds no usable contact.").arg(fileName)
-                               : QStringLiteral("The file “%1” is not a vCard file.").arg(fileName));
+        return Error::file(
+            sawCard ? Tr::tr("The vCard data holds no usable contact.") : Tr::tr("The data is not a vCard file."));
+    return Error::file(sawCard ? Tr::tr("The vCard file “%1” holds no usable contact.").arg(fileName)
+                               : Tr::tr("The file “%1” is not a vCard file.").arg(fileName));
 }
 
 } // namespace
@@ -388,9 +396,9 @@ Result<QList<Contact>> readVCardFile(const QString &path)
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Error::file(QStringLiteral("The file “%1” could not be read.").arg(name));
+        return Error::file(Tr::tr("The file “%1” could not be read.").arg(name));
     if (file.size() > kMaxFileSize)
-        return Error::file(QStringLiteral("The file “%1” is too large for a vCard file.").arg(name));
+        return Error::file(Tr::tr("The file “%1” is too large for a vCard file.").arg(name));
     return parse(file.readAll(), name);
 }
 
@@ -413,7 +421,7 @@ bool fieldsFromContact(const Preferences &prefs, const Contact &contact, Address
     const QString pattern = prefs.string(Preferences::prefsAddressPattern);
     if (pattern.isEmpty()) {
         if (message)
-            *message = QStringLiteral("You need to provide an address pattern in the Preferences.");
+            *message = Tr::tr("You need to provide an address pattern in the Preferences.");
         return false;
     }
     fields->address = formatAddress(pattern, contact);

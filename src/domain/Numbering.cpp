@@ -12,9 +12,17 @@
 #include <unicode/timezone.h>
 #include <unicode/unistr.h>
 
+#include <QCoreApplication>
 #include <memory>
 #include <string>
 #include <vector>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Numbering)
+};
+} // namespace
 
 namespace tabo::Numbering {
 
@@ -124,7 +132,7 @@ QString patternRefusal(const QString &pattern)
 {
     if (pattern.contains(QLatin1String("%COUNT%")))
         return {};
-    return QStringLiteral("The pattern needs %COUNT%, or every document gets the same number.");
+    return Tr::tr("The pattern needs %COUNT%, or every document gets the same number.");
 }
 
 QString patternDateString(const QString &datePattern, Date date, const QString &region)

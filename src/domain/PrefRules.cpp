@@ -2,9 +2,17 @@
 
 #include "domain/Numbering.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(PrefRules)
+};
+} // namespace
 
 namespace tabo::PrefRules {
 
@@ -14,9 +22,9 @@ using P = Preferences;
 QString bounded(qint64 n, qint64 maximum, const QString &what)
 {
     if (n < 0)
-        return QStringLiteral("%1 cannot be below 0.").arg(what);
+        return Tr::tr("%1 cannot be below 0.").arg(what);
     if (n > maximum)
-        return QStringLiteral("%1 cannot be above %2.").arg(what).arg(maximum);
+        return Tr::tr("%1 cannot be above %2.").arg(what).arg(maximum);
     return {};
 }
 } // namespace
@@ -27,10 +35,10 @@ QString refusal(Preferences::Key key, const QVariant &value)
     case P::invCount:
     case P::quotCount:
     case P::clientCount:
-        return bounded(value.toLongLong(), kMaxCounter, QStringLiteral("The counter"));
+        return bounded(value.toLongLong(), kMaxCounter, Tr::tr("The counter"));
     case P::invDefaultDueDate:
     case P::quotDefaultValidity:
-        return bounded(value.toLongLong(), kMaxDays, QStringLiteral("The number of days"));
+        return bounded(value.toLongLong(), kMaxDays, Tr::tr("The number of days"));
     case P::invPattern:
     case P::quotPattern:
     case P::clientPattern:
@@ -40,16 +48,16 @@ QString refusal(Preferences::Key key, const QVariant &value)
     case P::tax3Rate: {
         const double rate = value.toDouble();
         if (rate < 0)
-            return QStringLiteral("The rate cannot be below 0 %.");
+            return Tr::tr("The rate cannot be below 0 %.");
         if (rate > kMaxRate)
-            return QStringLiteral("The rate cannot be above 1000 % (rates are fractions: 0.19 is 19 %).");
+            return Tr::tr("The rate cannot be above 1000 % (rates are fractions: 0.19 is 19 %).");
         return {};
     }
     case P::prefsRegion: {
         const QString name = value.toString().trimmed();
         // A name QLocale does not know falls back to "C".
         if (!name.isEmpty() && QLocale(name).name() == QLatin1String("C"))
-            return QStringLiteral("“%1” is no region; use a name such as de_DE or fr_FR.").arg(name);
+            return Tr::tr("“%1” is no region; use a name such as de_DE or fr_FR.").arg(name);
         return {};
     }
     case P::customDatabasePath: {
@@ -57,9 +65,9 @@ QString refusal(Preferences::Key key, const QVariant &value)
         if (folder.isEmpty())
             return {};
         if (QDir::isRelativePath(folder))
-            return QStringLiteral("“%1” is not an absolute path; name the folder from the root (/…).").arg(folder);
+            return Tr::tr("“%1” is not an absolute path; name the folder from the root (/…).").arg(folder);
         if (!QFileInfo(folder).isDir())
-            return QStringLiteral("The folder “%1” does not exist.").arg(folder);
+            return Tr::tr("The folder “%1” does not exist.").arg(folder);
         return {};
     }
     default:

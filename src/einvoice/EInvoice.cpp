@@ -9,9 +9,17 @@
 
 #include <QRegularExpression>
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 #include <map>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(EInvoice)
+};
+} // namespace
 
 namespace tabo::einvoice {
 
@@ -77,7 +85,7 @@ struct Taxes
 QString taxName(const Preferences &prefs, int k)
 {
     const QString title = prefs.string(kTaxTitle[k]).trimmed();
-    return title.isEmpty() ? QStringLiteral("tax %1").arg(k + 1) : QStringLiteral("“%1”").arg(title);
+    return title.isEmpty() ? Tr::tr("tax %1").arg(k + 1) : QStringLiteral("“%1”").arg(title);
 }
 
 } // namespace
@@ -137,7 +145,7 @@ public:
     Mapping run()
     {
         if (m_doc.integer(Invoice::kind) == 0)
-            m.refusals << QStringLiteral("A quote is not an invoice: e-invoices are made of invoices.");
+            m.refusals << Tr::tr("A quote is not an invoice: e-invoices are made of invoices.");
         seller();
         buyer();
         document();
@@ -154,7 +162,7 @@ public:
         creditNote();
         if (cents(inv.payable) > 0 && !inv.dueDate.isValid() && inv.paymentTerms.isEmpty()
             && inv.typeCode == QLatin1String("380"))
-            m.missing << QStringLiteral("The invoice needs a due date or payment conditions (Dates and status, Texts)");
+            m.missing << Tr::tr("The invoice needs a due date or payment conditions (Dates and status, Texts)");
         return m;
     }
 
@@ -197,30 +205,32 @@ private:
     qint64 m_taxTotalCents = 0;
     const qint64 m_printedTotal; // what the page prints, in cents
 
-    static inline const QString kCompany = QStringLiteral(" (Preferences ▸ Company)");
-    static inline const QString kClient = QStringLiteral(" (Client ▸ Address ▸ E-invoice)");
+    static QString kCompany() { return Tr::tr(" (Preferences ▸ Company)"); }
+    static QString kClient() { return Tr::tr(" (Client ▸ Address ▸ E-invoice)"); }
 };
 
 void Mapper::seller()
 {
     Party &s = inv.seller;
-    s.name = need(m_prefs.string(P::prefsName), QStringLiteral("The company's name is missing") + kCompany);
-    s.street = need(m_prefs.string(P::prefsStreet), QStringLiteral("The company's street is missing") + kCompany);
-    s.postcode = need(m_prefs.string(P::prefsPostcode), QStringLiteral("The company's postcode is missing") + kCompany);
-    s.city = need(m_prefs.string(P::prefsCity), QStringLiteral("The company's city is missing") + kCompany);
+    s.name = need(m_prefs.string(P::prefsName), Tr::tr("The company's name is missing") + kCompany());
+    s.street = need(m_prefs.string(P::prefsStreet), Tr::tr("The company's street is missing") + kCompany());
+    s.postcode = need(m_prefs.string(P::prefsPostcode), Tr::tr("The company's postcode is missing") + kCompany());
+    s.city = need(m_prefs.string(P::prefsCity), Tr::tr("The company's city is missing") + kCompany());
     s.countryCode = Contacts::countryCode(m_prefs.string(P::prefsCountryCode));
-    need(s.countryCode, QStringLiteral("The company's country code (DE, FR …) is missing") + kCompany);
+    need(s.countryCode, Tr::tr("The company's country code (DE, FR …) is missing") + kCompany());
     s.vatId = m_prefs.string(P::prefsVATID).simplified().remove(QLatin1Char(' '));
     s.taxNumber = m_prefs.string(P::prefsTaxNumber).trimmed();
     if (s.vatId.isEmpty() && s.taxNumber.isEmpty())
-        m.missing << QStringLiteral("The company's VAT ID or tax number is missing") + kCompany;
+        m.missing << Tr::tr("The company's VAT ID or tax number is missing") + kCompany();
     s.contactName = m_prefs.string(P::prefsContactName).trimmed();
     if (s.contactName.isEmpty())
         s.contactName = s.name;
-    s.contactPhone = need(m_prefs.string(P::prefsContactPhone), QStringLiteral("The company's phone number is missing") + kCompany);
+    s.contactPhone
+        = need(m_prefs.string(P::prefsContactPhone), Tr::tr("The company's phone number is missing") + kCompany());
     if (!s.contactPhone.isEmpty() && s.contactPhone.count(QRegularExpression(QStringLiteral("[0-9]"))) < 3)
-        m.missing << QStringLiteral("The company's phone number needs at least three digits") + kCompany;
-    s.contactEmail = need(m_prefs.string(P::prefsContactEmail), QStringLiteral("The company's e-mail address is missing") + kCompany);
+        m.missing << Tr::tr("The company's phone number needs at least three digits") + kCompany();
+    s.contactEmail
+        = need(m_prefs.string(P::prefsContactEmail), Tr::tr("The company's e-mail address is missing") + kCompany());
     std::tie(s.electronicScheme, s.electronicAddress) = electronicAddress(m_prefs.string(P::prefsElectronicAddress));
     if (const QString scheme = m_prefs.string(P::prefsElectronicAddressScheme).trimmed();
         !scheme.isEmpty() && !s.electronicAddress.isEmpty())
@@ -228,12 +238,12 @@ void Mapper::seller()
     if (s.electronicAddress.isEmpty())
         std::tie(s.electronicScheme, s.electronicAddress) = electronicAddress(s.contactEmail);
     inv.iban = m_prefs.string(P::prefsIBAN).remove(QRegularExpression(QStringLiteral("\\s"))).toUpper();
-    need(inv.iban, QStringLiteral("The company's IBAN is missing") + kCompany);
+    need(inv.iban, Tr::tr("The company's IBAN is missing") + kCompany());
     inv.bic = m_prefs.string(P::prefsBIC).remove(QRegularExpression(QStringLiteral("\\s"))).toUpper();
     inv.bankName = m_prefs.string(P::prefsBankName).trimmed();
     inv.currency = m_prefs.string(P::prefsCurrencyCode).trimmed().toUpper();
     if (!QRegularExpression(QStringLiteral("^[A-Z]{3}$")).match(inv.currency).hasMatch())
-        m.missing << QStringLiteral("The currency code (EUR, CHF …) is missing") + kCompany;
+        m.missing << Tr::tr("The currency code (EUR, CHF …) is missing") + kCompany();
 }
 
 void Mapper::buyer()
@@ -243,16 +253,16 @@ void Mapper::buyer()
     b.name = buyer.company.trimmed();
     if (b.name.isEmpty())
         b.name = Contacts::clientOf(m_doc);
-    need(b.name, QStringLiteral("The client's name is missing") + kClient);
+    need(b.name, Tr::tr("The client's name is missing") + kClient());
     b.street = buyer.street.trimmed();
-    b.postcode = need(buyer.postcode, QStringLiteral("The client's postcode is missing") + kClient);
-    b.city = need(buyer.city, QStringLiteral("The client's city is missing") + kClient);
+    b.postcode = need(buyer.postcode, Tr::tr("The client's postcode is missing") + kClient());
+    b.city = need(buyer.city, Tr::tr("The client's city is missing") + kClient());
     b.countryCode = Contacts::countryCode(buyer.countryCode);
-    need(b.countryCode, QStringLiteral("The client's country code (DE, FR …) is missing") + kClient);
+    need(b.countryCode, Tr::tr("The client's country code (DE, FR …) is missing") + kClient());
     b.vatId = m_doc.text(Invoice::customerVATID).simplified().remove(QLatin1Char(' '));
     std::tie(b.electronicScheme, b.electronicAddress) = electronicAddress(
         buyer.electronicAddress.trimmed().isEmpty() ? m_doc.text(Invoice::emailAddress) : buyer.electronicAddress);
-    need(b.electronicAddress, QStringLiteral("The client's e-invoice address or e-mail address is missing") + kClient);
+    need(b.electronicAddress, Tr::tr("The client's e-invoice address or e-mail address is missing") + kClient());
     // Public authorities route by their Leitweg-ID; others by what the client
     // knows the invoice by.
     inv.buyerReference = buyer.buyerReference.trimmed();
@@ -264,10 +274,10 @@ void Mapper::buyer()
 
 void Mapper::document()
 {
-    inv.number = need(m_doc.text(Invoice::number), QStringLiteral("The invoice has no number (Invoice ▸ Number)"));
+    inv.number = need(m_doc.text(Invoice::number), Tr::tr("The invoice has no number (Invoice ▸ Number)"));
     inv.issueDate = localDay(m_doc, Invoice::date);
     if (!inv.issueDate.isValid())
-        m.missing << QStringLiteral("The invoice has no date (Dates and status)");
+        m.missing << Tr::tr("The invoice has no date (Dates and status)");
     // The date of supply: the dispatch where one is recorded, else the
     // invoice's own date, which is what an invoice without one means.
     inv.deliveryDate = m_doc.boolean(Invoice::isDispatched) ? localDay(m_doc, Invoice::dispatched) : QDate();
@@ -291,7 +301,7 @@ void Mapper::lines()
         line.id = QString::number(n);
         line.name = item->text(Item::title).trimmed();
         if (line.name.isEmpty())
-            line.name = QStringLiteral("Line %1").arg(n);
+            line.name = Tr::tr("Line %1").arg(n);
         line.description = item->text(Item::subtitle).trimmed();
         line.sellerId = item->text(Item::sku).trimmed();
         line.unitCode = UnitCodes::forLine(item->text(Item::unitCode), item->text(Item::unit));
@@ -308,16 +318,16 @@ void Mapper::lines()
         for (int k = 0; k < 3; ++k)
             if (item->boolean(kItemApplied[k]))
                 applied << k;
-        const QString named = QStringLiteral("Line %1 “%2”").arg(n).arg(line.name);
+        const QString named = Tr::tr("Line %1 “%2”").arg(n).arg(line.name);
         if (applied.size() > 1) {
-            m.refusals << QStringLiteral("%1 carries %2 and %3; an e-invoice line carries one VAT rate.")
+            m.refusals << Tr::tr("%1 carries %2 and %3; an e-invoice line carries one VAT rate.")
                               .arg(named, taxName(m_prefs, applied[0]), taxName(m_prefs, applied[1]));
             continue;
         }
         if (!applied.isEmpty()
             && ((applied[0] == 1 && item->boolean(Item::isTax2Compound))
                 || (applied[0] == 2 && item->boolean(Item::isTax3Compound)))) {
-            m.refusals << QStringLiteral("%1 carries the compound tax %2, which an e-invoice cannot state.")
+            m.refusals << Tr::tr("%1 carries the compound tax %2, which an e-invoice cannot state.")
                               .arg(named, taxName(m_prefs, applied[0]));
             continue;
         }
@@ -329,7 +339,7 @@ void Mapper::lines()
         m_taxOf.try_emplace(key(line.tax), tabo);
     }
     if (n == 0)
-        m.missing << QStringLiteral("The invoice has no lines (Items)");
+        m.missing << Tr::tr("The invoice has no lines (Items)");
 }
 
 // Shipping: a charge on the whole document.
@@ -348,13 +358,13 @@ void Mapper::shipping()
         if (m_doc.boolean(kShippingTax[k]))
             applied << k;
     if (applied.size() > 1) {
-        m.refusals << QStringLiteral("The shipping carries %1 and %2; an e-invoice charge carries one VAT rate.")
+        m.refusals << Tr::tr("The shipping carries %1 and %2; an e-invoice charge carries one VAT rate.")
                           .arg(taxName(m_prefs, applied[0]), taxName(m_prefs, applied[1]));
         return;
     }
     if (!applied.isEmpty() && applied[0] > 0
         && m_prefs.boolean(applied[0] == 1 ? P::tax2IsCompound : P::tax3IsCompound)) {
-        m.refusals << QStringLiteral("The shipping carries the compound tax %1, which an e-invoice cannot state.")
+        m.refusals << Tr::tr("The shipping carries the compound tax %1, which an e-invoice cannot state.")
                           .arg(taxName(m_prefs, applied[0]));
         return;
     }
@@ -406,8 +416,8 @@ void Mapper::classicFigures()
     for (const auto &[k, tabo] : m_taxOf)
         m_taxCents[k] = tabo >= 0 ? byTabo[tabo] : 0;
     if (m_lineCents != cents(m_doc.num(Invoice::subAmount)))
-        m.refusals << QStringLiteral("The lines, each to the cent, add up to %1, but the invoice prints a net "
-                                     "amount of %2: the classic calculation does not round each line.")
+        m.refusals << Tr::tr("The lines, each to the cent, add up to %1, but the invoice prints a net "
+                             "amount of %2: the classic calculation does not round each line.")
                           .arg(amount(fromCents(m_lineCents)), amount(m_doc.num(Invoice::subAmount)));
 
     // The discount: whatever the printed total leaves between the lines,
@@ -420,8 +430,8 @@ void Mapper::classicFigures()
         // states the difference as rounding.
         inv.rounding = fromCents(-discountCents);
     } else if (discountCents != 0) {
-        m.refusals << QStringLiteral("The invoice prints a total of %1, but its lines, shipping and taxes come to "
-                                     "%2.")
+        m.refusals << Tr::tr("The invoice prints a total of %1, but its lines, shipping and taxes come to "
+                             "%2.")
                           .arg(amount(fromCents(m_printedTotal)), amount(fromCents(m_printedTotal + discountCents)));
     }
     m.toTheCentHelps = !m.refusals.isEmpty();
@@ -468,14 +478,14 @@ void Mapper::vatBreakdown()
         const double rule = std::round(t.basis * t.category.rate) / 100.0;
         if (std::abs(t.amount - rule) > 1.0 + 1e-9) {
             if (!m_toTheCent && !inv.allowancesCharges.isEmpty() && m_doc.boolean(Invoice::isDiscountEnabled)) {
-                m.refusals << QStringLiteral("The discount: the classic calculation charges the tax at %1 % on the "
-                                             "amount before the discount (%2), an e-invoice on the amount after it "
-                                             "(%3 × %1 % = %4).")
+                m.refusals << Tr::tr("The discount: the classic calculation charges the tax at %1 % on the "
+                                     "amount before the discount (%2), an e-invoice on the amount after it "
+                                     "(%3 × %1 % = %4).")
                                   .arg(decimal(t.category.rate), amount(t.amount), amount(t.basis), amount(rule));
                 m.toTheCentHelps = true;
             } else {
-                m.refusals << QStringLiteral("The tax at %1 %: the invoice prints %2, but %3 × %1 % is %4. A rate "
-                                             "changed after the lines were added causes this: recalculate the invoice.")
+                m.refusals << Tr::tr("The tax at %1 %: the invoice prints %2, but %3 × %1 % is %4. A rate "
+                                     "changed after the lines were added causes this: recalculate the invoice.")
                                   .arg(decimal(t.category.rate), amount(t.amount), amount(t.basis), amount(rule));
             }
         }
@@ -486,7 +496,7 @@ void Mapper::vatBreakdown()
     const bool hasO = std::any_of(inv.taxes.begin(), inv.taxes.end(),
                                   [](const TaxBreakdown &t) { return t.category.code == QLatin1String("O"); });
     if (hasO && inv.taxes.size() > 1)
-        m.refusals << QStringLiteral("Supplies not subject to VAT cannot share an e-invoice with taxed ones.");
+        m.refusals << Tr::tr("Supplies not subject to VAT cannot share an e-invoice with taxed ones.");
 }
 
 // What the category of a tax asks for besides its figures.
@@ -494,16 +504,17 @@ void Mapper::checkCategory(const TaxBreakdown &t, int tabo, qint64 taxCents)
 {
     const QString &code = t.category.code;
     if (tabo >= 0 && code != QLatin1String("S") && taxCents != 0)
-        m.refusals << QStringLiteral("%1 is marked as “%2” in the preferences but charges %3.")
+        m.refusals << Tr::tr("%1 is marked as “%2” in the preferences but charges %3.")
                           .arg(taxName(m_prefs, tabo), code, amount(fromCents(taxCents)));
     if (!kCategories.contains(code))
-        m.refusals << QStringLiteral("“%1” is not a VAT category (Preferences ▸ Taxes).").arg(code);
+        m.refusals << Tr::tr("“%1” is not a VAT category (Preferences ▸ Taxes).").arg(code);
     else if (needsReason(code) && t.category.exemptionReason.isEmpty())
-        m.missing << QStringLiteral("%1 is “%2”, which needs a reason why VAT is not charged (Preferences ▸ Taxes)")
-                         .arg(tabo >= 0 ? taxName(m_prefs, tabo) : QStringLiteral("A tax"), code);
+        m.missing << Tr::tr("%1 is “%2”, which needs a reason why VAT is not charged (Preferences ▸ Taxes)")
+                         .arg(tabo >= 0 ? taxName(m_prefs, tabo) : Tr::tr("A tax"), code);
     if (code == QLatin1String("AE") || code == QLatin1String("K"))
-        need(inv.buyer.vatId, QStringLiteral("The client's VAT ID is missing, which reverse charge and "
-                                             "intra-community supplies need (Client ▸ Address)"));
+        need(inv.buyer.vatId,
+            Tr::tr("The client's VAT ID is missing, which reverse charge and "
+                   "intra-community supplies need (Client ▸ Address)"));
 }
 
 void Mapper::totals()
@@ -515,7 +526,7 @@ void Mapper::totals()
     inv.taxInclusive = fromCents(cents(inv.taxExclusive) + taxTotal);
     const qint64 total = cents(inv.taxInclusive) + cents(inv.rounding);
     if (total != m_printedTotal && m.refusals.isEmpty()) {
-        m.refusals << QStringLiteral("The invoice prints a total of %1; stated the standard's way it comes to %2.")
+        m.refusals << Tr::tr("The invoice prints a total of %1; stated the standard's way it comes to %2.")
                           .arg(amount(fromCents(m_printedTotal)), amount(fromCents(total)));
         m.toTheCentHelps = !m_toTheCent;
     }

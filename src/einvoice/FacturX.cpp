@@ -3,6 +3,7 @@
 #include <QColorSpace>
 #include <QTimeZone>
 
+#include <QCoreApplication>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFEFStreamObjectHelper.hh>
 #include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
@@ -10,6 +11,13 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(FacturX)
+};
+} // namespace
 
 namespace tabo::einvoice {
 
@@ -152,7 +160,7 @@ Result<QByteArray> makeFacturX(const QByteArray &pdf, const QByteArray &xml, con
         return QByteArray(reinterpret_cast<const char *>(buffer->getBuffer()), qsizetype(buffer->getSize()));
     } catch (const std::exception &e) {
         return Error::file(
-            QStringLiteral("The printed invoice could not be made a Factur-X PDF: %1").arg(QString::fromUtf8(e.what())));
+            Tr::tr("The printed invoice could not be made a Factur-X PDF: %1").arg(QString::fromUtf8(e.what())));
     }
 }
 

@@ -14,10 +14,18 @@
 #include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
 #include <qpdf/Pipeline.hh>
 
+#include <QCoreApplication>
 #include <cmath>
-#include <stdexcept>
 #include <memory>
+#include <stdexcept>
 #include <vector>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Reader)
+};
+} // namespace
 
 namespace tabo::einvoice {
 
@@ -104,7 +112,7 @@ Result<std::shared_ptr<Node>> parse(const QByteArray &xml, QString *rootNamespac
         case QXmlStreamReader::DTD:
             // Entities are how an XML file makes a reader expand or fetch
             // more than it holds; no e-invoice needs one.
-            return Error::file(QStringLiteral("The file declares a DTD; e-invoices never do, so it is not read."));
+            return Error::file(Tr::tr("The file declares a DTD; e-invoices never do, so it is not read."));
         case QXmlStreamReader::StartElement: {
             auto node = std::make_unique<Node>();
             node->name = reader.name().toString();
@@ -119,7 +127,7 @@ Result<std::shared_ptr<Node>> parse(const QByteArray &xml, QString *rootNamespac
             }
             open.push_back(raw);
             if (open.size() > 64) {
-                return Error::file(QStringLiteral("The file nests its elements more deeply than any e-invoice does."));
+                return Error::file(Tr::tr("The file nests its elements more deeply than any e-invoice does."));
             }
             break;
         }
@@ -135,7 +143,7 @@ Result<std::shared_ptr<Node>> parse(const QByteArray &xml, QString *rootNamespac
         }
     }
     if (reader.hasError() || !root) {
-        return Error::file(QStringLiteral("The file is not well-formed XML (line %1: %2).")
+        return Error::file(Tr::tr("The file is not well-formed XML (line %1: %2).")
                                .arg(reader.lineNumber())
                                .arg(reader.errorString()));
     }
@@ -269,7 +277,7 @@ Error readCii(const Node &root, Received *out)
             m.notes << note->value(u"Content");
     const Node *tx = root.child(u"SupplyChainTradeTransaction");
     if (!tx) {
-        return Error::file(QStringLiteral("The CII file has no trade transaction: it holds no invoice."));
+        return Error::file(Tr::tr("The CII file has no trade transaction: it holds no invoice."));
     }
     for (const Node *item : tx->all(u"IncludedSupplyChainTradeLineItem"))
         m.lines << ciiLine(item);
@@ -282,7 +290,7 @@ Error readCii(const Node &root, Received *out)
     m.deliveryDate = day(tx->value(u"ApplicableHeaderTradeDelivery/ActualDeliverySupplyChainEvent/OccurrenceDateTime/DateTimeString"));
     const Node *settlement = tx->child(u"ApplicableHeaderTradeSettlement");
     if (!settlement) {
-        return Error::file(QStringLiteral("The CII file has no settlement: its totals are missing."));
+        return Error::file(Tr::tr("The CII file has no settlement: its totals are missing."));
     }
     m.currency = settlement->value(u"InvoiceCurrencyCode");
     if (const Node *means = settlement->child(u"SpecifiedTradeSettlementPaymentMeans")) {
@@ -304,7 +312,7 @@ Error readCii(const Node &root, Received *out)
         m.dueDate = day(terms->value(u"DueDateDateTime/DateTimeString"));
     }
     if (!readCiiTotals(settlement->child(u"SpecifiedTradeSettlementHeaderMonetarySummation"), m))
-        return Error::file(QStringLiteral("The invoice states no grand total or amount due: its totals are missing."));
+        return Error::file(Tr::tr("The invoice states no grand total or amount due: its totals are missing."));
     m.precedingNumber = settlement->value(u"InvoiceReferencedDocument/IssuerAssignedID");
     m.precedingDate = day(settlement->value(u"InvoiceReferencedDocument/FormattedIssueDateTime/DateTimeString"));
     return {};
@@ -414,7 +422,7 @@ Error readUbl(const Node &root, bool credit, Received *out)
     for (const Node *payment : root.all(u"PrepaidPayment"))
         m.thirdParty += payment->number(u"PaidAmount");
     if (!grand || !due) {
-        return Error::file(QStringLiteral("The invoice states no total with VAT or amount due: its totals are missing."));
+        return Error::file(Tr::tr("The invoice states no total with VAT or amount due: its totals are missing."));
     }
     for (const Node *item : root.all(credit ? u"CreditNoteLine" : u"InvoiceLine"))
         m.lines << ublLine(item, credit);
@@ -467,7 +475,7 @@ Result<QByteArray> attachedXml(const QByteArray &pdf)
                     break;
                 }
         if (!chosen) {
-            return Error::file(QStringLiteral("The PDF carries no e-invoice: it has no XML attachment."));
+            return Error::file(Tr::tr("The PDF carries no e-invoice: it has no XML attachment."));
         }
         BoundedSink sink;
         bool filtered = false;
@@ -477,18 +485,18 @@ Result<QByteArray> attachedXml(const QByteArray &pdf)
         } catch (const std::length_error &) {
         }
         if (sink.overflow()) {
-            return Error::file(QStringLiteral("The PDF's e-invoice unpacks to more than %1 MB; e-invoices are far "
-                                              "smaller, so it is not read.")
+            return Error::file(Tr::tr("The PDF's e-invoice unpacks to more than %1 MB; e-invoices are far "
+                                      "smaller, so it is not read.")
                                    .arg(kMaxReceivedBytes / (1024 * 1024)));
         }
         if (!ok) {
-            return Error::file(QStringLiteral("The PDF's e-invoice attachment cannot be unpacked."));
+            return Error::file(Tr::tr("The PDF's e-invoice attachment cannot be unpacked."));
         }
         return sink.bytes();
     } catch (const std::bad_alloc &) {
-        return Error::file(QStringLiteral("The PDF is too large to be read."));
+        return Error::file(Tr::tr("The PDF is too large to be read."));
     } catch (const std::exception &e) {
-        return Error::file(QStringLiteral("The PDF cannot be read: %1").arg(QString::fromUtf8(e.what())));
+        return Error::file(Tr::tr("The PDF cannot be read: %1").arg(QString::fromUtf8(e.what())));
     }
 }
 
@@ -522,12 +530,12 @@ Result<Received> readReceived(const QByteArray &data)
         out.syntax = Received::Syntax::UBL;
         e = readUbl(root, root.name == QLatin1String("CreditNote"), &out);
     } else {
-        e = Error::file(QStringLiteral("This is not an e-invoice: its root is “%1” in the namespace “%2”, not a CII "
-                                       "or UBL invoice.")
+        e = Error::file(Tr::tr("This is not an e-invoice: its root is “%1” in the namespace “%2”, not a CII "
+                               "or UBL invoice.")
                             .arg(root.name, ns));
     }
     if (!e && !unreadable.isEmpty())
-        e = Error::file(QStringLiteral("The e-invoice states amounts that are no readable amounts of money: %1.")
+        e = Error::file(Tr::tr("The e-invoice states amounts that are no readable amounts of money: %1.")
                             .arg(unreadable.join(QStringLiteral(", "))));
     if (e)
         return e;
@@ -538,14 +546,14 @@ Result<Received> readReceivedFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.isFile())
-        return Error::file(QStringLiteral("There is no file “%1”.").arg(path));
+        return Error::file(Tr::tr("There is no file “%1”.").arg(path));
     if (info.size() > kMaxReceivedBytes)
-        return Error::file(QStringLiteral("“%1” is %2 MB large; e-invoices are far smaller, so it is not read.")
+        return Error::file(Tr::tr("“%1” is %2 MB large; e-invoices are far smaller, so it is not read.")
                                .arg(info.fileName())
                                .arg(info.size() / (1024 * 1024)));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Error::file(QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString()));
+        return Error::file(Tr::tr("“%1” cannot be read: %2").arg(path, file.errorString()));
     return readReceived(file.readAll());
 }
 
@@ -555,7 +563,8 @@ QStringList checkTotals(const Model &m)
     const auto c = [](double v) { return std::llround(v * 100.0); };
     const auto expect = [&](const QString &what, double stated, qint64 computed) {
         if (c(stated) != computed)
-            problems << QStringLiteral("%1 is %2, but its parts add up to %3.").arg(what, amount(stated), amount(computed / 100.0));
+            problems
+                << Tr::tr("%1 is %2, but its parts add up to %3.").arg(what, amount(stated), amount(computed / 100.0));
     };
     qint64 lines = 0;
     for (const Line &l : m.lines) {
@@ -566,24 +575,23 @@ QStringList checkTotals(const Model &m)
         const double base = l.baseQuantity > 0 ? l.baseQuantity : 1.0;
         const double exact = l.quantity * l.price / base + l.adjustment;
         if (std::fabs(exact - l.net) > 0.005 + 1e-9 * std::fabs(exact))
-            problems << QStringLiteral("Line %1 (%2) is %3, but its quantity %4 × price %5 makes %6.")
+            problems << Tr::tr("Line %1 (%2) is %3, but its quantity %4 × price %5 makes %6.")
                             .arg(l.id, l.name, amount(l.net), QString::number(l.quantity, 'g', 12),
-                                 QString::number(l.price, 'g', 12), amount(exact));
+                                QString::number(l.price, 'g', 12), amount(exact));
     }
-    expect(QStringLiteral("The sum of the lines"), m.lineTotal, lines);
+    expect(Tr::tr("The sum of the lines"), m.lineTotal, lines);
     qint64 allowances = 0, charges = 0;
     for (const AllowanceCharge &a : m.allowancesCharges)
         (a.charge ? charges : allowances) += c(a.amount);
-    expect(QStringLiteral("The allowances"), m.allowanceTotal, allowances);
-    expect(QStringLiteral("The charges"), m.chargeTotal, charges);
-    expect(QStringLiteral("The total without VAT"), m.taxExclusive, c(m.lineTotal) - c(m.allowanceTotal) + c(m.chargeTotal));
+    expect(Tr::tr("The allowances"), m.allowanceTotal, allowances);
+    expect(Tr::tr("The charges"), m.chargeTotal, charges);
+    expect(Tr::tr("The total without VAT"), m.taxExclusive, c(m.lineTotal) - c(m.allowanceTotal) + c(m.chargeTotal));
     qint64 tax = 0;
     for (const TaxBreakdown &t : m.taxes)
         tax += c(t.amount);
-    expect(QStringLiteral("The VAT"), m.taxTotal, tax);
-    expect(QStringLiteral("The total with VAT"), m.taxInclusive, c(m.taxExclusive) + c(m.taxTotal));
-    expect(QStringLiteral("The amount due"), m.payable,
-           c(m.taxInclusive) - c(m.prepaid) + c(m.rounding) + c(m.thirdParty));
+    expect(Tr::tr("The VAT"), m.taxTotal, tax);
+    expect(Tr::tr("The total with VAT"), m.taxInclusive, c(m.taxExclusive) + c(m.taxTotal));
+    expect(Tr::tr("The amount due"), m.payable, c(m.taxInclusive) - c(m.prepaid) + c(m.rounding) + c(m.thirdParty));
     return problems;
 }
 
@@ -605,15 +613,19 @@ QString partyBlock(const QString &heading, const Party &p)
         if (!line.isEmpty())
             lines << esc(line);
     if (!p.vatId.isEmpty())
-        lines << QStringLiteral("VAT ID %1").arg(esc(p.vatId));
+        lines << Tr::tr("VAT ID %1").arg(esc(p.vatId));
     if (!p.taxNumber.isEmpty())
-        lines << QStringLiteral("Tax number %1").arg(esc(p.taxNumber));
+        lines << Tr::tr("Tax number %1").arg(esc(p.taxNumber));
     if (!p.electronicAddress.isEmpty())
-        lines << QStringLiteral("E-invoices: %1 <span class=\"muted\">(%2)</span>")
-                     .arg(esc(p.electronicAddress), esc(p.electronicScheme));
+        lines << Tr::tr("E-invoices: %1")
+                     .arg(esc(p.electronicAddress)
+                         + QStringLiteral(" <span class=\"muted\">(%1)</span>").arg(esc(p.electronicScheme)));
     const QStringList contact{p.contactName, p.contactPhone, p.contactEmail};
     if (!QString(contact.join(QString())).trimmed().isEmpty())
-        lines << QStringLiteral("Contact: %1").arg(esc(QStringList(contact).filter(QRegularExpression(QStringLiteral("\\S"))).join(QStringLiteral(" · "))));
+        lines << Tr::tr("Contact: %1")
+                     .arg(esc(QStringList(contact)
+                                  .filter(QRegularExpression(QStringLiteral("\\S")))
+                                  .join(QStringLiteral(" · "))));
     return QStringLiteral("<div class=\"party\"><h3>%1</h3>%2</div>").arg(heading, lines.join(QStringLiteral("<br>")));
 }
 
@@ -648,28 +660,30 @@ QString viewHead(const Received &r)
         "border-top:.75pt solid #222}.box{border:.5pt solid #bbb;padding:2mm 3mm;margin-bottom:4mm}"
         "</style></head><body>")
                        .arg(esc(m.number));
-    html += QStringLiteral("<div class=\"meta\"><h1>%1 %2</h1><span class=\"muted\">Received e-invoice · %3%4 · %5</span><br>")
-                .arg(credit ? QStringLiteral("Credit note") : QStringLiteral("Invoice"), esc(m.number), r.syntaxName(),
-                     r.fromPdf ? QStringLiteral(" in a PDF") : QString(), esc(r.guideline));
-    QStringList dates{QStringLiteral("Date %1").arg(m.issueDate.toString(Qt::ISODate))};
+    const QString received = Tr::tr("Received e-invoice · %1%2 · %3")
+                                 .arg(r.syntaxName(), r.fromPdf ? Tr::tr(" in a PDF") : QString(), esc(r.guideline));
+    html += QStringLiteral("<div class=\"meta\"><h1>%1 %2</h1><span class=\"muted\">%3</span><br>")
+                .arg(credit ? Tr::tr("Credit note") : Tr::tr("Invoice"), esc(m.number), received);
+    QStringList dates { Tr::tr("Date %1").arg(m.issueDate.toString(Qt::ISODate)) };
     if (m.dueDate.isValid())
-        dates << QStringLiteral("due %1").arg(m.dueDate.toString(Qt::ISODate));
+        dates << Tr::tr("due %1").arg(m.dueDate.toString(Qt::ISODate));
     if (m.deliveryDate.isValid())
-        dates << QStringLiteral("delivered %1").arg(m.deliveryDate.toString(Qt::ISODate));
+        dates << Tr::tr("delivered %1").arg(m.deliveryDate.toString(Qt::ISODate));
     if (!m.buyerReference.isEmpty())
-        dates << QStringLiteral("buyer reference %1").arg(esc(m.buyerReference));
+        dates << Tr::tr("buyer reference %1").arg(esc(m.buyerReference));
     if (!m.precedingNumber.isEmpty())
-        dates << QStringLiteral("for invoice %1 %2").arg(esc(m.precedingNumber), m.precedingDate.toString(Qt::ISODate));
+        dates << Tr::tr("for invoice %1 %2").arg(esc(m.precedingNumber), m.precedingDate.toString(Qt::ISODate));
     html += dates.join(QStringLiteral(" · ")) + QStringLiteral("</div>");
     html += QStringLiteral("<div class=\"parties\">%1%2</div>")
-                .arg(partyBlock(QStringLiteral("Seller"), m.seller), partyBlock(QStringLiteral("Buyer"), m.buyer));
+                .arg(partyBlock(Tr::tr("Seller"), m.seller), partyBlock(Tr::tr("Buyer"), m.buyer));
     return html;
 }
 
 QString viewLines(const Model &m)
 {
-    QString html = QStringLiteral("<table><tr><th>#</th><th>Item</th><th class=\"n\">Quantity</th><th class=\"n\">Price</th>"
-                                  "<th class=\"n\">VAT</th><th class=\"n\">Net</th></tr>");
+    QString html = QStringLiteral("<table><tr><th>#</th><th>%1</th><th class=\"n\">%2</th><th class=\"n\">%3</th>"
+                                  "<th class=\"n\">%4</th><th class=\"n\">%5</th></tr>")
+                       .arg(Tr::tr("Item"), Tr::tr("Quantity"), Tr::tr("Price"), Tr::tr("VAT"), Tr::tr("Net"));
     for (const Line &l : m.lines)
         html += QStringLiteral("<tr><td>%1</td><td>%2%3%4</td><td class=\"n\">%5 %6</td><td class=\"n\">%7</td>"
                                "<td class=\"n\">%8</td><td class=\"n\">%9</td></tr>")
@@ -688,25 +702,27 @@ QString viewTotals(const Model &m)
     const auto row = [&html](const QString &label, const QString &value, const char *cls = "") {
         html += QStringLiteral("<tr class=\"%3\"><td>%1</td><td class=\"n\">%2</td></tr>").arg(label, value, QLatin1String(cls));
     };
-    row(QStringLiteral("Sum of lines"), money(m.lineTotal));
+    row(Tr::tr("Sum of lines"), money(m.lineTotal));
     for (const AllowanceCharge &a : m.allowancesCharges)
         row(QStringLiteral("%1 %2 <span class=\"muted\">(%3)</span>")
-                .arg(a.charge ? QStringLiteral("Charge") : QStringLiteral("Allowance"), esc(a.reason), category(a.tax)),
+                .arg(a.charge ? Tr::tr("Charge") : Tr::tr("Allowance"), esc(a.reason), category(a.tax)),
             (a.charge ? QString() : QStringLiteral("−")) + money(a.amount));
-    row(QStringLiteral("Total without VAT"), money(m.taxExclusive));
+    row(Tr::tr("Total without VAT"), money(m.taxExclusive));
     for (const TaxBreakdown &t : m.taxes)
-        row(QStringLiteral("VAT %1 on %2%3").arg(category(t.category), money(t.basis),
-                                                  t.category.exemptionReason.isEmpty() ? QString()
-                                                      : QStringLiteral("<br><span class=\"muted\">%1</span>").arg(esc(t.category.exemptionReason))),
+        row(Tr::tr("VAT %1 on %2%3")
+                .arg(category(t.category), money(t.basis),
+                    t.category.exemptionReason.isEmpty()
+                        ? QString()
+                        : QStringLiteral("<br><span class=\"muted\">%1</span>").arg(esc(t.category.exemptionReason))),
             money(t.amount));
-    row(QStringLiteral("Total with VAT"), money(m.taxInclusive));
+    row(Tr::tr("Total with VAT"), money(m.taxInclusive));
     if (m.prepaid != 0)
-        row(QStringLiteral("Paid in advance"), money(m.prepaid));
+        row(Tr::tr("Paid in advance"), money(m.prepaid));
     if (m.thirdParty != 0)
-        row(QStringLiteral("Paid by third parties"), money(m.thirdParty));
+        row(Tr::tr("Paid by third parties"), money(m.thirdParty));
     if (m.rounding != 0)
-        row(QStringLiteral("Rounding"), money(m.rounding));
-    row(QStringLiteral("Amount due"), money(m.payable), "grand");
+        row(Tr::tr("Rounding"), money(m.rounding));
+    row(Tr::tr("Amount due"), money(m.payable), "grand");
     return html + QStringLiteral("</table>");
 }
 
@@ -721,12 +737,15 @@ QString viewBoxes(const Model &m)
     if (!m.paymentTerms.isEmpty())
         payment << esc(m.paymentTerms);
     if (!payment.isEmpty())
-        html += QStringLiteral("<div class=\"box\"><h3>Payment</h3>%1</div>").arg(payment.join(QStringLiteral("<br>")));
+        html += QStringLiteral("<div class=\"box\"><h3>%1</h3>%2</div>")
+                    .arg(Tr::tr("Payment"), payment.join(QStringLiteral("<br>")));
     if (!m.notes.isEmpty())
-        html += QStringLiteral("<div class=\"box\"><h3>Notes</h3>%1</div>").arg(esc(m.notes.join(QLatin1Char('\n'))));
+        html += QStringLiteral("<div class=\"box\"><h3>%1</h3>%2</div>")
+                    .arg(Tr::tr("Notes"), esc(m.notes.join(QLatin1Char('\n'))));
     const QStringList problems = checkTotals(m);
     if (!problems.isEmpty())
-        html += QStringLiteral("<div class=\"box\"><h3>Its sums do not add up</h3>%1</div>").arg(esc(problems.join(QLatin1Char('\n'))));
+        html += QStringLiteral("<div class=\"box\"><h3>%1</h3>%2</div>")
+                    .arg(Tr::tr("Its sums do not add up"), esc(problems.join(QLatin1Char('\n'))));
     return html;
 }
 

@@ -3,16 +3,17 @@
 #include "app/NotificationCommands.h"
 #include "app/Notifier.h"
 #include "app/OutputCommands.h"
-#include "gui/windows/CatalogueWindow.h"
+#include "app/Translations.h"
+#include "gui/main/MainWindow.h"
 #include "gui/preferences/DesignPane.h"
 #include "gui/preferences/FirstStartAssistant.h"
-#include "gui/widgets/GuiInteraction.h"
-#include "gui/windows/ExportSheet.h"
-#include "gui/main/MainWindow.h"
-#include "gui/windows/NotificationSheet.h"
-#include "gui/windows/ReportWindow.h"
 #include "gui/preferences/PreferencePanel.h"
+#include "gui/widgets/GuiInteraction.h"
+#include "gui/windows/CatalogueWindow.h"
+#include "gui/windows/ExportSheet.h"
+#include "gui/windows/NotificationSheet.h"
 #include "gui/windows/PreviewWindow.h"
+#include "gui/windows/ReportWindow.h"
 #include "prefs/Preferences.h"
 #include "render/PdfEngine.h"
 
@@ -29,8 +30,16 @@
 #include <QPixmap>
 #include <QTimer>
 
+#include <QCoreApplication>
 #include <functional>
 #include <memory>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(main)
+};
+} // namespace
 
 using namespace tabo;
 
@@ -109,9 +118,10 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("Tabo"));
     QApplication::setApplicationVersion(QStringLiteral(TABO_VERSION));
     QApplication::setOrganizationName(QString());
+    installTranslations(application);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Invoices and quotes for freelancers and small businesses."));
+    parser.setApplicationDescription(Tr::tr("Invoices and quotes for freelancers and small businesses."));
     parser.addHelpOption();
     parser.addVersionOption();
     // Options for documentation screenshots: each grabs a window once it has
@@ -132,16 +142,14 @@ int main(int argc, char **argv)
     const QCommandLineOption screenshotReminder = hidden("screenshot-reminder", "file");
     // A click on a reminder delivered while Tabo was closed starts it so.
     QCommandLineOption showInvoice(QStringLiteral("show-invoice"),
-                                   QStringLiteral("Start with the list filtered to the invoice with this unique ID."),
-                                   QStringLiteral("uniqueID"));
+        Tr::tr("Start with the list filtered to the invoice with this unique ID."), QStringLiteral("uniqueID"));
     parser.addOption(showInvoice);
     // The desktop entry's actions.
-    const QCommandLineOption newInvoice(QStringLiteral("new-invoice"), QStringLiteral("Start with a new invoice."));
-    const QCommandLineOption newQuote(QStringLiteral("new-quote"), QStringLiteral("Start with a new quote."));
+    const QCommandLineOption newInvoice(QStringLiteral("new-invoice"), Tr::tr("Start with a new invoice."));
+    const QCommandLineOption newQuote(QStringLiteral("new-quote"), Tr::tr("Start with a new quote."));
     parser.addOption(newInvoice);
     parser.addOption(newQuote);
-    parser.addPositionalArgument(
-        QStringLiteral("files"), QStringLiteral("Refused: open documents from the File menu."));
+    parser.addPositionalArgument(QStringLiteral("files"), Tr::tr("Refused: open documents from the File menu."));
     parser.process(application);
     QGuiApplication::setDesktopFileName(DBusNotifier::kDesktopEntry);
     const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
@@ -165,19 +173,20 @@ int main(int argc, char **argv)
         // Nothing is written over a damaged or held settings file; the kept
         // good copy can take its place.
         const bool kept = QFileInfo(settings->backupFilePath()).isFile();
-        QMessageBox box(QMessageBox::Critical, QStringLiteral("Error!"), refused.text);
-        QPushButton *restore = kept ? box.addButton(QStringLiteral("Restore Last Good Settings"), QMessageBox::AcceptRole) : nullptr;
-        box.addButton(QStringLiteral("Quit"), QMessageBox::RejectRole);
+        QMessageBox box(QMessageBox::Critical, Tr::tr("Error!"), refused.text);
+        QPushButton *restore
+            = kept ? box.addButton(Tr::tr("Restore Last Good Settings"), QMessageBox::AcceptRole) : nullptr;
+        box.addButton(Tr::tr("Quit"), QMessageBox::RejectRole);
         box.exec();
         if (!restore || box.clickedButton() != restore)
             return 1;
         if (const Error e = settings->restoreBackup()) {
-            QMessageBox::critical(nullptr, QStringLiteral("Error!"), e.text);
+            QMessageBox::critical(nullptr, Tr::tr("Error!"), e.text);
             return 1;
         }
         settings = std::make_unique<Preferences>();
         if (const Error e = settings->loadError()) {
-            QMessageBox::critical(nullptr, QStringLiteral("Error!"), e.text);
+            QMessageBox::critical(nullptr, Tr::tr("Error!"), e.text);
             return 1;
         }
     }

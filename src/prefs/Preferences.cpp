@@ -18,9 +18,10 @@
 
 #include <plist/plist.h>
 
+#include <QCoreApplication>
 #include <array>
-#include <cmath>
 #include <cerrno>
+#include <cmath>
 #include <cstdlib>
 #include <ctime>
 #include <fcntl.h>
@@ -28,6 +29,13 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Preferences)
+};
+} // namespace
 
 namespace tabo {
 
@@ -168,14 +176,14 @@ QString formatProblem(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return QStringLiteral("It cannot be read (%1).").arg(file.errorString());
+        return Tr::tr("It cannot be read (%1).").arg(file.errorString());
     const QByteArray bytes = file.readAll();
     if (bytes.contains('\0'))
-        return QStringLiteral("It holds binary data.");
+        return Tr::tr("It holds binary data.");
     QStringDecoder utf8(QStringDecoder::Utf8);
     const QString text = utf8.decode(bytes);
     if (utf8.hasError())
-        return QStringLiteral("It is not text.");
+        return Tr::tr("It is not text.");
     int lineNumber = 0;
     for (QStringView line : QStringView(text).split(QLatin1Char('\n'))) {
         ++lineNumber;
@@ -184,7 +192,7 @@ QString formatProblem(const QString &path)
             continue;
         if ((line.startsWith(QLatin1Char('[')) && line.endsWith(QLatin1Char(']'))) || line.contains(QLatin1Char('=')))
             continue;
-        return QStringLiteral("Line %1 is neither a section nor a setting.").arg(lineNumber);
+        return Tr::tr("Line %1 is neither a section nor a setting.").arg(lineNumber);
     }
     return {};
 }
@@ -233,9 +241,9 @@ Error Preferences::awaitLock(const QString &lockPath)
     qint64 owner = 0;
     for (int waited = 0; lockState(lockPath, &owner) == LockState::Held; waited += 50) {
         if (waited >= kWaitMs)
-            return Error::file(QStringLiteral("The settings file is locked by another program (process %1) that has held "
-                                              "it for more than %2 seconds. Quit that program (or end process %1) and "
-                                              "try again; nothing was changed.")
+            return Error::file(Tr::tr("The settings file is locked by another program (process %1) that has held "
+                                      "it for more than %2 seconds. Quit that program (or end process %1) and "
+                                      "try again; nothing was changed.")
                                    .arg(owner > 0 ? QString::number(owner) : QStringLiteral("unknown"))
                                    .arg(kWaitMs / 1000));
         ::usleep(50 * 1000);
@@ -253,26 +261,28 @@ Preferences::Preferences(const QString &filePath)
 {
     const QFileInfo info(filePath);
     if (info.exists() && !info.isFile())
-        m_loadError = Error::file(QStringLiteral("The settings file “%1” is not a file (a folder or something else "
-                                                 "stands in its place). Tabo has left it as it is; move it away and "
-                                                 "start again.").arg(filePath));
+        m_loadError = Error::file(Tr::tr("The settings file “%1” is not a file (a folder or something else "
+                                         "stands in its place). Tabo has left it as it is; move it away and "
+                                         "start again.")
+                                      .arg(filePath));
     else if (info.exists())
         if (const QString problem = formatProblem(filePath); !problem.isEmpty())
-            m_loadError = Error::file(QStringLiteral("The settings file “%1” is damaged. %2 Tabo has left it as it "
-                                                     "is.%3").arg(filePath, problem,
-                                                                  QFileInfo(backupFilePath()).isFile()
-                                                                      ? QStringLiteral(" The last good settings are "
-                                                                                       "kept in “%1”; restore them "
-                                                                                       "with tabo-cli prefs restore.")
-                                                                            .arg(backupFilePath())
-                                                                      : QString()));
+            m_loadError
+                = Error::file(Tr::tr("The settings file “%1” is damaged. %2 Tabo has left it as it "
+                                     "is.%3")
+                                  .arg(filePath, problem,
+                                      QFileInfo(backupFilePath()).isFile() ? Tr::tr(" The last good settings are "
+                                                                                    "kept in “%1”; restore them "
+                                                                                    "with tabo-cli prefs restore.")
+                                                                                 .arg(backupFilePath())
+                                                                           : QString()));
     if (!m_loadError)
         m_loadError = awaitLock(filePath + QStringLiteral(".lock"));
     if (!m_loadError) {
         m_settings = std::make_unique<QSettings>(filePath, QSettings::IniFormat);
         if (m_settings->status() != QSettings::NoError)
             m_loadError = Error::file(
-                QStringLiteral("The settings file “%1” cannot be read. Tabo has left it as it is.").arg(filePath));
+                Tr::tr("The settings file “%1” cannot be read. Tabo has left it as it is.").arg(filePath));
     }
     if (m_loadError) {
         // Nothing of it is read or written: the values live in memory only.
@@ -327,19 +337,19 @@ void Preferences::keepGoodCopy()
 Error Preferences::restoreBackup()
 {
     if (!QFileInfo(backupFilePath()).isFile())
-        return Error::file(QStringLiteral("There are no kept settings (“%1”) to restore.").arg(backupFilePath()));
+        return Error::file(Tr::tr("There are no kept settings (“%1”) to restore.").arg(backupFilePath()));
     if (const QString problem = formatProblem(backupFilePath()); !problem.isEmpty())
-        return Error::file(QStringLiteral("The kept settings “%1” are damaged too: %2").arg(backupFilePath(), problem));
+        return Error::file(Tr::tr("The kept settings “%1” are damaged too: %2").arg(backupFilePath(), problem));
     // The damaged file is kept beside, in case something in it matters.
     const QFileInfo current(m_filePath);
     if (current.exists()) {
         const QString aside = m_filePath + QStringLiteral(".damaged");
         QFile::remove(aside);
         if (!QFile::rename(m_filePath, aside))
-            return Error::file(QStringLiteral("“%1” could not be moved aside; nothing was restored.").arg(m_filePath));
+            return Error::file(Tr::tr("“%1” could not be moved aside; nothing was restored.").arg(m_filePath));
     }
     if (!QFile::copy(backupFilePath(), m_filePath))
-        return Error::file(QStringLiteral("“%1” could not be written; nothing was restored.").arg(m_filePath));
+        return Error::file(Tr::tr("“%1” could not be written; nothing was restored.").arg(m_filePath));
     return {};
 }
 
@@ -351,8 +361,9 @@ Error Preferences::syncChecked()
         return e;
     m_settings->sync();
     if (m_settings->status() != QSettings::NoError || !QFileInfo(m_settings->fileName()).isFile())
-        return Error::file(QStringLiteral("The settings file “%1” could not be written (the disk may be full or the "
-                                          "file read-only); the change was not stored.").arg(m_settings->fileName()));
+        return Error::file(Tr::tr("The settings file “%1” could not be written (the disk may be full or the "
+                                  "file read-only); the change was not stored.")
+                               .arg(m_settings->fileName()));
     return {};
 }
 
@@ -494,7 +505,7 @@ Error Preferences::setFromText(const QString &name, const QString &text,
 {
     const int idx = keyIndex(name);
     if (idx < 0)
-        return Error::input(QStringLiteral("unknown preference key “%1”").arg(name));
+        return Error::input(Tr::tr("unknown preference key “%1”").arg(name));
     const Key key = Key(idx);
     const QString t = text.trimmed();
     bool ok = true;
@@ -530,10 +541,9 @@ Error Preferences::setFromText(const QString &name, const QString &text,
     }
     }
     if (!ok)
-        return Error::input(QStringLiteral("“%1” is not a valid %2 for %3")
-                                .arg(text, info(key).type == Type::Data ? QStringLiteral("readable file")
-                                                                          : typeName(info(key).type),
-                                     name));
+        return Error::input(
+            Tr::tr("“%1” is not a valid %2 for %3")
+                .arg(text, info(key).type == Type::Data ? Tr::tr("readable file") : typeName(info(key).type), name));
     if (rule)
         if (const QString refusal = rule(key, parsed); !refusal.isEmpty())
             return Error::input(refusal);

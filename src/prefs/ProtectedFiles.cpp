@@ -11,7 +11,15 @@
 #include <optional>
 #include <utility>
 
+#include <QCoreApplication>
 #include <sys/stat.h>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ProtectedFiles)
+};
+} // namespace
 
 namespace tabo::ProtectedFiles {
 
@@ -59,14 +67,14 @@ QList<Guarded> guardedFiles(Writer writer)
     stores.prepend(Locations::defaultStoreFile());
     for (const QString &store : std::as_const(stores))
         for (const QString &side : kStoreSides)
-            files.append({store + side, side.isEmpty() ? QStringLiteral("the database") : QStringLiteral("a file of the database")});
+            files.append({ store + side, side.isEmpty() ? Tr::tr("the database") : Tr::tr("a file of the database") });
     const QString settings = Locations::settingsFile();
-    files.append({settings, QStringLiteral("the settings file")});
-    files.append({settings + QStringLiteral(".lock"), QStringLiteral("the settings file's lock")});
-    files.append({settings + QStringLiteral(".bak"), QStringLiteral("the kept copy of the settings")});
+    files.append({ settings, Tr::tr("the settings file") });
+    files.append({ settings + QStringLiteral(".lock"), Tr::tr("the settings file's lock") });
+    files.append({ settings + QStringLiteral(".bak"), Tr::tr("the kept copy of the settings") });
     if (writer != Writer::AutomaticBackup)
         for (const QString &backup : Locations::automaticBackupFiles())
-            files.append({backup, QStringLiteral("an automatic backup")});
+            files.append({ backup, Tr::tr("an automatic backup") });
     return files;
 }
 
@@ -90,8 +98,8 @@ Error check(const QString &target, Writer writer)
     const auto id = identity(real);
     for (const Guarded &g : guardedFiles(writer)) {
         if (resolved(g.path) == real || (id && identity(g.path) == id))
-            return Error::file(QStringLiteral("“%1” is %2 (%3). Tabo never writes anything else onto it; "
-                                              "please choose another file.")
+            return Error::file(Tr::tr("“%1” is %2 (%3). Tabo never writes anything else onto it; "
+                                      "please choose another file.")
                                    .arg(target, g.what, resolved(g.path)));
     }
     return {};
@@ -103,7 +111,7 @@ Error writeAtomically(const QString &target, const QByteArray &data, Writer writ
         return e;
     QSaveFile file(target);
     if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.commit())
-        return Error::file(QStringLiteral("The file “%1” could not be written: %2").arg(target, file.errorString()));
+        return Error::file(Tr::tr("The file “%1” could not be written: %2").arg(target, file.errorString()));
     return {};
 }
 

@@ -2,7 +2,15 @@
 
 #include <QProcess>
 
+#include <QCoreApplication>
 #include <memory>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(MailHandoff)
+};
+} // namespace
 
 namespace tabo {
 
@@ -46,7 +54,7 @@ Error MailHandoff::compose(const MailMessage &message)
 
 QString MailHandoff::noMailProgram()
 {
-    return QStringLiteral("No e-mail program is set up on this computer.");
+    return Tr::tr("No e-mail program is set up on this computer.");
 }
 
 QString MailHandoff::reasonForExit(int code)
@@ -54,13 +62,13 @@ QString MailHandoff::reasonForExit(int code)
     // xdg-email's codes: 2 a file is missing, 3 no mail program, 4 it refused.
     switch (code) {
     case 2:
-        return QStringLiteral("The PDF to attach could not be found.");
+        return Tr::tr("The PDF to attach could not be found.");
     case 3:
         return noMailProgram();
     case 4:
-        return QStringLiteral("The e-mail program did not accept the new message.");
+        return Tr::tr("The e-mail program did not accept the new message.");
     default:
-        return QStringLiteral("The e-mail program could not be asked to write the message.");
+        return Tr::tr("The e-mail program could not be asked to write the message.");
     }
 }
 

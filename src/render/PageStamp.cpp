@@ -11,7 +11,15 @@
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include <QCoreApplication>
 #include <vector>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(PageStamp)
+};
+} // namespace
 
 namespace tabo {
 

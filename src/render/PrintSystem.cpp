@@ -1,7 +1,15 @@
 #include "render/PrintSystem.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcess>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(PrintSystem)
+};
+} // namespace
 
 namespace tabo {
 
@@ -33,18 +41,18 @@ Error PrintSystem::printFile(const QString &pdfPath, const PrintRequest &request
     lp.start();
     const auto fail = [](const QString &reason) { return Error{Error::Print, 1, reason, {}}; };
     if (!lp.waitForStarted())
-        return fail(QStringLiteral("The print system could not be reached: the program \"lp\" was not found."));
+        return fail(Tr::tr("The print system could not be reached: the program \"lp\" was not found."));
     if (!lp.waitForFinished(LpTimeoutMs)) {
         lp.kill();
         lp.waitForFinished();
-        return fail(QStringLiteral("The print system did not answer in time."));
+        return fail(Tr::tr("The print system did not answer in time."));
     }
     if (lp.exitStatus() != QProcess::NormalExit || lp.exitCode() != 0) {
         QString reason = QString::fromLocal8Bit(lp.readAllStandardError()).trimmed();
         reason = reason.section(QLatin1Char('\n'), 0, 0);
         if (reason.isEmpty())
-            reason = QStringLiteral("lp ended with code %1").arg(lp.exitCode());
-        return fail(QStringLiteral("The document could not be printed: %1").arg(reason));
+            reason = Tr::tr("lp ended with code %1").arg(lp.exitCode());
+        return fail(Tr::tr("The document could not be printed: %1").arg(reason));
     }
     return {};
 }

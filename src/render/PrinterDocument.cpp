@@ -3,6 +3,7 @@
 #include "prefs/ProtectedFiles.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QCoreApplication>
 #include <QDebug>
 #include <QPainter>
 #include <QPdfWriter>
@@ -10,6 +11,13 @@
 #include <QTextDocument>
 #include <QtConcurrent/QtConcurrentMap>
 #include <QtConcurrent/QtConcurrentRun>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(PrinterDocument)
+};
+} // namespace
 
 namespace tabo {
 
@@ -104,7 +112,7 @@ void PrinterTextView::substituteVariables(const QHash<QString, QString> &values)
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         const QString tag = tagOf(it.key());
         // A value holding its own tag would put it back for ever.
-        const QString value = it.value().contains(tag) ? QStringLiteral("Error: Recursion") : it.value();
+        const QString value = it.value().contains(tag) ? Tr::tr("Error: Recursion") : it.value();
         for (QTextCursor found = doc.find(tag); !found.isNull(); found = doc.find(tag, found)) {
             const QTextCharFormat format = found.charFormat();
             found.insertText(value, format);

@@ -7,7 +7,15 @@
 #include "store/KeyedArchive.h"
 #include "store/ObjectDictionary.h"
 
+#include <QCoreApplication>
 #include <QFile>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(SampleDocument)
+};
+} // namespace
 
 namespace tabo {
 
@@ -46,12 +54,12 @@ SampleDocument::SampleDocument(const Preferences &prefs)
     doc.setInt(Invoice::status, 0);
     doc.setText(Invoice::title, prefs.string(P::locInvoice));
     doc.setText(Invoice::currency, prefs.string(P::prefsCurrency));
-    doc.setText(Invoice::address, QStringLiteral("Mara Lindqvist\nOrchard Lane 7\nMillbrook CA\nUnited States"));
-    doc.setText(Invoice::customerName, QStringLiteral("Dear Mara Lindqvist"));
+    doc.setText(Invoice::address, Tr::tr("Mara Lindqvist\nOrchard Lane 7\nMillbrook CA\nUnited States"));
+    doc.setText(Invoice::customerName, Tr::tr("Dear Mara Lindqvist"));
     doc.setText(Invoice::customerVATID, QStringLiteral("ATU99999999"));
     doc.setText(Invoice::clientNumber, QStringLiteral("1234"));
     doc.setText(Invoice::number, QStringLiteral("1234"));
-    doc.setText(Invoice::subject, QStringLiteral("A Lot of Things"));
+    doc.setText(Invoice::subject, Tr::tr("A Lot of Things"));
     doc.setText(Invoice::dispatchNumber, QStringLiteral("DHL 123.45.6.789"));
     doc.setText(Invoice::conditions, prefs.string(P::tempInvConditions));
     doc.setText(Invoice::footer, prefs.string(P::tempInvFooter));

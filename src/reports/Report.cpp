@@ -7,9 +7,17 @@
 #include <QFile>
 #include <QHash>
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <climits>
 #include <cmath>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Report)
+};
+} // namespace
 
 namespace tabo::Report {
 
@@ -197,42 +205,41 @@ QString page(const QString &templateText, const ReportFigures &f, const QString 
     for (const ReportFigures::Client &c : f.topClients) {
         clients += QStringLiteral("<tr><th>%1</th><td class=\"num\">%2</td><td class=\"num\">%3</td></tr>")
                        .arg(c.name.toHtmlEscaped(), amount(c.gross),
-                            c.invoices == 1 ? QStringLiteral("1 invoice")
-                                            : QStringLiteral("%1 invoices").arg(c.invoices));
+                           c.invoices == 1 ? Tr::tr("1 invoice") : QStringLiteral("%1 invoices").arg(c.invoices));
     }
     // Longer names first, so "%FLOATTOTAL%" does not eat "%FLOATTOTALNET%".
     const std::pair<QString, QString> values[] = {
-        {QStringLiteral("%LOCINVOICES%"), QStringLiteral("Invoices")},
-        {QStringLiteral("%LOCAVERAGE%"), QStringLiteral("Average")},
-        {QStringLiteral("%LOCTOTALUP%"), QStringLiteral("TOTAL")},
-        {QStringLiteral("%LOCTOTAL%"), QStringLiteral("Total")},
-        {QStringLiteral("%LOCSENT%"), QStringLiteral("Sent")},
-        {QStringLiteral("%LOCDUEUP%"), QStringLiteral("DUE")},
-        {QStringLiteral("%LOCDUE%"), QStringLiteral("Due")},
-        {QStringLiteral("%LOCPAIDUP%"), QStringLiteral("PAID")},
-        {QStringLiteral("%LOCPAID%"), QStringLiteral("Paid")},
-        {QStringLiteral("%LOCAVERAGEUP%"), QStringLiteral("AVERAGE")},
-        {QStringLiteral("%FLOATTOTALNETCOMMA%"), amount(f.totalNet)},
-        {QStringLiteral("%FLOATTOTALCOMMA%"), amount(f.total)},
-        {QStringLiteral("%FLOATDUECOMMA%"), amount(f.dueSum)},
-        {QStringLiteral("%FLOATPAIDCOMMA%"), amount(f.paidSum)},
-        {QStringLiteral("%FLOATAVERAGENETCOMMA%"), amount(f.averageNet)},
-        {QStringLiteral("%FLOATAVERAGECOMMA%"), amount(f.average)},
-        {QStringLiteral("%FLOATTOTALNET%"), wholeNumber(f.totalNet)},
-        {QStringLiteral("%FLOATTOTAL%"), wholeNumber(f.total)},
-        {QStringLiteral("%FLOATDUE%"), wholeNumber(f.dueSum)},
-        {QStringLiteral("%FLOATPAID%"), wholeNumber(f.paidSum)},
-        {QStringLiteral("%FLOATAVERAGENET%"), wholeNumber(f.averageNet)},
-        {QStringLiteral("%FLOATAVERAGE%"), wholeNumber(f.average)},
-        {QStringLiteral("%INVOICES%"), QString::number(f.invoices())},
-        {QStringLiteral("%CREATED%"), QString::number(f.created)},
-        {QStringLiteral("%SENT%"), QString::number(f.sent)},
-        {QStringLiteral("%DUE%"), QString::number(f.due)},
-        {QStringLiteral("%PAID%"), QString::number(f.paid)},
-        {QStringLiteral("%MONTHSMAX%"), wholeNumber(monthsMax)},
-        {QStringLiteral("%MONTHROWS%"), months},
-        {QStringLiteral("%CLIENTROWS%"), clients},
-        {QStringLiteral("%REPORTCOMMENT%"), comment.toHtmlEscaped()},
+        { QStringLiteral("%LOCINVOICES%"), Tr::tr("Invoices") },
+        { QStringLiteral("%LOCAVERAGE%"), Tr::tr("Average") },
+        { QStringLiteral("%LOCTOTALUP%"), QStringLiteral("TOTAL") },
+        { QStringLiteral("%LOCTOTAL%"), Tr::tr("Total") },
+        { QStringLiteral("%LOCSENT%"), Tr::tr("Sent") },
+        { QStringLiteral("%LOCDUEUP%"), QStringLiteral("DUE") },
+        { QStringLiteral("%LOCDUE%"), Tr::tr("Due") },
+        { QStringLiteral("%LOCPAIDUP%"), QStringLiteral("PAID") },
+        { QStringLiteral("%LOCPAID%"), Tr::tr("Paid") },
+        { QStringLiteral("%LOCAVERAGEUP%"), QStringLiteral("AVERAGE") },
+        { QStringLiteral("%FLOATTOTALNETCOMMA%"), amount(f.totalNet) },
+        { QStringLiteral("%FLOATTOTALCOMMA%"), amount(f.total) },
+        { QStringLiteral("%FLOATDUECOMMA%"), amount(f.dueSum) },
+        { QStringLiteral("%FLOATPAIDCOMMA%"), amount(f.paidSum) },
+        { QStringLiteral("%FLOATAVERAGENETCOMMA%"), amount(f.averageNet) },
+        { QStringLiteral("%FLOATAVERAGECOMMA%"), amount(f.average) },
+        { QStringLiteral("%FLOATTOTALNET%"), wholeNumber(f.totalNet) },
+        { QStringLiteral("%FLOATTOTAL%"), wholeNumber(f.total) },
+        { QStringLiteral("%FLOATDUE%"), wholeNumber(f.dueSum) },
+        { QStringLiteral("%FLOATPAID%"), wholeNumber(f.paidSum) },
+        { QStringLiteral("%FLOATAVERAGENET%"), wholeNumber(f.averageNet) },
+        { QStringLiteral("%FLOATAVERAGE%"), wholeNumber(f.average) },
+        { QStringLiteral("%INVOICES%"), QString::number(f.invoices()) },
+        { QStringLiteral("%CREATED%"), QString::number(f.created) },
+        { QStringLiteral("%SENT%"), QString::number(f.sent) },
+        { QStringLiteral("%DUE%"), QString::number(f.due) },
+        { QStringLiteral("%PAID%"), QString::number(f.paid) },
+        { QStringLiteral("%MONTHSMAX%"), wholeNumber(monthsMax) },
+        { QStringLiteral("%MONTHROWS%"), months },
+        { QStringLiteral("%CLIENTROWS%"), clients },
+        { QStringLiteral("%REPORTCOMMENT%"), comment.toHtmlEscaped() },
     };
     QString out = templateText;
     for (const auto &[name, value] : values)

@@ -3,8 +3,16 @@
 #include "base/Date.h"
 #include "store/PlistDetail.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <bit>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(BinaryPlist)
+};
+} // namespace
 
 namespace tabo::plist::detail {
 
@@ -43,7 +51,7 @@ qint64 BinaryWriter::add(const QVariant &raw, int depth)
     const Kind kind = kindOf(value);
     switch (kind) {
     case Kind::Unsupported:
-        return fail(QStringLiteral("cannot write a value of type %1")
+        return fail(Tr::tr("cannot write a value of type %1")
                         .arg(QString::fromLatin1(raw.isValid() ? raw.typeName() : "(none)")));
     case Kind::String:
         return addString(value.toString());
@@ -77,7 +85,7 @@ qint64 BinaryWriter::add(const QVariant &raw, int depth)
     }
     case Kind::Date:
         if (!value.value<Date>().isValid())
-            return fail(QStringLiteral("invalid date"));
+            return fail(Tr::tr("invalid date"));
         break;
     default:
         break;
@@ -191,7 +199,7 @@ Result<QByteArray> BinaryWriter::write(const QVariant &root)
 Result<QVariant> BinaryReader::read()
 {
     if (m_size < 8 + 2 + 32) {
-        fail(QStringLiteral("truncated binary property list"));
+        fail(Tr::tr("truncated binary property list"));
     } else {
         const quint64 trailer = m_size - 32;
         m_offsetSize = m_data[trailer + 6];
@@ -202,7 +210,7 @@ Result<QVariant> BinaryReader::read()
         if (m_offsetSize < 1 || m_offsetSize > 8 || m_refSize < 1 || m_refSize > 8 || m_tableOffset < 9
             || m_tableOffset > trailer || m_count == 0 || top >= m_count
             || m_count > (trailer - m_tableOffset) / quint64(m_offsetSize))
-            fail(QStringLiteral("damaged binary property list trailer"));
+            fail(Tr::tr("damaged binary property list trailer"));
         else {
             m_state.assign(m_count, 0);
             QVariant root = object(top, 0);
@@ -238,14 +246,14 @@ QVariant BinaryReader::object(quint64 index, int depth)
     if (depth > kMaxDepth)
         return fail(tooDeep());
     if (m_state[index] == 1)
-        return fail(QStringLiteral("cyclic object reference"));
+        return fail(Tr::tr("cyclic object reference"));
     if (m_state[index] == 2) {
         m_lastWeight = m_weights.value(index);
         return m_containers.value(index);
     }
     quint64 pos = bigEndian(m_tableOffset + index * quint64(m_offsetSize), m_offsetSize);
     if (pos < 8 || pos >= m_tableOffset)
-        return fail(QStringLiteral("object offset out of range"));
+        return fail(Tr::tr("object offset out of range"));
     const int marker = m_data[pos++];
     const int type = marker >> 4;
     const int info = marker & 0xF;
@@ -253,18 +261,18 @@ QVariant BinaryReader::object(quint64 index, int depth)
     if (type == 0xA || type == 0xC || type == 0xD) {
         quint64 count = 0;
         if (!readCount(pos, info, count))
-            return fail(QStringLiteral("damaged length"));
+            return fail(Tr::tr("damaged length"));
         return container(index, pos, type == 0xD, count, depth);
     }
     value = type >= 0x4 && type <= 0x7 ? text(type, info, pos) : scalar(type, info, pos);
     if (value)
         return *value;
-    return fail(QStringLiteral("unknown object type 0x%1").arg(marker, 2, 16, QLatin1Char('0')));
+    return fail(Tr::tr("unknown object type 0x%1").arg(marker, 2, 16, QLatin1Char('0')));
 }
 
 std::optional<QVariant> BinaryReader::scalar(int type, int info, quint64 pos)
 {
-    const QString truncated = QStringLiteral("object extends past the data");
+    const QString truncated = Tr::tr("object extends past the data");
     switch (type) {
     case 0x0:
         if (info == 0x8 || info == 0x9)
@@ -310,10 +318,10 @@ QVariant BinaryReader::text(int type, int info, quint64 pos)
 {
     quint64 count = 0;
     if (!readCount(pos, info, count))
-        return fail(QStringLiteral("damaged length"));
+        return fail(Tr::tr("damaged length"));
     const quint64 unit = type == 0x6 ? 2 : 1;
     if (count > (m_tableOffset - std::min(pos, m_tableOffset)) / unit)
-        return fail(QStringLiteral("object extends past the data"));
+        return fail(Tr::tr("object extends past the data"));
     const char *bytes = reinterpret_cast<const char *>(m_data + pos);
     if (type == 0x4)
         return QByteArray(bytes, qsizetype(count));
@@ -331,7 +339,7 @@ QVariant BinaryReader::container(quint64 index, quint64 pos, bool dictionary, qu
 {
     const quint64 refs = dictionary ? 2 : 1;
     if (count > (m_tableOffset - std::min(pos, m_tableOffset)) / quint64(m_refSize) / refs)
-        return fail(QStringLiteral("element count larger than the data"));
+        return fail(Tr::tr("element count larger than the data"));
     m_state[index] = 1;
     quint64 weight = 1;
     QVariantList items;
@@ -339,13 +347,13 @@ QVariant BinaryReader::container(quint64 index, quint64 pos, bool dictionary, qu
     for (quint64 i = 0; i < count * refs; ++i) {
         const quint64 ref = bigEndian(pos + i * quint64(m_refSize), m_refSize);
         if (ref >= m_count)
-            return fail(QStringLiteral("object reference out of range"));
+            return fail(Tr::tr("object reference out of range"));
         items.append(object(ref, depth + 1));
         if (!m_error.isEmpty())
             return {};
         weight += m_lastWeight;
         if (weight > m_maxWeight)
-            return fail(QStringLiteral("too many values"));
+            return fail(Tr::tr("too many values"));
     }
     QVariant result;
     if (dictionary) {
@@ -353,7 +361,7 @@ QVariant BinaryReader::container(quint64 index, quint64 pos, bool dictionary, qu
         for (quint64 i = 0; i < count; ++i) {
             const QVariant &key = items.at(qsizetype(i));
             if (key.typeId() != QMetaType::QString)
-                return fail(QStringLiteral("dictionary key is not a string"));
+                return fail(Tr::tr("dictionary key is not a string"));
             map.insert(key.toString(), items.at(qsizetype(count + i)));
         }
         result = map;

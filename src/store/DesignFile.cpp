@@ -2,6 +2,14 @@
 
 #include "store/KeyedArchive.h"
 #include "store/ObjectDictionary.h"
+#include <QCoreApplication>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DesignFile)
+};
+} // namespace
 
 namespace tabo {
 
@@ -15,12 +23,12 @@ Result<QVariantMap> archivedDictionary(const QByteArray &data, const QString &ke
 {
     const Result<QVariant> read = KeyedArchive::unarchive(data);
     if (!read)
-        return Error::file(QStringLiteral("Not an archive: %1").arg(read.error().message()));
+        return Error::file(Tr::tr("Not an archive: %1").arg(read.error().message()));
     const QVariant &root = read.value();
     const QVariant value = root.toMap().value(key);
     if (root.metaType() != QMetaType::fromType<QVariantMap>() || value.metaType() != QMetaType::fromType<QVariantMap>()
         || value.toMap().isEmpty())
-        return Error::file(QStringLiteral("The archive holds no “%1”.").arg(key));
+        return Error::file(Tr::tr("The archive holds no “%1”.").arg(key));
     return value.toMap();
 }
 

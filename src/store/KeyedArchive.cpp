@@ -6,7 +6,15 @@
 #include <QHash>
 #include <QStringList>
 
+#include <QCoreApplication>
 #include <vector>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(KeyedArchive)
+};
+} // namespace
 
 namespace tabo::KeyedArchive {
 
@@ -64,14 +72,14 @@ quint64 Archiver::encode(const QVariant &raw, int depth)
     if (!m_error.isEmpty())
         return 0;
     if (depth > kMaxDepth) {
-        m_error = QStringLiteral("nested deeper than %1 levels").arg(kMaxDepth);
+        m_error = Tr::tr("nested deeper than %1 levels").arg(kMaxDepth);
         return 0;
     }
     const QVariant value = plist::canonical(raw);
     switch (plist::kindOf(value)) {
     case Kind::Unsupported:
     case Kind::Uid:
-        m_error = QStringLiteral("cannot archive a value of type %1")
+        m_error = Tr::tr("cannot archive a value of type %1")
                       .arg(QString::fromLatin1(raw.isValid() ? raw.typeName() : "(none)"));
         return 0;
     case Kind::String: {
@@ -86,7 +94,7 @@ quint64 Archiver::encode(const QVariant &raw, int depth)
     case Kind::Date: {
         const Date date = value.value<Date>();
         if (!date.isValid()) {
-            m_error = QStringLiteral("invalid date");
+            m_error = Tr::tr("invalid date");
             return 0;
         }
         const quint64 index = append({});
@@ -210,10 +218,10 @@ bool Unarchiver::classOf(const QVariantMap &object, ClassKind &kind)
 {
     quint64 index = 0;
     if (!uidOf(object.value(kClass), index) || index >= quint64(m_objects.size()))
-        return fail(QStringLiteral("object without a class"));
+        return fail(Tr::tr("object without a class"));
     const QVariant cls = m_objects.at(qsizetype(index));
     if (cls.typeId() != QMetaType::QVariantMap)
-        return fail(QStringLiteral("damaged class entry"));
+        return fail(Tr::tr("damaged class entry"));
     const QVariantMap map = cls.toMap();
     // A subclass we do not know still decodes as the first known class it lists.
     QVariantList names { map.value(QStringLiteral("$classname")) };
@@ -230,7 +238,7 @@ bool Unarchiver::resolve(const QVariant &reference, int depth, QVariant &out, bo
 {
     quint64 index = 0;
     if (!uidOf(reference, index))
-        return fail(QStringLiteral("expected an object reference"));
+        return fail(Tr::tr("expected an object reference"));
     return object(index, depth, out, present);
 }
 
@@ -239,14 +247,14 @@ bool Unarchiver::object(quint64 index, int depth, QVariant &out, bool &present)
     m_lastWeight = 1;
     present = false;
     if (index >= quint64(m_objects.size()))
-        return fail(QStringLiteral("reference to a missing object"));
+        return fail(Tr::tr("reference to a missing object"));
     if (index == 0)
         return true;
     if (depth > kMaxDepth)
-        return fail(QStringLiteral("nested deeper than %1 levels").arg(kMaxDepth));
+        return fail(Tr::tr("nested deeper than %1 levels").arg(kMaxDepth));
     switch (m_state[index]) {
     case State::Reading:
-        return fail(QStringLiteral("cyclic object reference"));
+        return fail(Tr::tr("cyclic object reference"));
     case State::Read:
         present = m_values.contains(index);
         out = m_values.value(index);
@@ -262,7 +270,7 @@ bool Unarchiver::object(quint64 index, int depth, QVariant &out, bool &present)
     case Kind::Array:
     case Kind::Uid:
     case Kind::Unsupported:
-        return fail(QStringLiteral("malformed object"));
+        return fail(Tr::tr("malformed object"));
     default: // plain strings, numbers, booleans, data, dates
         out = stored;
         present = true;
@@ -288,7 +296,7 @@ bool Unarchiver::object(quint64 index, int depth, QVariant &out, bool &present)
 bool Unarchiver::entries(const QVariantList &keys, const QVariantList &values, int depth, QVariantMap &out)
 {
     if (keys.size() != values.size())
-        return fail(QStringLiteral("dictionary with unequal keys and values"));
+        return fail(Tr::tr("dictionary with unequal keys and values"));
     quint64 weight = 1;
     for (qsizetype i = 0; i < keys.size(); ++i) {
         QVariant key, value;
@@ -302,7 +310,7 @@ bool Unarchiver::entries(const QVariantList &keys, const QVariantList &values, i
         if (keyPresent && valuePresent && key.typeId() == QMetaType::QString)
             out.insert(key.toString(), value);
         if (weight > m_maxWeight)
-            return fail(QStringLiteral("too many values"));
+            return fail(Tr::tr("too many values"));
     }
     m_lastWeight = weight;
     return true;
@@ -328,7 +336,7 @@ bool Unarchiver::decode(const QVariantMap &object, ClassKind kind, int depth, QV
                 return false;
             weight += m_lastWeight;
             if (weight > m_maxWeight)
-                return fail(QStringLiteral("too many values"));
+                return fail(Tr::tr("too many values"));
             if (present)
                 list.append(item);
         }
@@ -338,18 +346,18 @@ bool Unarchiver::decode(const QVariantMap &object, ClassKind kind, int depth, QV
     }
     case ClassKind::String:
         out = object.value(QStringLiteral("NS.string"));
-        return out.typeId() == QMetaType::QString || fail(QStringLiteral("damaged string"));
+        return out.typeId() == QMetaType::QString || fail(Tr::tr("damaged string"));
     case ClassKind::Date: {
         const QVariant time = object.value(QStringLiteral("NS.time"));
         const Kind timeKind = plist::kindOf(time);
         if (timeKind != Kind::Real && timeKind != Kind::Integer)
-            return fail(QStringLiteral("damaged date"));
+            return fail(Tr::tr("damaged date"));
         out = QVariant::fromValue(Date::fromReferenceSeconds(time.toDouble()));
         return true;
     }
     case ClassKind::Data:
         out = object.value(QStringLiteral("NS.data"));
-        return out.typeId() == QMetaType::QByteArray || fail(QStringLiteral("damaged data"));
+        return out.typeId() == QMetaType::QByteArray || fail(Tr::tr("damaged data"));
     case ClassKind::Unknown:
         break;
     }
@@ -368,7 +376,7 @@ Result<QVariant> Unarchiver::unarchive(const QByteArray &data)
         fail(read.error().text);
     } else if (archive.typeId() != QMetaType::QVariantMap || objects.typeId() != QMetaType::QVariantList
         || top.typeId() != QMetaType::QVariantMap) {
-        fail(QStringLiteral("not a keyed archive"));
+        fail(Tr::tr("not a keyed archive"));
     } else {
         m_objects = objects.toList();
         m_state.assign(size_t(m_objects.size()), State::Unread);
@@ -379,7 +387,7 @@ Result<QVariant> Unarchiver::unarchive(const QByteArray &data)
         bool present = false;
         if (roots.contains(QStringLiteral("root"))) {
             if (resolve(roots.value(QStringLiteral("root")), 0, result, present) && !present)
-                fail(QStringLiteral("the archive's root is empty or of an unknown class"));
+                fail(Tr::tr("the archive's root is empty or of an unknown class"));
         } else {
             // Archives written key by key rather than with one root object.
             QVariantMap values;

@@ -3,7 +3,15 @@
 #include "store/Schema.h"
 #include "store/Store.h"
 
+#include <QCoreApplication>
 #include <sqlite3.h>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(NotificationSchedule)
+};
+} // namespace
 
 namespace tabo {
 
@@ -60,19 +68,22 @@ ScheduledNotification readRow(sqlite3_stmt *st)
     return n;
 }
 
-const QString kWriteFailed = QStringLiteral("The notification could not be saved.");
+QString kWriteFailed()
+{
+    return Tr::tr("The notification could not be saved.");
+}
 
 } // namespace
 
 Error NotificationSchedule::schedule(ScheduledNotification &n)
 {
     if (!n.date.isValid())
-        return Error{Error::Store, SQLITE_MISUSE, kWriteFailed, QStringLiteral("It has no date.")};
+        return Error { Error::Store, SQLITE_MISUSE, kWriteFailed(), Tr::tr("It has no date.") };
     return m_store.write([&n](sqlite3 *db) {
         Statement st(db, QStringLiteral("INSERT INTO \"%1\" (\"uniqueID\", \"title\", \"subtitle\", \"text\", \"date\", "
                                         "\"sound\") VALUES (?, ?, ?, ?, ?, ?)"));
         if (!st)
-            return st.error(kWriteFailed);
+            return st.error(kWriteFailed());
         st.bind(1, n.uniqueID);
         st.bind(2, n.title);
         st.bind(3, n.subtitle);
@@ -80,7 +91,7 @@ Error NotificationSchedule::schedule(ScheduledNotification &n)
         st.bind(5, n.date.referenceSeconds());
         st.bind(6, qint64(n.sound));
         if (sqlite3_step(st.get()) != SQLITE_DONE)
-            return st.error(kWriteFailed);
+            return st.error(kWriteFailed());
         n.id = sqlite3_last_insert_rowid(db);
         n.delivered = Date();
         return Error{};
@@ -104,10 +115,10 @@ Result<bool> NotificationSchedule::cancel(qint64 id)
     const Error e = m_store.write([id, &found](sqlite3 *db) {
         Statement st(db, QStringLiteral("DELETE FROM \"%1\" WHERE \"id\" = ?"));
         if (!st)
-            return st.error(kWriteFailed);
+            return st.error(kWriteFailed());
         st.bind(1, id);
         if (sqlite3_step(st.get()) != SQLITE_DONE)
-            return st.error(kWriteFailed);
+            return st.error(kWriteFailed());
         found = sqlite3_changes(db) > 0;
         return Error{};
     });
@@ -124,7 +135,7 @@ Result<QList<ScheduledNotification>> NotificationSchedule::claimDue(Date now)
         Statement st(db, QStringLiteral("UPDATE \"%1\" SET \"delivered\" = ? WHERE \"delivered\" IS NULL AND "
                                         "\"date\" <= ? RETURNING %2").arg(QStringLiteral("%1"), kColumns));
         if (!st)
-            return st.error(kWriteFailed);
+            return st.error(kWriteFailed());
         st.bind(1, now.referenceSeconds());
         st.bind(2, now.referenceSeconds());
         int rc;
@@ -132,7 +143,7 @@ Result<QList<ScheduledNotification>> NotificationSchedule::claimDue(Date now)
             due << readRow(st.get());
         if (rc != SQLITE_DONE) {
             due.clear();
-            return st.error(kWriteFailed);
+            return st.error(kWriteFailed());
         }
         return Error{};
     });
@@ -153,7 +164,7 @@ Error NotificationSchedule::unclaim(const QList<qint64> &ids)
         for (qint64 id : ids) {
             st.bind(1, id);
             if (sqlite3_step(st.get()) != SQLITE_DONE)
-                return st.error(kWriteFailed);
+                return st.error(kWriteFailed());
             sqlite3_reset(st.get());
         }
         return Error{};

@@ -2,7 +2,15 @@
 
 #include "store/Schema.h"
 
+#include <QCoreApplication>
 #include <sqlite3.h>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(NumberCounters)
+};
+} // namespace
 
 namespace tabo::NumberCounters {
 
@@ -37,7 +45,8 @@ Error write(sqlite3 *db, const QString &name, qint64 value)
     }
     sqlite3_finalize(stmt);
     if (rc != SQLITE_DONE)
-        return Error::file(QStringLiteral("The counter “%1” could not be stored: %2").arg(name, QString::fromUtf8(sqlite3_errmsg(db))));
+        return Error::file(
+            Tr::tr("The counter “%1” could not be stored: %2").arg(name, QString::fromUtf8(sqlite3_errmsg(db))));
     return {};
 }
 

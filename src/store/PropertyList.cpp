@@ -9,7 +9,15 @@
 #include <QDateTime>
 #include <QFile>
 
+#include <QCoreApplication>
 #include <limits>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(PropertyList)
+};
+} // namespace
 
 // libplist 2.2 is used for reading XML only. Its other paths are not exact
 // enough for files that must round-trip: its dates are int32 seconds plus
@@ -121,19 +129,19 @@ Result<QByteArray> write(const QVariant &root, Format format)
 Result<QVariant> read(const QByteArray &data)
 {
     if (data.isEmpty())
-        return Error::file(QStringLiteral("empty property list"));
+        return Error::file(Tr::tr("empty property list"));
     if (data.size() > kMaxInput)
-        return Error::file(QStringLiteral("property list too large"));
+        return Error::file(Tr::tr("property list too large"));
     if (data.startsWith("bplist")) {
         if (!data.startsWith("bplist00"))
-            return Error::file(QStringLiteral("unsupported binary property list version"));
+            return Error::file(Tr::tr("unsupported binary property list version"));
         return detail::BinaryReader(data).read();
     }
     qsizetype start = data.startsWith("\xEF\xBB\xBF") ? 3 : 0;
     while (start < data.size() && QChar::isSpace(uchar(data.at(start))))
         ++start;
     if (start >= data.size() || data.at(start) != '<')
-        return Error::file(QStringLiteral("not a property list"));
+        return Error::file(Tr::tr("not a property list"));
     return detail::readXml(data);
 }
 
@@ -149,9 +157,9 @@ Result<QVariant> readFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Error::file(QStringLiteral("cannot open %1: %2").arg(path, file.errorString()));
+        return Error::file(Tr::tr("cannot open %1: %2").arg(path, file.errorString()));
     if (file.size() > kMaxInput)
-        return Error::file(QStringLiteral("property list too large"));
+        return Error::file(Tr::tr("property list too large"));
     return read(file.readAll());
 }
 

@@ -8,7 +8,15 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <QCoreApplication>
 #include <sqlite3.h>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Store)
+};
+} // namespace
 
 namespace tabo {
 
@@ -17,10 +25,13 @@ using storedetail::firstText;
 namespace {
 
 // What a person can do about a store that cannot be used.
-const QString kRecovery = QStringLiteral(
-    "Restore your last complete backup (File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or move "
-    "the file aside to start a new database and restore the automatic backup of your documents "
-    "(tabo-cli restore auto --yes).");
+QString kRecovery()
+{
+    return Tr::tr("Restore your last complete backup (File ▸ Restore Database, or: tabo-cli restore database FILE "
+                  "--yes), or move "
+                  "the file aside to start a new database and restore the automatic backup of your documents "
+                  "(tabo-cli restore auto --yes).");
+}
 
 bool looksLikeSqlite(const QString &path, bool *empty)
 {
@@ -96,9 +107,9 @@ Store::~Store()
 
 Error Store::damagedError() const
 {
-    return Error{Error::Store, SQLITE_CORRUPT,
-                 QStringLiteral("The database file “%1” is damaged; nothing more is written to it.").arg(m_path),
-                 QStringLiteral("Quit Tabo and keep the file for now. ") + kRecovery};
+    return Error { Error::Store, SQLITE_CORRUPT,
+        Tr::tr("The database file “%1” is damaged; nothing more is written to it.").arg(m_path),
+        Tr::tr("Quit Tabo and keep the file for now. ") + kRecovery() };
 }
 
 Error Store::sqlError(const QString &what)
@@ -111,9 +122,9 @@ Error Store::sqlError(const QString &what)
         return e;
     }
     if ((code & 0xff) == SQLITE_BUSY || (code & 0xff) == SQLITE_LOCKED)
-        return Error{Error::Store, code, what,
-                     QStringLiteral("Another program (another Tabo window or tabo-cli) has kept the database busy for "
-                                    "10 seconds. Your changes are still here; try again in a moment.")};
+        return Error { Error::Store, code, what,
+            Tr::tr("Another program (another Tabo window or tabo-cli) has kept the database busy for "
+                   "10 seconds. Your changes are still here; try again in a moment.") };
     return Error{Error::Store, code, what, m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
 }
 
@@ -139,19 +150,16 @@ Error Store::checkFile(bool *exists) const
     const QFileInfo info(m_path);
     *exists = info.exists();
     if (*exists && !info.isFile())
-        return Error{Error::Store, SQLITE_CANTOPEN,
-                     QStringLiteral("The database “%1” is not a file.").arg(m_path), {}};
+        return Error { Error::Store, SQLITE_CANTOPEN, Tr::tr("The database “%1” is not a file.").arg(m_path), {} };
     bool empty = false;
     if (*exists && !looksLikeSqlite(m_path, &empty))
-        return Error{Error::Store, SQLITE_NOTADB,
-                     QStringLiteral("The file “%1” is not a Tabo database.").arg(m_path),
-                     QStringLiteral("It has been left as it is.")};
+        return Error { Error::Store, SQLITE_NOTADB, Tr::tr("The file “%1” is not a Tabo database.").arg(m_path),
+            Tr::tr("It has been left as it is.") };
     // Only a missing file is a new installation; an empty one is what a full
     // disk or a failed copy leaves, and the data must come from a backup.
     if (*exists && empty)
-        return Error{Error::Store, kEmptyFile,
-                     QStringLiteral("The database file “%1” is empty (0 bytes).").arg(m_path),
-                     QStringLiteral("It has been left as it is. ") + kRecovery};
+        return Error { Error::Store, kEmptyFile, Tr::tr("The database file “%1” is empty (0 bytes).").arg(m_path),
+            Tr::tr("It has been left as it is. ") + kRecovery() };
     return {};
 }
 
@@ -159,9 +167,9 @@ Error Store::connect(bool create)
 {
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (create ? SQLITE_OPEN_CREATE : 0);
     if (sqlite3_open_v2(m_path.toUtf8().constData(), &m_db, flags, nullptr) != SQLITE_OK) {
-        Error e{Error::Store, m_db ? sqlite3_errcode(m_db) : SQLITE_CANTOPEN,
-                QStringLiteral("The database “%1” could not be opened.").arg(m_path),
-                m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
+        Error e { Error::Store, m_db ? sqlite3_errcode(m_db) : SQLITE_CANTOPEN,
+            Tr::tr("The database “%1” could not be opened.").arg(m_path),
+            m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString() };
         sqlite3_close(m_db);
         m_db = nullptr;
         return e;
@@ -195,19 +203,19 @@ Result<int> Store::readVersion()
     }
     sqlite3_finalize(st);
     if (version < 0)
-        return sqlError(QStringLiteral("The database “%1” could not be read.").arg(m_path));
+        return sqlError(Tr::tr("The database “%1” could not be read.").arg(m_path));
     if (version == 0 && tables > 0)
-        return Error{Error::Store, SQLITE_NOTADB,
-                     QStringLiteral("The file “%1” is an SQLite database of another program, not a Tabo database.").arg(m_path),
-                     QStringLiteral("It has been left as it is.")};
+        return Error { Error::Store, SQLITE_NOTADB,
+            Tr::tr("The file “%1” is an SQLite database of another program, not a Tabo database.").arg(m_path),
+            Tr::tr("It has been left as it is.") };
     if (version > kSchemaVersion)
-        return Error{Error::Store, SQLITE_CANTOPEN,
-                     QStringLiteral("The database “%1” was written by a newer version of Tabo.").arg(m_path),
-                     QStringLiteral("Please use that version; the file has been left as it is.")};
+        return Error { Error::Store, SQLITE_CANTOPEN,
+            Tr::tr("The database “%1” was written by a newer version of Tabo.").arg(m_path),
+            Tr::tr("Please use that version; the file has been left as it is.") };
     if (version > 0 && !haveInvoice)
-        return Error{Error::Store, SQLITE_CORRUPT,
-                     QStringLiteral("The database “%1” is damaged: its document table is missing.").arg(m_path),
-                     QStringLiteral("It has been left as it is.")};
+        return Error { Error::Store, SQLITE_CORRUPT,
+            Tr::tr("The database “%1” is damaged: its document table is missing.").arg(m_path),
+            Tr::tr("It has been left as it is.") };
     return version;
 }
 
@@ -232,8 +240,8 @@ Error Store::bringUpToDate(int version)
                                                : schema::addMissingColumns(m_db);
     if (e) {
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
-        return Error{Error::Store, e.code, QStringLiteral("The database “%1” could not be updated.").arg(m_path),
-                     e.message()};
+        return Error { Error::Store, e.code, Tr::tr("The database “%1” could not be updated.").arg(m_path),
+            e.message() };
     }
     sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
     m_checked = m_checked || version == 0;
@@ -313,7 +321,7 @@ sqlite3_stmt *Store::prepare(const QString &sql)
     }
     sqlite3_stmt *st = nullptr;
     if (sqlite3_prepare_v3(m_db, sql.toUtf8().constData(), -1, SQLITE_PREPARE_PERSISTENT, &st, nullptr) != SQLITE_OK) {
-        m_lastError = sqlError(QStringLiteral("The database could not be read."));
+        m_lastError = sqlError(Tr::tr("The database could not be read."));
         return nullptr;
     }
     m_statements.insert(sql, st);
@@ -322,9 +330,9 @@ sqlite3_stmt *Store::prepare(const QString &sql)
 
 Error Store::replaceContentFrom(const QString &source)
 {
-    const QString what = QStringLiteral("The database could not be replaced.");
+    const QString what = Tr::tr("The database could not be replaced.");
     if (!m_db)
-        return Error{Error::Store, SQLITE_MISUSE, what, QStringLiteral("No database is open.")};
+        return Error { Error::Store, SQLITE_MISUSE, what, Tr::tr("No database is open.") };
     if (const Error e = checkIntegrity())
         return e;
     sqlite3 *src = nullptr;
@@ -336,8 +344,8 @@ Error Store::replaceContentFrom(const QString &source)
     // A file in WAL mode only takes pages of its own size.
     if (firstText(src, "PRAGMA page_size") != firstText(m_db, "PRAGMA page_size")) {
         sqlite3_close(src);
-        return Error{Error::Store, SQLITE_MISMATCH, what,
-                     QStringLiteral("The backup uses another page size than the database.")};
+        return Error { Error::Store, SQLITE_MISMATCH, what,
+            Tr::tr("The backup uses another page size than the database.") };
     }
     // A new generation tells every other process to read the store again
     // whole: the journal of the restored file says nothing about what they hold.

@@ -15,12 +15,20 @@
 
 #include <sqlite3.h>
 
+#include <QCoreApplication>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <signal.h>
 #include <unistd.h>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(StoreFile)
+};
+} // namespace
 
 namespace tabo {
 
@@ -46,9 +54,9 @@ Error renameOver(const QString &from, const QString &to)
 {
     if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0)
         return {};
-    const Error e = Error::file(QStringLiteral("“%1” could not be renamed to “%2”: %3.")
-                                    .arg(from, to, QString::fromLocal8Bit(std::strerror(errno))));
-    qWarning().noquote() << QStringLiteral("Unable to move temporary store: %1").arg(e.text);
+    const Error e = Error::file(
+        Tr::tr("“%1” could not be renamed to “%2”: %3.").arg(from, to, QString::fromLocal8Bit(std::strerror(errno))));
+    qWarning().noquote() << Tr::tr("Unable to move temporary store: %1").arg(e.text);
     return e;
 }
 
@@ -77,10 +85,10 @@ Error checkStoreFile(const QString &path, bool checkIntegrity)
 {
     const QFileInfo info(path);
     if (!info.isFile()) {
-        return Error::file(QStringLiteral("It does not exist or is not a file."));
+        return Error::file(Tr::tr("It does not exist or is not a file."));
     }
     if (info.size() == 0) {
-        return Error::file(QStringLiteral("It is empty."));
+        return Error::file(Tr::tr("It is empty."));
     }
     sqlite3 *db = nullptr;
     QString version, tables, check = QStringLiteral("ok");
@@ -94,19 +102,19 @@ Error checkStoreFile(const QString &path, bool checkIntegrity)
     const QString message = QString::fromUtf8(sqlite3_errmsg(db));
     sqlite3_close(db);
     if (rc == SQLITE_NOTADB)
-        return Error::file(QStringLiteral("It is not a database file."));
+        return Error::file(Tr::tr("It is not a database file."));
     if (rc != SQLITE_ROW || check != QStringLiteral("ok"))
-        return Error::file(QStringLiteral("It is damaged or incomplete (%1).").arg(rc == SQLITE_ROW ? check : message));
+        return Error::file(Tr::tr("It is damaged or incomplete (%1).").arg(rc == SQLITE_ROW ? check : message));
     if (version.toInt() == 0)
-        return Error::file(tables.toInt() > 0 ? QStringLiteral("It is a database of another program.")
-                                              : QStringLiteral("It holds no Tabo data."));
+        return Error::file(
+            tables.toInt() > 0 ? Tr::tr("It is a database of another program.") : Tr::tr("It holds no Tabo data."));
 
     Store store(path);
     if (const Error e = store.open())
         return Error::file(e.message());
     store.close();
     if (QFileInfo::exists(path + QStringLiteral("-wal")))
-        return Error::file(QStringLiteral("Its log could not be written back."));
+        return Error::file(Tr::tr("Its log could not be written back."));
     return {};
 }
 
@@ -160,17 +168,17 @@ StoreFile::~StoreFile()
 Error StoreFile::copyFrom(const QString &source)
 {
     QFile in(source);
-    if (!in.open(QIODevice::ReadOnly)) 
-        return Error::file(QStringLiteral("It could not be read: %1.").arg(in.errorString()));
+    if (!in.open(QIODevice::ReadOnly))
+        return Error::file(Tr::tr("It could not be read: %1.").arg(in.errorString()));
     QFile out(m_path);
-    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate)) 
-        return Error::file(QStringLiteral("“%1” could not be written: %2.").arg(m_path, out.errorString()));
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return Error::file(Tr::tr("“%1” could not be written: %2.").arg(m_path, out.errorString()));
     while (!in.atEnd()) {
         const QByteArray chunk = in.read(1 << 20);
-        if (chunk.isEmpty() && in.error() != QFileDevice::NoError) 
-            return Error::file(QStringLiteral("It could not be read: %1.").arg(in.errorString()));
-        if (out.write(chunk) != chunk.size()) 
-            return Error::file(QStringLiteral("“%1” could not be written: %2.").arg(m_path, out.errorString()));
+        if (chunk.isEmpty() && in.error() != QFileDevice::NoError)
+            return Error::file(Tr::tr("It could not be read: %1.").arg(in.errorString()));
+        if (out.write(chunk) != chunk.size())
+            return Error::file(Tr::tr("“%1” could not be written: %2.").arg(m_path, out.errorString()));
     }
     out.flush();
     ::fsync(out.handle());
@@ -218,12 +226,12 @@ Error StoreFile::swapIn(const std::function<void()> &closeStore, const std::func
     syncPath(folder, true);
     pauseForTest();
     if (!reopenStore()) {
-        qWarning().noquote() << QStringLiteral("Unable to add new store: %1").arg(storePath);
+        qWarning().noquote() << Tr::tr("Unable to add new store: %1").arg(storePath);
         closeStore();
         if (QFileInfo::exists(previous))
             bringBackPrevious(storePath, false);
         reopenStore();
-        return Error::file(QStringLiteral("The restored database could not be opened."));
+        return Error::file(Tr::tr("The restored database could not be opened."));
     }
     pauseForTest();
     removeStoreFiles(previous);
@@ -245,15 +253,15 @@ void StoreFile::recoverInterruptedRestore(const QString &storePath)
         return;
     // A restored file is only ever put in place complete and checked, so
     // opening it is proof enough.
-    const Error problem = info.exists() ? checkStoreFile(storePath, false)
-                                        : Error::file(QStringLiteral("The restored database is missing."));
+    const Error problem
+        = info.exists() ? checkStoreFile(storePath, false) : Error::file(Tr::tr("The restored database is missing."));
     if (!problem) {
-        qInfo().noquote() << QStringLiteral("An interrupted restore of “%1” is complete; removing the previous database.")
-                                 .arg(storePath);
+        qInfo().noquote()
+            << Tr::tr("An interrupted restore of “%1” is complete; removing the previous database.").arg(storePath);
         removeStoreFiles(previous);
         return;
     }
-    qWarning().noquote() << QStringLiteral("An interrupted restore of “%1” is undone: %2").arg(storePath, problem.text);
+    qWarning().noquote() << Tr::tr("An interrupted restore of “%1” is undone: %2").arg(storePath, problem.text);
     bringBackPrevious(storePath, true);
 }
 
@@ -343,16 +351,16 @@ void StoreFile::finishInterruptedMove(const QString &storePath)
     // may be open elsewhere, so its log is not asked to be written back.
     Store from(source);
     Error e = !QFileInfo(source).isFile() || QFileInfo(source).size() == 0
-                  ? Error::file(QStringLiteral("It is missing or empty."))
-                  : from.open();
+        ? Error::file(Tr::tr("It is missing or empty."))
+        : from.open();
     if (!e)
         e = writeCopy(from, target);
     if (e)
-        qWarning().noquote() << QStringLiteral("The interrupted move of the database from “%1” cannot be finished: %2")
-                                    .arg(source, e.message());
+        qWarning().noquote()
+            << Tr::tr("The interrupted move of the database from “%1” cannot be finished: %2").arg(source, e.message());
     else
-        qInfo().noquote() << QStringLiteral("Finished the interrupted move of the database from “%1” to “%2”.")
-                                 .arg(source, target);
+        qInfo().noquote()
+            << Tr::tr("Finished the interrupted move of the database from “%1” to “%2”.").arg(source, target);
     from.close();
     endMove();
 }
@@ -363,7 +371,7 @@ void StoreFile::removeInterruptedCopies()
         // VACUUM INTO keeps a rollback journal beside the file it writes.
         QFile::remove(path + QStringLiteral("-journal"));
         if (QFile::remove(path))
-            qInfo().noquote() << QStringLiteral("Removed “%1”, left by an interrupted copy.").arg(path);
+            qInfo().noquote() << Tr::tr("Removed “%1”, left by an interrupted copy.").arg(path);
     }
     setPendingCopies({});
 }
@@ -382,9 +390,9 @@ Error StoreFile::writeCopy(Store &store, const QString &target)
             tempPath = candidate;
     }
     if (tempPath.isEmpty()) {
-        const Error e = Error::file(
-            QStringLiteral("“%1” could not be written: no free name for a working copy beside it.").arg(target));
-        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(e.text);
+        const Error e
+            = Error::file(Tr::tr("“%1” could not be written: no free name for a working copy beside it.").arg(target));
+        qWarning().noquote() << Tr::tr("Unable to add migratePersistentStore: %1").arg(e.text);
         return e;
     }
     setPendingCopies(pendingCopies() << tempPath);
@@ -400,9 +408,9 @@ Error StoreFile::writeCopy(Store &store, const QString &target)
     const int rc = sqlite3_step(stmt);
     sqlite3_finalize(stmt);
     if (rc != SQLITE_DONE) {
-        const Error e = Error::file(QStringLiteral("“%1” could not be written: %2.")
-                                        .arg(target, QString::fromUtf8(sqlite3_errmsg(store.handle()))));
-        qWarning().noquote() << QStringLiteral("Unable to add migratePersistentStore: %1").arg(e.text);
+        const Error e = Error::file(
+            Tr::tr("“%1” could not be written: %2.").arg(target, QString::fromUtf8(sqlite3_errmsg(store.handle()))));
+        qWarning().noquote() << Tr::tr("Unable to add migratePersistentStore: %1").arg(e.text);
         QFile::remove(tempPath);
         done();
         return e;
@@ -415,8 +423,8 @@ Error StoreFile::writeCopy(Store &store, const QString &target)
     QFile::remove(target + QStringLiteral("-shm"));
     if (::rename(tempName.constData(), QFile::encodeName(target).constData()) != 0) {
         const Error e = Error::file(
-            QStringLiteral("“%1” could not be written: %2.").arg(target, QString::fromLocal8Bit(std::strerror(errno))));
-        qWarning().noquote() << QStringLiteral("Unable to acopyItemAtURL: %1").arg(e.text);
+            Tr::tr("“%1” could not be written: %2.").arg(target, QString::fromLocal8Bit(std::strerror(errno))));
+        qWarning().noquote() << Tr::tr("Unable to acopyItemAtURL: %1").arg(e.text);
         QFile::remove(tempPath);
         done();
         return e;

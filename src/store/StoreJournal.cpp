@@ -6,7 +6,15 @@
 
 #include <QSet>
 
+#include <QCoreApplication>
 #include <sqlite3.h>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(StoreJournal)
+};
+} // namespace
 
 // The change journal: what other processes committed since this one last
 // looked, read back into the records in memory, and the conflicts with
@@ -167,7 +175,7 @@ bool Store::rereadRows(EntityId entity, const QList<qint64> &ids, QSet<Record *>
             }
         } else {
             sqlite3_reset(stmt);
-            m_lastError = sqlError(QStringLiteral("The database could not be read."));
+            m_lastError = sqlError(Tr::tr("The database could not be read."));
             return false;
         }
     }
@@ -236,7 +244,7 @@ void Store::rescanEntity(EntityId entity)
         while ((rc = sqlite3_step(stmt)) == SQLITE_ROW)
             take(stmt);
         if (rc != SQLITE_DONE)
-            m_lastError = sqlError(QStringLiteral("The database could not be read."));
+            m_lastError = sqlError(Tr::tr("The database could not be read."));
         sqlite3_reset(stmt);
     } else {
         const QList<Record *> known = st.map.values();

@@ -8,8 +8,16 @@
 
 #include <sqlite3.h>
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(StoreRecords)
+};
+} // namespace
 
 // The records: reading them in, creating and removing them, and writing
 // what changed in one transaction.
@@ -105,7 +113,7 @@ bool Store::loadDocumentsInListOrder()
                         sqlite3_column_type(stmt, 1) != SQLITE_NULL});
     sqlite3_reset(stmt);
     if (rc != SQLITE_DONE) {
-        m_lastError = sqlError(QStringLiteral("The database could not be read."));
+        m_lastError = sqlError(Tr::tr("The database could not be read."));
         sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
         return true;
     }
@@ -147,7 +155,7 @@ bool Store::loadDocumentsInListOrder()
         ++i;
     }
     if (stmt && rc != SQLITE_DONE && rc != SQLITE_ROW)
-        m_lastError = sqlError(QStringLiteral("The database could not be read."));
+        m_lastError = sqlError(Tr::tr("The database could not be read."));
     if (stmt)
         sqlite3_reset(stmt);
     sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
@@ -184,7 +192,7 @@ void Store::loadAll(EntityId entity)
             live.append(r);
     }
     if (rc != SQLITE_DONE)
-        m_lastError = sqlError(QStringLiteral("The database could not be read."));
+        m_lastError = sqlError(Tr::tr("The database could not be read."));
     sqlite3_reset(stmt);
     for (Record *r : std::as_const(m_dirty))
         if (r->m_entity == entity && r->m_inserted && !r->m_deleted)
@@ -427,7 +435,7 @@ QList<Record *> *Store::loadToMany(const Record *owner, int rel)
                     list->append(r);
             }
             if (rc != SQLITE_DONE)
-                m_lastError = sqlError(QStringLiteral("The lines of a document could not be read."));
+                m_lastError = sqlError(Tr::tr("The lines of a document could not be read."));
             sqlite3_reset(stmt);
         }
     }
@@ -514,7 +522,7 @@ Error Store::writeRecord(Record *r)
         if (!stmt)
             return m_lastError;
         sqlite3_bind_int64(stmt, 1, r->m_id);
-        return sqlite3_step(stmt) == SQLITE_DONE ? Error{} : sqlError(QStringLiteral("A record could not be deleted."));
+        return sqlite3_step(stmt) == SQLITE_DONE ? Error {} : sqlError(Tr::tr("A record could not be deleted."));
     }
 
     const int attrCount = int(d.attributes.size());
@@ -562,7 +570,7 @@ Error Store::writeRecord(Record *r)
         }
     }
     if (sqlite3_step(stmt) != SQLITE_DONE)
-        return sqlError(QStringLiteral("A record could not be written."));
+        return sqlError(Tr::tr("A record could not be written."));
     if (!r->m_inserted && sqlite3_changes(m_db) == 0)
         m_conflicts.append(r);
     return {};
@@ -583,7 +591,7 @@ Error Store::assignNewIds()
         if (!stmt)
             return m_lastError;
         if (sqlite3_step(stmt) != SQLITE_ROW) {
-            const Error e = sqlError(QStringLiteral("The changes could not be saved."));
+            const Error e = sqlError(Tr::tr("The changes could not be saved."));
             sqlite3_reset(stmt);
             return e;
         }
@@ -625,15 +633,15 @@ Error Store::save(const std::function<void()> &inTransaction)
     if (m_dirty.isEmpty())
         return {};
     if (!m_db)
-        return Error{Error::Tabo, 9999, QStringLiteral("Failed to initialize the store"),
-                     QStringLiteral("There was an error building up the data file.")};
+        return Error { Error::Tabo, 9999, Tr::tr("Failed to initialize the store"),
+            Tr::tr("There was an error building up the data file.") };
     if (const Error e = checkIntegrity())
         return e;
     if (sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK)
-        return sqlError(QStringLiteral("The changes could not be saved."));
+        return sqlError(Tr::tr("The changes could not be saved."));
     const auto fail = [this](const Error &e) {
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
-        return Error{e.source, e.code, QStringLiteral("The changes could not be saved."), e.message()};
+        return Error { e.source, e.code, Tr::tr("The changes could not be saved."), e.message() };
     };
     refreshIfChanged();
     if (inTransaction)
@@ -650,8 +658,8 @@ Error Store::save(const std::function<void()> &inTransaction)
     }
     if (!m_conflicts.isEmpty()) {
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
-        return Error{Error::Store, kConflict, QStringLiteral("The changes could not be saved."),
-                     QStringLiteral("Another program changed the same records after they were read here.")};
+        return Error { Error::Store, kConflict, Tr::tr("The changes could not be saved."),
+            Tr::tr("Another program changed the same records after they were read here.") };
     }
     // The journal keeps what the slowest reader may still need; one that
     // falls further behind reads everything again.
@@ -660,12 +668,12 @@ Error Store::save(const std::function<void()> &inTransaction)
                                  .arg(kJournalLength)
                                  .toUtf8();
     if (sqlite3_exec(m_db, prune.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        return fail(sqlError(QStringLiteral("The changes could not be saved.")));
+        return fail(sqlError(Tr::tr("The changes could not be saved.")));
     // Read before the commit: whatever another process writes after it is
     // news for the next refresh.
     const ChangeMark mark = readChangeMark();
     if (sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
-        const Error e = sqlError(QStringLiteral("The changes could not be saved."));
+        const Error e = sqlError(Tr::tr("The changes could not be saved."));
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
         return e;
     }
@@ -686,15 +694,15 @@ Error Store::save(const std::function<void()> &inTransaction)
 Error Store::write(const std::function<Error(sqlite3 *)> &body)
 {
     if (!m_db)
-        return Error{Error::Store, SQLITE_MISUSE, QStringLiteral("No database is open."), {}};
+        return Error { Error::Store, SQLITE_MISUSE, Tr::tr("No database is open."), {} };
     if (const Error e = checkIntegrity())
         return e;
     if (sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK)
-        return sqlError(QStringLiteral("The database could not be written."));
+        return sqlError(Tr::tr("The database could not be written."));
     refreshIfChanged();
     Error e = m_damaged ? damagedError() : body(m_db);
     if (!e && sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
-        e = sqlError(QStringLiteral("The database could not be written."));
+        e = sqlError(Tr::tr("The database could not be written."));
     if (e) {
         if ((e.code & 0xff) == SQLITE_CORRUPT || (e.code & 0xff) == SQLITE_NOTADB)
             m_damaged = true;

@@ -8,6 +8,7 @@
 
 #include <plist/plist.h>
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -15,6 +16,13 @@
 #include <limits>
 #include <locale.h>
 #include <string_view>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(XmlPlist)
+};
+} // namespace
 
 namespace tabo::plist::detail {
 
@@ -50,7 +58,7 @@ bool XmlWriter::value(const QVariant &raw, int depth)
     const QVariant v = canonical(raw);
     switch (kindOf(v)) {
     case Kind::Unsupported:
-        return fail(QStringLiteral("cannot write a value of type %1")
+        return fail(Tr::tr("cannot write a value of type %1")
                         .arg(QString::fromLatin1(raw.isValid() ? raw.typeName() : "(none)")));
     case Kind::String:
         element(depth, "string", escaped(v.toString()));
@@ -68,7 +76,7 @@ bool XmlWriter::value(const QVariant &raw, int depth)
         const Date date = v.value<Date>();
         const double seconds = std::floor(date.unixSeconds());
         if (!date.isValid() || std::abs(seconds) > 2.5e11) // beyond year 9999
-            return fail(QStringLiteral("date out of range"));
+            return fail(Tr::tr("date out of range"));
         const QDateTime dt = QDateTime::fromSecsSinceEpoch(qint64(seconds), Qt::UTC);
         element(depth, "date", dt.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ssZ")).toLatin1());
         return true;
@@ -233,7 +241,7 @@ Result<QVariant> dateOf(plist_t node)
     int32_t sec = 0, usec = 0;
     plist_get_date_val(node, &sec, &usec);
     if (sec == std::numeric_limits<int32_t>::min()) // libplist's clamp for years it cannot hold
-        return Error::file(QStringLiteral("date out of range"));
+        return Error::file(Tr::tr("date out of range"));
     return QVariant::fromValue(Date::fromReferenceSeconds(double(sec) + double(usec) / 1e6));
 }
 
@@ -290,7 +298,7 @@ Result<QVariant> fromNode(plist_t node, int depth)
     default:
         if (QVariant value = scalarOf(node); value.isValid())
             return value;
-        return Error::file(QStringLiteral("unknown XML element"));
+        return Error::file(Tr::tr("unknown XML element"));
     }
 }
 
@@ -306,7 +314,7 @@ Result<QVariant> readXml(const QByteArray &data)
         plist_from_xml(data.constData(), uint32_t(data.size()), &root);
     }
     if (!root)
-        return Error::file(QStringLiteral("not a valid XML property list"));
+        return Error::file(Tr::tr("not a valid XML property list"));
     Result<QVariant> out = fromNode(root, 0);
     plist_free(root);
     return out;

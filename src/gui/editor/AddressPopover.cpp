@@ -18,7 +18,15 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <QCoreApplication>
 #include <algorithm>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(AddressPopover)
+};
+} // namespace
 
 namespace tabo {
 
@@ -225,7 +233,7 @@ QWidget *AddressPopover::createEInvoicePage()
 
 void AddressPopover::alert(const QString &message)
 {
-    runHidden([this, message] { m_app.ui().alert(QStringLiteral("Error!"), message, { QStringLiteral("OK") }); });
+    runHidden([this, message] { m_app.ui().alert(Tr::tr("Error!"), message, { Tr::tr("OK") }); });
 }
 
 void AddressPopover::chooseFile()

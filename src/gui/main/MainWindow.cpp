@@ -27,9 +27,10 @@
 #include "gui/widgets/Keys.h"
 #include "prefs/Preferences.h"
 
-#include <QApplication>
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFrame>
 #include <QGraphicsOpacityEffect>
@@ -39,9 +40,16 @@
 #include <QSplitter>
 #include <QTableView>
 #include <QTimer>
-#include <QUndoStack>
 #include <QToolBar>
+#include <QUndoStack>
 #include <QVBoxLayout>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(MainWindow)
+};
+} // namespace
 
 namespace tabo {
 

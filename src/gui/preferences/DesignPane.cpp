@@ -10,6 +10,7 @@
 #include "gui/windows/PdfPane.h"
 #include "prefs/Preferences.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,6 +19,13 @@
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DesignPane)
+};
+} // namespace
 
 namespace tabo {
 

@@ -64,16 +64,24 @@ struct PaneInfo
 
 // The Data pane's title names the other platform's synchronisation; its
 // label and the window title here say what it holds.
-constexpr std::array<PaneInfo, QVPreferencePanel::PaneCount> kPanes {{
-    {"View1ItemIdentifier", "Company", "Company", "x-office-address-book", 'C', 0xff2e7d32},
-    {"View2ItemIdentifier", "Invoice", "Invoice", "x-office-document", 'I', 0xff1565c0},
-    {"View3ItemIdentifier", "Taxes", "Taxes", "accessories-calculator", '%', 0xffc62828},
-    {"View4ItemIdentifier", "Template", "Template", "x-office-document-template", 'T', 0xff6a1b9a},
-    {"View5ItemIdentifier", "Design", "Design", "applications-graphics", 'D', 0xffef6c00},
-    {"View6ItemIdentifier", "Region", "Region", "preferences-desktop-locale", 'R', 0xff00838f},
-    {"View7ItemIdentifier", "Clients", "Clients", "system-users", 'K', 0xff4e342e},
-    {"View9ItemIdentifier", "Data", "Data", "drive-harddisk", 'S', 0xff455a64},
-}};
+constexpr std::array<PaneInfo, QVPreferencePanel::PaneCount> kPanes { {
+    { "View1ItemIdentifier", QT_TRANSLATE_NOOP("QVPreferencePanel", "Company"),
+        QT_TRANSLATE_NOOP("QVPreferencePanel", "Company"), "x-office-address-book", 'C', 0xff2e7d32 },
+    { "View2ItemIdentifier", QT_TRANSLATE_NOOP("QVPreferencePanel", "Invoice"),
+        QT_TRANSLATE_NOOP("QVPreferencePanel", "Invoice"), "x-office-document", 'I', 0xff1565c0 },
+    { "View3ItemIdentifier", QT_TRANSLATE_NOOP("QVPreferencePanel", "Taxes"),
+        QT_TRANSLATE_NOOP("QVPreferencePanel", "Taxes"), "accessories-calculator", '%', 0xffc62828 },
+    { "View4ItemIdentifier", QT_TRANSLATE_NOOP("QVPreferencePanel", "Template"),
+        QT_TRANSLATE_NOOP("QVPreferencePanel", "Template"), "x-office-document-template", 'T', 0xff6a1b9a },
+    { "View5ItemIdentifier", QT_TRANSLATE_NOOP("QVPreferencePanel", "Design"),
+        QT_TRANSLATE_NOOP("QVPreferencePanel", "Design"), "applications-graphics", 'D', 0xffef6c00 },
+    { "View6ItemIdentifier", QT_TRANSLATE_NOOP("QVPreferencePanel", "Region"),
+        QT_TRANSLATE_NOOP("QVPreferencePanel", "Region"), "preferences-desktop-locale", 'R', 0xff00838f },
+    { "View7ItemIdentifier", QT_TRANSLATE_NOOP("QVPreferencePanel", "Clients"),
+        QT_TRANSLATE_NOOP("QVPreferencePanel", "Clients"), "system-users", 'K', 0xff4e342e },
+    { "View9ItemIdentifier", QT_TRANSLATE_NOOP("QVPreferencePanel", "Data"),
+        QT_TRANSLATE_NOOP("QVPreferencePanel", "Data"), "drive-harddisk", 'S', 0xff455a64 },
+} };
 
 // A field with the line that explains a refusal under it.
 QWidget *withHint(PrefsBinder *binder, QWidget *field)
@@ -365,10 +373,12 @@ QWidget *QVPreferencePanel::createTemplatePane()
         const char *title;
         P::Key conditions, footer, misc;
     };
-    const std::array<Texts, 4> kinds {{{"Invoice", P::tempInvConditions, P::tempInvFooter, P::tempInvMisc},
-                                       {"Quote", P::tempQuotConditions, P::tempQuotFooter, P::tempQuotMisc},
-                                       {"Reminder", P::tempRemConditions, P::tempRemFooter, P::tempRemMisc},
-                                       {"Slip", P::tempSlipConditions, P::tempSlipFooter, P::tempSlipMisc}}};
+    const std::array<Texts, 4> kinds { { { QT_TRANSLATE_NOOP("QVPreferencePanel", "Invoice"), P::tempInvConditions,
+                                             P::tempInvFooter, P::tempInvMisc },
+        { QT_TRANSLATE_NOOP("QVPreferencePanel", "Quote"), P::tempQuotConditions, P::tempQuotFooter, P::tempQuotMisc },
+        { QT_TRANSLATE_NOOP("QVPreferencePanel", "Reminder"), P::tempRemConditions, P::tempRemFooter, P::tempRemMisc },
+        { QT_TRANSLATE_NOOP("QVPreferencePanel", "Slip"), P::tempSlipConditions, P::tempSlipFooter,
+            P::tempSlipMisc } } };
     for (const Texts &kind : kinds) {
         auto *page = new QWidget;
         QFormLayout *form = newForm(page);

@@ -11,7 +11,15 @@
 #include <QPushButton>
 #include <QUrl>
 
+#include <QCoreApplication>
 #include <algorithm>
+
+namespace {
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(GuiInteraction)
+};
+} // namespace
 
 namespace tabo {
 
@@ -139,14 +147,14 @@ int GuiInteraction::ask(const QString &title, const QString &text, const QString
     box.setWindowTitle(QGuiApplication::applicationDisplayName());
     box.setText(title);
     box.setInformativeText(text);
-    const QStringList labels = buttons.isEmpty() ? QStringList { QStringLiteral("OK") } : buttons;
+    const QStringList labels = buttons.isEmpty() ? QStringList { Tr::tr("OK") } : buttons;
     // The action role is never reordered by any platform's button layout, so
     // the buttons stand in the order the command gave them.
     QList<QPushButton *> added;
     for (const QString &label : labels)
         added << box.addButton(label, QMessageBox::ActionRole);
     box.setDefaultButton(added.value(defaultButton, added.first()));
-    const qsizetype cancel = labels.indexOf(QStringLiteral("Cancel"));
+    const qsizetype cancel = labels.indexOf(Tr::tr("Cancel"));
     if (cancel >= 0)
         box.setEscapeButton(added.at(cancel));
     else if (added.size() == 1)
