@@ -45,4 +45,10 @@ completion=$share/bash-completion/completions/tabo-cli
 bash -n "$completion"
 words=$(PATH="$prefix/bin:$PATH" bash -c "source '$completion'; COMP_WORDS=(tabo-cli ren); COMP_CWORD=1; _tabo_cli; echo \"\${COMPREPLY[*]}\"")
 [ "$words" = "render" ] || fail "completion of 'tabo-cli ren' gave '$words'"
+# The installed program finds its translations beside it in share/tabo.
+for lang in de fr es; do
+  [ -f "$share/tabo/translations/tabo_$lang.qm" ] || fail "translation $lang is missing"
+done
+msg=$(LANGUAGE=de "$prefix/bin/tabo-cli" frobnicate 2>&1 >/dev/null || true)
+[[ $msg == *"Unbekannter Befehl"* ]] || fail "the installed tabo-cli does not speak German: $msg"
 echo "install tree: ok"

@@ -14,12 +14,12 @@ QStringList translationFolders()
     return { binDir + QStringLiteral("/translations"), binDir + QStringLiteral("/../share/tabo/translations") };
 }
 
-QString installTranslations(QCoreApplication &application)
+QString installTranslations(QCoreApplication &application, const QStringList &folders)
 {
     const QLocale locale;
     QString loaded;
     auto *own = new QTranslator(&application);
-    for (const QString &folder : translationFolders()) {
+    for (const QString &folder : folders) {
         if (own->load(locale, QStringLiteral("tabo"), QStringLiteral("_"), folder)) {
             application.installTranslator(own);
             loaded = own->filePath();

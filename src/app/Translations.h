@@ -14,6 +14,6 @@ QStringList translationFolders();
 // LC_MESSAGES, LANG) and Qt's own for its standard dialogs. A missing file
 // leaves the interface in English. Returns the loaded translation's file, or
 // an empty string.
-QString installTranslations(QCoreApplication &application);
+QString installTranslations(QCoreApplication &application, const QStringList &folders = translationFolders());
 
 } // namespace tabo

@@ -35,6 +35,13 @@ run 0 --help
 grep -q "add-item ID KEY=VALUE" <<<"$OUT" || bad "help lists add-item"
 run 2
 run 2 frobnicate
+# Messages follow the person's language; one nobody translated stays English.
+LANGUAGE=de run 2 frobnicate
+grep -q "Unbekannter Befehl" "$T/err" || bad "German message: $(<"$T/err")"
+LANGUAGE=fr run 2 frobnicate
+grep -q "Commande inconnue" "$T/err" || bad "French message: $(<"$T/err")"
+LANGUAGE=xx run 2 frobnicate
+grep -q "Unknown command" "$T/err" || bad "English fallback: $(<"$T/err")"
 run 2 list --bogus
 run 2 list --filter soon
 run 2 set only-an-id

@@ -1,5 +1,7 @@
 #include "WindowFixture.h"
 
+#include "app/Translations.h"
+
 #include "gui/main/MainWindow.h"
 #include "gui/preferences/FirstStartAssistant.h"
 #include "gui/preferences/PreferencePanel.h"
@@ -28,6 +30,7 @@ class TestWindowFit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void everyWindowFitsTheScreen();
     void everyShortcutIsBoundOnce();
 };
@@ -53,6 +56,13 @@ QString misfit(QWidget *window)
 }
 
 } // namespace
+
+// CTest runs one screen in German, whose words are the longest of the
+// translations.
+void TestWindowFit::initTestCase()
+{
+    installTranslations(*QCoreApplication::instance(), {QStringLiteral(TABO_TRANSLATIONS_DIR)});
+}
 
 void TestWindowFit::everyWindowFitsTheScreen()
 {
