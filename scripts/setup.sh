@@ -14,7 +14,7 @@ packages=(
   libsaxonhe-java default-jre-headless libqrencode-dev zbar-tools qpdf
   xvfb xauth
   librsvg2-bin desktop-file-utils appstream shared-mime-info libxml2-utils man-db
-  qt6-l10n-tools qt6-translations-l10n
+  qt6-l10n-tools qt6-translations-l10n libglib2.0-bin
 )
 # Further packages a caller needs (the benchmark's comparison programs).
 read -r -a extra <<< "${TABO_EXTRA_PACKAGES:-}"

@@ -1,6 +1,9 @@
 #include "CommandSupport.h"
 
 #include "app/AppController.h"
+#include "app/BackupCommands.h"
+#include "app/DesignLibrary.h"
+#include "app/FileCommands.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 #include "store/Store.h"
@@ -39,7 +42,7 @@ private Q_SLOTS:
     void quitDecisions();
     void movesStoreToCustomFolder();
     void newDocumentsAndFilterTag();
-    void refusesFilesFromOutside();
+    void opensFilesFromOutside();
 };
 
 void TestAppController::startUpOnFreshInstallation()
@@ -272,12 +275,56 @@ void TestAppController::newDocumentsAndFilterTag()
     Clock::setInstance(nullptr);
 }
 
-void TestAppController::refusesFilesFromOutside()
+void TestAppController::opensFilesFromOutside()
 {
     Fixture f;
-    QVERIFY(!f.app.openFileFromOutside(QStringLiteral("/tmp/x.tabo")));
+    const auto file = [&f](const char *name) -> QString { return f.home.path() + QLatin1Char('/') + QLatin1String(name); };
+    Record *invoice = f.app.addInvoice();
+    QVERIFY(invoice);
+    QVERIFY(!f.app.files().writeInvoiceFile(*invoice, 0, file("doc.tabo")));
+    QVERIFY(!f.app.backups().writeInvoiceBackup(file("docs.taboinvoices")));
+    QVERIFY(!f.app.files().writeInvoiceDump(file("all.invdump")));
+    Record *design = f.app.designs().addDesign();
+    QVERIFY(design);
+    QVERIFY(!f.app.designs().exportDesignFile(design, file("look.design")));
+    const qsizetype designs = f.app.designs().designs().size();
+    const auto documents = [&f] { return f.app.documentList().all().size(); };
+
+    // A document asks first; declined, nothing is imported, and no panel opens.
+    f.ui.answers = {1};
+    QVERIFY(!f.app.openFileFromOutside(file("doc.tabo")));
+    QCOMPARE(documents(), 1);
+    QVERIFY(f.ui.fileRequests.isEmpty());
+    QVERIFY(f.app.openFileFromOutside(file("doc.tabo")));
+    QCOMPARE(documents(), 2);
+    QCOMPARE(f.ui.alerts.last().buttons.first(), QStringLiteral("Import…"));
+
+    QVERIFY(f.app.openFileFromOutside(file("look.design")));
+    QCOMPARE(f.app.designs().designs().size(), designs + 1);
+
+    // A backup warns and restores: the one document it holds comes back.
+    QVERIFY(f.app.openFileFromOutside(file("docs.taboinvoices")));
+    QVERIFY(f.ui.alerts.last().text.startsWith(QStringLiteral("You are about to restore your Tabo invoices")));
+    QCOMPARE(documents(), 1);
+    QVERIFY(f.ui.fileRequests.isEmpty());
+
+    // Known names with the wrong content, a dump and a stranger: a message, nothing taken in.
+    QFile bad(file("fake.tabo"));
+    QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write("plain text, not an archive") > 0);
+    bad.close();
+    QVERIFY(!f.app.openFileFromOutside(file("fake.tabo")));
+    QVERIFY(f.ui.lastAlertText().contains(QStringLiteral("fake.tabo")));
+    QVERIFY(!f.app.openFileFromOutside(file("all.invdump")));
+    QVERIFY(f.ui.lastAlertText().endsWith(QStringLiteral("It is an invoice dump, which no restore reads.")));
+    QVERIFY(!f.app.openFileFromOutside(f.home.path() + QStringLiteral("/notes.txt")));
     QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Tabo, Tabo Documents, and the Tabo Database"));
-    QVERIFY(f.ui.lastAlertText().startsWith(QStringLiteral("In order to avoid duplicate entries, hiccups")));
+    QCOMPARE(documents(), 1);
+    QCOMPARE(f.app.designs().designs().size(), designs + 1);
+    QVERIFY(f.ui.fileRequests.isEmpty());
+
+    QCOMPARE(AppController::kindOfFile(file("backup.tabo2db")), AppController::OutsideFile::DatabaseBackup);
+    QCOMPARE(AppController::kindOfFile(file("x.taboitems")), AppController::OutsideFile::ItemBackup);
+    QCOMPARE(AppController::kindOfFile(file("received.XML")), AppController::OutsideFile::EInvoice);
 }
 
 QTEST_GUILESS_MAIN(TestAppController)

@@ -20,11 +20,34 @@ appstreamcli validate --no-net "$share/metainfo/org.tabo.Tabo.metainfo.xml" >/de
   || appstreamcli validate --no-net "$share/metainfo/org.tabo.Tabo.metainfo.xml"
 
 mime=$share/mime/packages/tabo.xml
-xmllint --noout "$mime"
+xmllint --noout --schema "$(dirname "$0")/mime/shared-mime-info.xsd" "$mime"
 update-mime-database "$share/mime" 2>/dev/null
 for type in document design invoice-backup item-backup database-backup invoice-dump; do
   grep -q "application/x-tabo-$type" "$share/mime/types" || fail "MIME type x-tabo-$type was not taken in"
 done
+
+# Files the programs wrote are recognised by the desktop's own lookup
+# (xdg-mime asks gio on a GNOME desktop), from the installed definitions only.
+home=$prefix/home
+mkdir -p "$home"
+cli() { HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data "$prefix/bin/tabo-cli" "$@"; }
+cli prefs install-language 0 >/dev/null
+id=$(cli new invoice)
+cli export "$id" --tabo "$home/written.tabo"
+cli design export Classic "$home/written.design"
+backup=$(cli backup database "$home/written.mbdb")
+query() { XDG_CURRENT_DESKTOP=GNOME XDG_DATA_HOME=$share XDG_DATA_DIRS=/usr/share xdg-mime query filetype "$1"; }
+for pair in written.tabo:application/x-tabo-document written.design:application/x-tabo-design \
+    written.tabo2db:application/x-tabo-database-backup; do
+  got=$(query "$home/${pair%%:*}")
+  [ "$got" = "${pair#*:}" ] || fail "xdg-mime calls ${pair%%:*} '$got', wanted ${pair#*:}"
+done
+# E-invoices are known by their content when the name says nothing (an
+# ".xml" name stays plain XML on desktops that trust the name first).
+printf '<?xml version="1.0"?>\n<rsm:CrossIndustryInvoice xmlns:rsm="urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100"/>\n' >"$home/cii-invoice"
+printf '<?xml version="1.0"?>\n<Invoice xmlns="urn:oasis:names:specification:ubl:schema:xsd:Invoice-2"/>\n' >"$home/ubl-invoice"
+[ "$(query "$home/cii-invoice")" = application/x-cii-invoice+xml ] || fail "a CII e-invoice is $(query "$home/cii-invoice")"
+[ "$(query "$home/ubl-invoice")" = application/x-ubl-invoice+xml ] || fail "a UBL e-invoice is $(query "$home/ubl-invoice")"
 
 [ -f "$share/icons/hicolor/scalable/apps/tabo.svg" ] || fail "the scalable icon is missing"
 for px in 16 22 24 32 48 64 128 256 512; do

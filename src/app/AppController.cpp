@@ -29,6 +29,8 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QHash>
+#include <QMimeDatabase>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -666,8 +668,64 @@ void AppController::restartApp()
         { Tr::tr("OK") });
 }
 
-bool AppController::openFileFromOutside(const QString &)
+AppController::OutsideFile AppController::kindOfFile(const QString &path)
 {
+    // The installed file types know the content too; without them (a build
+    // tree, another desktop) the name decides.
+    static const QHash<QString, OutsideFile> byType {
+        {QStringLiteral("application/x-tabo-document"), OutsideFile::Document},
+        {QStringLiteral("application/x-tabo-design"), OutsideFile::Design},
+        {QStringLiteral("application/x-tabo-database-backup"), OutsideFile::DatabaseBackup},
+        {QStringLiteral("application/x-tabo-invoice-backup"), OutsideFile::InvoiceBackup},
+        {QStringLiteral("application/x-tabo-item-backup"), OutsideFile::ItemBackup},
+        {QStringLiteral("application/x-tabo-invoice-dump"), OutsideFile::InvoiceDump},
+        {QStringLiteral("application/x-cii-invoice+xml"), OutsideFile::EInvoice},
+        {QStringLiteral("application/x-ubl-invoice+xml"), OutsideFile::EInvoice},
+    };
+    static const QHash<QString, OutsideFile> bySuffix {
+        {QStringLiteral("tabo"), OutsideFile::Document},
+        {QStringLiteral("design"), OutsideFile::Design},
+        {QStringLiteral("tabo2db"), OutsideFile::DatabaseBackup},
+        {QStringLiteral("taboinvoices"), OutsideFile::InvoiceBackup},
+        {QStringLiteral("taboitems"), OutsideFile::ItemBackup},
+        {QStringLiteral("invdump"), OutsideFile::InvoiceDump},
+        {QStringLiteral("xml"), OutsideFile::EInvoice},
+        {QStringLiteral("pdf"), OutsideFile::EInvoice},
+    };
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(path);
+    if (const auto known = byType.constFind(type.name()); known != byType.cend())
+        return *known;
+    return bySuffix.value(QFileInfo(path).suffix().toLower(), OutsideFile::Unknown);
+}
+
+bool AppController::openFileFromOutside(const QString &path)
+{
+    switch (kindOfFile(path)) {
+    case OutsideFile::Document:
+        return m_files->importInvoice(path) != nullptr;
+    case OutsideFile::Design:
+        return m_designs->importDesign(path) != nullptr;
+    case OutsideFile::DatabaseBackup:
+        return m_backups->restoreCompleteTaboData(path);
+    case OutsideFile::InvoiceBackup:
+        return m_backups->restoreTaboData(path);
+    case OutsideFile::ItemBackup:
+        return m_backups->restoreItems(path);
+    case OutsideFile::InvoiceDump:
+        m_ui.alert(Tr::tr("Error!"),
+            Tr::tr("Nothing was imported from “%1”.").arg(QFileInfo(path).fileName()) + QLatin1Char(' ')
+                + Tr::tr("It is an invoice dump, which no restore reads."),
+            { Tr::tr("OK") });
+        return false;
+    case OutsideFile::EInvoice: {
+        const QString pdf = m_einvoices->viewReceived(path);
+        if (!pdf.isEmpty())
+            Q_EMIT receivedEInvoiceReady(pdf);
+        return !pdf.isEmpty();
+    }
+    case OutsideFile::Unknown:
+        break;
+    }
     m_ui.alert(Tr::tr("Tabo, Tabo Documents, and the Tabo Database"),
         Tr::tr("In order to avoid duplicate entries, hiccups, and to keep the database intact - "
                "please use the 'File Menu' to open documents and to restore the Tabo database."),

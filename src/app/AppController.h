@@ -138,7 +138,14 @@ public:
     QString pdfEmailPath() const override;
     void createBackupPath();
     QString automaticBackupFile() override;
-    // Files handed to us from outside are refused: always false.
+    // A file handed over by the desktop or `tabo FILE`, told by its type:
+    // a document is imported and a design added after the usual question,
+    // a backup restored after its warning, an e-invoice shown
+    // (receivedEInvoiceReady). Other files are refused with a hint to the
+    // File menu. True when the file was taken in.
+    enum class OutsideFile { Document, Design, DatabaseBackup, InvoiceBackup, ItemBackup, InvoiceDump, EInvoice,
+                             Unknown };
+    static OutsideFile kindOfFile(const QString &path);
     bool openFileFromOutside(const QString &path);
 
     // ---- Document list, filter and summary ----
@@ -237,6 +244,8 @@ public:
 
 Q_SIGNALS:
     void storeOpened();
+    // The readable page (a PDF) of a received e-invoice opened from outside.
+    void receivedEInvoiceReady(const QString &pdf);
     void listChanged();
     void summaryChanged();
     void filterImageChanged(bool glowing);

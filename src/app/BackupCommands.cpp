@@ -135,6 +135,21 @@ QString fileKind(const QString &path, const QVariant &root)
 
 // The store a backup is taken of, when it passes its check: a copy of a
 // damaged store would replace the one good copy the person is told to restore.
+
+namespace {
+
+// The file a restore works on: the one handed over (opened from outside),
+// else the one the person picks in the open panel.
+QString askForFile(Interaction &ui, const QString &title, const QString &extension)
+{
+    Interaction::FileRequest request;
+    request.title = title;
+    request.extensions = {extension};
+    return ui.openFile(request);
+}
+
+} // namespace
+
 Result<Store *> BackupCommands::checkedStore()
 {
     Store *store = m_access.store();
@@ -278,7 +293,7 @@ Error BackupCommands::writeCompleteBackup(const QString &chosenPath)
     return StoreFile::writeCopy(*store, target);
 }
 
-bool BackupCommands::restoreCompleteTaboData()
+bool BackupCommands::restoreCompleteTaboData(const QString &given)
 {
     const int answer = m_ui.alert(kWarning(),
         Tr::tr("You are about to restore your entire Tabo database from a backup. This will irretrievably "
@@ -286,10 +301,7 @@ bool BackupCommands::restoreCompleteTaboData()
         { kRestore(), kCancel() });
     if (answer != 0)
         return false;
-    Interaction::FileRequest request;
-    request.title = Tr::tr("Restore Tabo 2 Database");
-    request.extensions = {QStringLiteral("tabo2db")};
-    const QString path = m_ui.openFile(request);
+    const QString path = given.isEmpty() ? askForFile(m_ui, Tr::tr("Restore Tabo 2 Database"), QStringLiteral("tabo2db")) : given;
     if (path.isEmpty())
         return false;
     return !restoreCompleteBackup(path);
@@ -349,7 +361,7 @@ bool BackupCommands::backupTaboData()
     return !writeInvoiceBackup(path);
 }
 
-bool BackupCommands::restoreTaboData()
+bool BackupCommands::restoreTaboData(const QString &given)
 {
     const int answer = m_ui.alert(kWarning(),
         Tr::tr("You are about to restore your Tabo invoices from a backup. This will irretrievably replace "
@@ -357,10 +369,7 @@ bool BackupCommands::restoreTaboData()
         { kRestore(), kCancel() });
     if (answer != 0)
         return false;
-    Interaction::FileRequest request;
-    request.title = Tr::tr("Restore Tabo Invoices");
-    request.extensions = {QStringLiteral("taboinvoices")};
-    const QString path = m_ui.openFile(request);
+    const QString path = given.isEmpty() ? askForFile(m_ui, Tr::tr("Restore Tabo Invoices"), QStringLiteral("taboinvoices")) : given;
     if (path.isEmpty())
         return false;
     return !restoreInvoiceBackup(path);
@@ -380,7 +389,7 @@ bool BackupCommands::backupItems()
     return !writeItemBackup(path);
 }
 
-bool BackupCommands::restoreItems()
+bool BackupCommands::restoreItems(const QString &given)
 {
     const int answer = m_ui.alert(kWarning(),
         Tr::tr("You are about to restore your Tabo items from a backup. This will irretrievably replace any "
@@ -388,10 +397,7 @@ bool BackupCommands::restoreItems()
         { kRestore(), kCancel() });
     if (answer != 0)
         return false;
-    Interaction::FileRequest request;
-    request.title = Tr::tr("Restore Tabo Items");
-    request.extensions = {QStringLiteral("taboitems")};
-    const QString path = m_ui.openFile(request);
+    const QString path = given.isEmpty() ? askForFile(m_ui, Tr::tr("Restore Tabo Items"), QStringLiteral("taboitems")) : given;
     if (path.isEmpty())
         return false;
     return !restoreItemBackup(path);

@@ -32,11 +32,12 @@ public:
     }
 
     bool backupCompleteTaboData();   // save panel, then writeCompleteBackup
-    bool restoreCompleteTaboData();  // warning, open panel, then restoreCompleteBackup
+    // A restore warns, then takes `given` or asks with the open panel.
+    bool restoreCompleteTaboData(const QString &given = {});  // then restoreCompleteBackup
     bool backupTaboData();           // documents → "taboinvoices"
-    bool restoreTaboData();
+    bool restoreTaboData(const QString &given = {});
     bool backupItems();              // catalogue → "taboitems"
-    bool restoreItems();
+    bool restoreItems(const QString &given = {});
 
     // The work behind the panels, also used by the command line. `chosenPath`
     // is the ".mbdb" name the person chose; the lasting copy is the

@@ -186,15 +186,18 @@ void DesignLibrary::makeDefaultDesign(Record *design)
     m_store.save();
 }
 
-Record *DesignLibrary::importDesign()
+Record *DesignLibrary::importDesign(const QString &given)
 {
     if (!m_store.store())
         return nullptr; // the missing store has been reported already
-    Interaction::FileRequest request;
-    request.title = Tr::tr("Import Tabo Design");
-    request.extensions = {kExtension};
-    request.chooseFolders = false;
-    const QString path = m_ui.openFile(request);
+    QString path = given;
+    if (path.isEmpty()) {
+        Interaction::FileRequest request;
+        request.title = Tr::tr("Import Tabo Design");
+        request.extensions = {kExtension};
+        request.chooseFolders = false;
+        path = m_ui.openFile(request);
+    }
     if (path.isEmpty())
         return nullptr;
     const Result<Record *> design = importDesignFile(path);

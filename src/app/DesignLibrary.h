@@ -47,9 +47,9 @@ public:
     bool deleteDesign(Record *design);
     // `makeDefaultDesign` the only default.
     void makeDefaultDesign(Record *design);
-    // `importDesign` through the "Import Tabo Design" open panel; nullptr
+    // `importDesign` of `given`, or through the "Import Tabo Design" open panel; nullptr
     // when cancelled or unreadable. Keeps the file's `uniqueID` and `title`.
-    Record *importDesign();
+    Record *importDesign(const QString &given = {});
     Result<Record *> importDesignFile(const QString &path);
     // `exportDesign` through the "Export Tabo Design" save panel.
     bool exportDesign(const Record *design);

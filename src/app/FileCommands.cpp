@@ -150,7 +150,7 @@ Error FileCommands::writeInvoiceDump(const QString &path)
     return writeArchive(path, root);
 }
 
-Record *FileCommands::importInvoice()
+Record *FileCommands::importInvoice(const QString &given)
 {
     Interaction &ui = m_ui;
     const int answer = ui.alert(Tr::tr("Warning!"),
@@ -161,10 +161,13 @@ Record *FileCommands::importInvoice()
         { Tr::tr("Import…"), Tr::tr("Cancel") });
     if (answer != 0)
         return nullptr;
-    Interaction::FileRequest request;
-    request.title = Tr::tr("Import Tabo Document");
-    request.extensions = {QStringLiteral("tabo")};
-    const QString path = ui.openFile(request);
+    QString path = given;
+    if (path.isEmpty()) {
+        Interaction::FileRequest request;
+        request.title = Tr::tr("Import Tabo Document");
+        request.extensions = {QStringLiteral("tabo")};
+        path = ui.openFile(request);
+    }
     if (path.isEmpty())
         return nullptr;
     Record *invoice = importInvoiceFile(path).value();

@@ -43,10 +43,10 @@ public:
     Error writeItemsXml(bool arrangedOnly, const QString &path);
     Error writeInvoiceDump(const QString &path);
 
-    // importInvoice: the warning, the open panel, the new document (selected,
+    // importInvoice: the warning, `given` or the open panel, the new document (selected,
     // saved). nullptr when cancelled or when the file holds no document (then
     // with a message).
-    Record *importInvoice();
+    Record *importInvoice(const QString &given = {});
     Result<Record *> importInvoiceFile(const QString &path);
 
 private:

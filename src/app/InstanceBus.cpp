@@ -1,5 +1,7 @@
 #include "app/InstanceBus.h"
 
+#include <QFileInfo>
+
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -48,6 +50,20 @@ bool InstanceBus::forwardActivate()
 bool InstanceBus::forwardNewDocument(bool invoice)
 {
     return forward(QStringLiteral("NewDocument"), {invoice});
+}
+
+bool InstanceBus::forwardOpen(const QStringList &paths)
+{
+    // The running window has another working folder.
+    QStringList absolute;
+    for (const QString &path : paths)
+        absolute << QFileInfo(path).absoluteFilePath();
+    return forward(QStringLiteral("Open"), {absolute});
+}
+
+void InstanceBus::Open(const QStringList &paths)
+{
+    Q_EMIT openRequested(paths);
 }
 
 void InstanceBus::ShowInvoice(const QString &uniqueID)

@@ -32,7 +32,7 @@ int RestoreCommand::execute(const QStringList &args)
         return code;
     const QStringList pos = parser.positionalArguments();
     const QString &what = pos.constFirst();
-    bool (BackupCommands::*restore)() = nullptr;
+    bool (BackupCommands::*restore)(const QString &) = nullptr;
     if (what == QLatin1String("database"))
         restore = &BackupCommands::restoreCompleteTaboData;
     else if (what == QLatin1String("invoices"))
@@ -49,11 +49,9 @@ int RestoreCommand::execute(const QStringList &args)
         return kExitFailure;
     if (!restore)
         return restoreAutomaticBackup();
-    // The application's own command: its warning, then FILE as the open
-    // panel's answer.
-    ui.setPanelPath(pos.at(1));
+    // The application's own command: its warning, then FILE.
     const int shown = ui.messagesShown();
-    if ((m_session.controller().backups().*restore)())
+    if ((m_session.controller().backups().*restore)(pos.at(1)))
         return kExitOk;
     if (ui.messagesShown() == shown)
         return failure(Tr::tr("Nothing was restored from “%1”.").arg(pos.at(1)));

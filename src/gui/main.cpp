@@ -149,7 +149,7 @@ int main(int argc, char **argv)
     const QCommandLineOption newQuote(QStringLiteral("new-quote"), Tr::tr("Start with a new quote."));
     parser.addOption(newInvoice);
     parser.addOption(newQuote);
-    parser.addPositionalArgument(QStringLiteral("files"), Tr::tr("Refused: open documents from the File menu."));
+    parser.addPositionalArgument(QStringLiteral("files"), Tr::tr("Documents, designs, backups or e-invoices to open."));
     parser.process(application);
     QGuiApplication::setDesktopFileName(DBusNotifier::kDesktopEntry);
     const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
@@ -163,6 +163,9 @@ int main(int argc, char **argv)
             return 0;
     } else if (newDocument) {
         if (InstanceBus::forwardNewDocument(parser.isSet(newInvoice)))
+            return 0;
+    } else if (!parser.positionalArguments().isEmpty()) {
+        if (InstanceBus::forwardOpen(parser.positionalArguments()))
             return 0;
     } else if (!grabbing && InstanceBus::forwardActivate()) {
         return 0;
@@ -223,9 +226,10 @@ int main(int argc, char **argv)
         QTimer::singleShot(0, &controller, [&controller, id] { controller.notifications().didActivateNotification(id); });
     }
 
+    // After the first-start assistant, should it be open.
     const QStringList files = parser.positionalArguments();
-    for (const QString &file : files)
-        QTimer::singleShot(0, &controller, [&controller, file] { controller.openFileFromOutside(file); });
+    if (!files.isEmpty())
+        window.whenFree([&window, files] { window.openFiles(files); });
 
     if (parser.isSet(screenshotSearch))
         window.searchField()->setText(parser.value(screenshotSearch));

@@ -155,6 +155,17 @@ void TestFileMenu::receivedEInvoiceIsShownNotStored()
     QCOMPARE(f.app.documentList().all().size(), before);
     shown->close();
 
+    // Handed over by the desktop (`tabo FILE`): the same view, without a panel.
+    QVERIFY(f.app.openFileFromOutside(example));
+    QWidget *again = nullptr;
+    for (QWidget *w : QApplication::topLevelWidgets())
+        if (w->isVisible() && w->objectName() == QLatin1String("receivedEInvoiceWindow"))
+            again = w;
+    QVERIFY(again && again != shown);
+    QTRY_VERIFY(again->findChild<PdfPane *>()->pageCount() >= 1);
+    QCOMPARE(f.app.documentList().all().size(), before);
+    again->close();
+
     // Not an e-invoice: said, nothing shown.
     GuiInteraction::setNextFileName(QStringLiteral(TABO_SOURCE_DIR "/README.md"));
     GuiInteraction::setNextAnswer(0);

@@ -1,11 +1,13 @@
 #include "WindowFixture.h"
 
+#include "app/FileCommands.h"
 #include "app/InstanceBus.h"
 #include "domain/DocumentList.h"
 #include "domain/Record.h"
 #include "gui/main/MainWindow.h"
 
 #include <QDialog>
+#include <QDir>
 #include <QProcess>
 #include <QtTest>
 
@@ -25,9 +27,10 @@ namespace {
 
 // The real program, as a desktop action starts it; its exit code. This
 // process keeps handling events meanwhile: it is the one that answers.
-int startTabo(const QStringList &arguments)
+int startTabo(const QStringList &arguments, const QString &folder = {})
 {
     QProcess tabo;
+    tabo.setWorkingDirectory(folder);
     QEventLoop loop;
     QObject::connect(&tabo, &QProcess::finished, &loop, &QEventLoop::quit);
     QTimer::singleShot(20000, &loop, &QEventLoop::quit);
@@ -74,11 +77,21 @@ void TestSingleWindow::secondStartsHandOver()
     QTRY_COMPARE(documents(), 2);
     QCOMPARE(f.app.currentInvoice()->integer(Invoice::kind), 0);
 
+    // `tabo FILE` from another folder: the running window asks, then imports.
+    Record *written = f.app.currentInvoice();
+    const QString folder = f.home.path() + QStringLiteral("/Downloads");
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(!f.app.files().writeInvoiceFile(*written, 0, folder + QStringLiteral("/sent to me.tabo")));
+    GuiInteraction::setNextAnswer(0);
+    QCOMPARE(startTabo({QStringLiteral("sent to me.tabo")}, folder), 0);
+    QTRY_COMPARE(documents(), 3);
+    QVERIFY(GuiInteraction::lastAlertText().startsWith(QStringLiteral("The integrity of your data")));
+
     // A plain second start only brings this window forward.
     f.window->showMinimized();
     QCOMPARE(startTabo({}), 0);
     QTRY_VERIFY(!f.window->isMinimized());
-    QCOMPARE(documents(), 2);
+    QCOMPARE(documents(), 3);
 }
 
 QTEST_MAIN(TestSingleWindow)

@@ -8,6 +8,7 @@
 #include "gui/windows/AccountingExportSheet.h"
 #include "gui/editor/DocumentEditor.h"
 #include "gui/windows/PdfPane.h"
+#include "gui/widgets/ScreenFit.h"
 #include "prefs/Preferences.h"
 
 #include <QAction>
@@ -42,6 +43,7 @@ FileMenu::FileMenu(AppController &app, DocumentEditor *editor, QWidget *window)
 
     FileCommands &files = m_app.files();
     BackupCommands &backups = m_app.backups();
+    connect(&m_app, &AppController::receivedEInvoiceReady, this, &FileMenu::showReceived);
     connect(m_exportDocument, &QAction::triggered, this,
         [this, &files] { files.exportInvoice(int(m_app.prefs().integer(Preferences::exportFormat))); });
     connect(m_exportShown, &QAction::triggered, this, [&files] { files.exportItems(); });
@@ -80,22 +82,7 @@ void FileMenu::populate(QMenu *menu, QAction *quit)
     menu->addSeparator();
     auto *received = menu->addAction(tr("Open E-Invoice…"));
     received->setObjectName(QStringLiteral("actionOpenEInvoice"));
-    connect(received, &QAction::triggered, this, [this] {
-        const QString pdf = m_app.einvoices().openReceived();
-        if (pdf.isEmpty())
-            return;
-        auto *window = new QWidget(m_window, Qt::Window);
-        window->setAttribute(Qt::WA_DeleteOnClose);
-        window->setWindowTitle(tr("Received E-Invoice"));
-        auto *pane = new PdfPane(window);
-        auto *layout = new QVBoxLayout(window);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(pane);
-        pane->load(pdf);
-        pane->fitToWidth();
-        window->resize(760, 900);
-        window->show();
-    });
+    connect(received, &QAction::triggered, this, [this] { showReceived(m_app.einvoices().openReceived()); });
     menu->addSeparator();
     menu->addActions({ m_backupDatabase, m_restoreDatabase, m_backupDocuments, m_restoreDocuments,
         m_backupCatalogue, m_restoreCatalogue, m_restoreAutomatic });
@@ -141,6 +128,24 @@ QList<QAction *> FileMenu::backupActions() const
 {
     return {m_backupDatabase, m_restoreDatabase, m_backupDocuments, m_restoreDocuments, m_backupCatalogue,
             m_restoreCatalogue, m_restoreAutomatic};
+}
+
+void FileMenu::showReceived(const QString &pdf)
+{
+    if (pdf.isEmpty())
+        return;
+    auto *window = new QWidget(m_window, Qt::Window);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setObjectName(QStringLiteral("receivedEInvoiceWindow"));
+    window->setWindowTitle(tr("Received E-Invoice"));
+    auto *pane = new PdfPane(window);
+    auto *layout = new QVBoxLayout(window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(pane);
+    pane->load(pdf);
+    pane->fitToWidth();
+    ScreenFit::resize(window, QSize(760, 900));
+    window->show();
 }
 
 } // namespace tabo

@@ -35,6 +35,8 @@ public:
     AccountingExportSheet *accountingSheet();
 
     void update();
+    // The readable page of a received e-invoice, in a window of its own.
+    void showReceived(const QString &pdf);
 
 private:
     QAction *create(const QString &text, const char *name);
