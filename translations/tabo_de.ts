@@ -380,6 +380,14 @@ Ihre Änderungen behalten und die anderen überschreiben, oder die gespeicherte 
         <source>Keep Due Date</source>
         <translation>Fälligkeit behalten</translation>
     </message>
+    <message>
+        <source>Nothing was imported from “%1”.</source>
+        <translation>Aus “%1” wurde nichts importiert.</translation>
+    </message>
+    <message>
+        <source>It is an invoice dump, which no restore reads.</source>
+        <translation>Sie ist ein Rechnungs-Dump, den keine Wiederherstellung liest.</translation>
+    </message>
 </context>
 <context>
     <name>AttributeText</name>
@@ -3312,10 +3320,6 @@ Deutschland</translation>
         <translation>Mit einem neuen Angebot beginnen.</translation>
     </message>
     <message>
-        <source>Refused: open documents from the File menu.</source>
-        <translation>Abgelehnt: Öffnen Sie Dokumente über das Menü “Datei”.</translation>
-    </message>
-    <message>
         <source>Error!</source>
         <translation>Fehler!</translation>
     </message>
@@ -3330,6 +3334,45 @@ Deutschland</translation>
     <message>
         <source>Commands:</source>
         <translation>Befehle:</translation>
+    </message>
+    <message>
+        <source>Documents, designs, backups or e-invoices to open.</source>
+        <translation>Zu öffnende Dokumente, Designs, Sicherungen oder E-Rechnungen.</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::AboutDialog</name>
+    <message>
+        <source>About Tabo</source>
+        <translation>Über Tabo</translation>
+    </message>
+    <message>
+        <source>Tabo icon</source>
+        <translation>Tabo-Symbol</translation>
+    </message>
+    <message>
+        <source>Invoices and quotes for freelancers and small businesses.</source>
+        <translation>Rechnungen und Angebote für Selbstständige und kleine Unternehmen.</translation>
+    </message>
+    <message>
+        <source>Licence: proprietary; all rights reserved.</source>
+        <translation>Lizenz: proprietär; alle Rechte vorbehalten.</translation>
+    </message>
+    <message>
+        <source>Built with</source>
+        <translation>Erstellt mit</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>Bibliothek</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation>Bibliotheken</translation>
     </message>
 </context>
 <context>
@@ -3520,6 +3563,10 @@ Deutschland</translation>
         <source>Delete</source>
         <translation>Löschen</translation>
     </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
 </context>
 <context>
     <name>tabo::ClientPage</name>
@@ -3567,6 +3614,10 @@ Deutschland</translation>
         <source>Subject:</source>
         <translation>Betreff:</translation>
     </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
 </context>
 <context>
     <name>tabo::ContactsTab</name>
@@ -3581,6 +3632,10 @@ Deutschland</translation>
     <message>
         <source>Choose vCard File…</source>
         <translation>vCard-Datei wählen…</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Kontakte</translation>
     </message>
 </context>
 <context>
@@ -3648,6 +3703,10 @@ Deutschland</translation>
         <source>Untitled</source>
         <translation>Ohne Titel</translation>
     </message>
+    <message>
+        <source>Designs</source>
+        <translation>Designs</translation>
+    </message>
 </context>
 <context>
     <name>tabo::DesignPane</name>
@@ -3702,6 +3761,10 @@ Deutschland</translation>
     <message>
         <source>Print…</source>
         <translation>Drucken…</translation>
+    </message>
+    <message>
+        <source>Designs</source>
+        <translation>Designs</translation>
     </message>
 </context>
 <context>
@@ -3772,6 +3835,10 @@ Deutschland</translation>
     <message>
         <source>The discount could not be changed.</source>
         <translation>Der Rabatt konnte nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Second line</source>
+        <translation>Zweite Zeile</translation>
     </message>
 </context>
 <context>
@@ -3864,6 +3931,10 @@ Deutschland</translation>
     <message>
         <source>No documents yet — choose New Invoice to write your first.</source>
         <translation>Noch keine Dokumente – wählen Sie “Neue Rechnung”, um Ihre erste zu schreiben.</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
     </message>
 </context>
 <context>
@@ -4311,6 +4382,10 @@ Deutschland</translation>
         <source>Templates…</source>
         <translation>Vorlagen…</translation>
     </message>
+    <message>
+        <source>Items</source>
+        <translation>Artikel</translation>
+    </message>
 </context>
 <context>
     <name>tabo::LetterSheet</name>
@@ -4492,6 +4567,22 @@ Deutschland</translation>
         <source>Schedule a desktop notification about this invoice</source>
         <translation>Eine Desktop-Benachrichtigung zu dieser Rechnung planen</translation>
     </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>About Tabo</source>
+        <translation>Über Tabo</translation>
+    </message>
 </context>
 <context>
     <name>tabo::NotificationSheet</name>
@@ -4529,6 +4620,13 @@ Deutschland</translation>
     <message>
         <source>FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!</source>
         <translation>FEHLER! IHR GEWÄHLTES DESIGN IST DEFEKT, BESCHÄDIGT ODER UNBRAUCHBAR! SIE MÜSSEN ES REPARIEREN!</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::PdfPane</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
     </message>
 </context>
 <context>
@@ -5142,6 +5240,14 @@ Fügen Sie im Bereich Design der Einstellungen ein Design hinzu oder importieren
         <source>to</source>
         <translation>bis</translation>
     </message>
+    <message>
+        <source>From:</source>
+        <translation>Von:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Bis:</translation>
+    </message>
 </context>
 <context>
     <name>tabo::ShippingPopover</name>
@@ -5200,6 +5306,25 @@ Fügen Sie im Bereich Design der Einstellungen ein Design hinzu oder importieren
     <message>
         <source>The shipping could not be changed.</source>
         <translation>Der Versand konnte nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Second line</source>
+        <translation>Zweite Zeile</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::ShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Kürzel</translation>
     </message>
 </context>
 <context>
@@ -5352,6 +5477,17 @@ Fügen Sie im Bereich Design der Einstellungen ein Design hinzu oder importieren
     <message>
         <source>Tax %1</source>
         <translation>Steuer %1</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::UserGuideWindow</name>
+    <message>
+        <source>Tabo User Guide</source>
+        <translation>Tabo-Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>Das Benutzerhandbuch ist nicht installiert.</translation>
     </message>
 </context>
 </TS>

@@ -380,6 +380,14 @@ El suyo: %4
         <source>Keep Due Date</source>
         <translation>Mantener vencimiento</translation>
     </message>
+    <message>
+        <source>Nothing was imported from “%1”.</source>
+        <translation>No se importó nada de “%1”.</translation>
+    </message>
+    <message>
+        <source>It is an invoice dump, which no restore reads.</source>
+        <translation>Es un volcado de facturas, que ninguna restauración lee.</translation>
+    </message>
 </context>
 <context>
     <name>AttributeText</name>
@@ -3312,10 +3320,6 @@ España</translation>
         <translation>Empezar con un presupuesto nuevo.</translation>
     </message>
     <message>
-        <source>Refused: open documents from the File menu.</source>
-        <translation>Rechazado: abra los documentos desde el menú “Archivo”.</translation>
-    </message>
-    <message>
         <source>Error!</source>
         <translation>¡Error!</translation>
     </message>
@@ -3330,6 +3334,45 @@ España</translation>
     <message>
         <source>Commands:</source>
         <translation>Órdenes:</translation>
+    </message>
+    <message>
+        <source>Documents, designs, backups or e-invoices to open.</source>
+        <translation>Documentos, diseños, copias o facturas electrónicas que abrir.</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::AboutDialog</name>
+    <message>
+        <source>About Tabo</source>
+        <translation>Acerca de Tabo</translation>
+    </message>
+    <message>
+        <source>Tabo icon</source>
+        <translation>Icono de Tabo</translation>
+    </message>
+    <message>
+        <source>Invoices and quotes for freelancers and small businesses.</source>
+        <translation>Facturas y presupuestos para autónomos y pequeñas empresas.</translation>
+    </message>
+    <message>
+        <source>Licence: proprietary; all rights reserved.</source>
+        <translation>Licencia: propietaria; todos los derechos reservados.</translation>
+    </message>
+    <message>
+        <source>Built with</source>
+        <translation>Hecho con</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>Biblioteca</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation>Bibliotecas</translation>
     </message>
 </context>
 <context>
@@ -3520,6 +3563,10 @@ España</translation>
         <source>Delete</source>
         <translation>Eliminar</translation>
     </message>
+    <message>
+        <source>Search</source>
+        <translation>Búsqueda</translation>
+    </message>
 </context>
 <context>
     <name>tabo::ClientPage</name>
@@ -3567,6 +3614,10 @@ España</translation>
         <source>Subject:</source>
         <translation>Asunto:</translation>
     </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
 </context>
 <context>
     <name>tabo::ContactsTab</name>
@@ -3581,6 +3632,10 @@ España</translation>
     <message>
         <source>Choose vCard File…</source>
         <translation>Elegir archivo vCard…</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Contactos</translation>
     </message>
 </context>
 <context>
@@ -3648,6 +3703,10 @@ España</translation>
         <source>Untitled</source>
         <translation>Sin título</translation>
     </message>
+    <message>
+        <source>Designs</source>
+        <translation>Diseños</translation>
+    </message>
 </context>
 <context>
     <name>tabo::DesignPane</name>
@@ -3702,6 +3761,10 @@ España</translation>
     <message>
         <source>Print…</source>
         <translation>Imprimir…</translation>
+    </message>
+    <message>
+        <source>Designs</source>
+        <translation>Diseños</translation>
     </message>
 </context>
 <context>
@@ -3772,6 +3835,10 @@ España</translation>
     <message>
         <source>The discount could not be changed.</source>
         <translation>No se pudo cambiar el descuento.</translation>
+    </message>
+    <message>
+        <source>Second line</source>
+        <translation>Segunda línea</translation>
     </message>
 </context>
 <context>
@@ -3864,6 +3931,10 @@ España</translation>
     <message>
         <source>No documents yet — choose New Invoice to write your first.</source>
         <translation>Aún no hay documentos: elija “Nueva factura” para escribir la primera.</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
     </message>
 </context>
 <context>
@@ -4311,6 +4382,10 @@ España</translation>
         <source>Templates…</source>
         <translation>Plantillas…</translation>
     </message>
+    <message>
+        <source>Items</source>
+        <translation>Artículos</translation>
+    </message>
 </context>
 <context>
     <name>tabo::LetterSheet</name>
@@ -4492,6 +4567,22 @@ España</translation>
         <source>Schedule a desktop notification about this invoice</source>
         <translation>Programar una notificación de escritorio para esta factura</translation>
     </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Guía del usuario</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>About Tabo</source>
+        <translation>Acerca de Tabo</translation>
+    </message>
 </context>
 <context>
     <name>tabo::NotificationSheet</name>
@@ -4529,6 +4620,13 @@ España</translation>
     <message>
         <source>FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!</source>
         <translation>¡FALLO! ¡EL DISEÑO SELECCIONADO ESTÁ ROTO, CORRUPTO O DAÑADO! ¡TIENE QUE ARREGLARLO!</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::PdfPane</name>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
     </message>
 </context>
 <context>
@@ -5142,6 +5240,14 @@ Añada un diseño o importe un archivo de diseño en la sección Diseño de las 
         <source>to</source>
         <translation>a</translation>
     </message>
+    <message>
+        <source>From:</source>
+        <translation>Desde:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Hasta:</translation>
+    </message>
 </context>
 <context>
     <name>tabo::ShippingPopover</name>
@@ -5200,6 +5306,25 @@ Añada un diseño o importe un archivo de diseño en la sección Diseño de las 
     <message>
         <source>The shipping could not be changed.</source>
         <translation>No se pudo cambiar el envío.</translation>
+    </message>
+    <message>
+        <source>Second line</source>
+        <translation>Segunda línea</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::ShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Atajo</translation>
     </message>
 </context>
 <context>
@@ -5352,6 +5477,17 @@ Añada un diseño o importe un archivo de diseño en la sección Diseño de las 
     <message>
         <source>Tax %1</source>
         <translation>Impuesto %1</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::UserGuideWindow</name>
+    <message>
+        <source>Tabo User Guide</source>
+        <translation>Guía del usuario de Tabo</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>La guía del usuario no está instalada.</translation>
     </message>
 </context>
 </TS>

@@ -380,6 +380,14 @@ Garder vos modifications et écraser les autres, ou recharger la version enregis
         <source>Keep Due Date</source>
         <translation>Garder l’échéance</translation>
     </message>
+    <message>
+        <source>Nothing was imported from “%1”.</source>
+        <translation>Rien n’a été importé de “%1”.</translation>
+    </message>
+    <message>
+        <source>It is an invoice dump, which no restore reads.</source>
+        <translation>C’est un vidage de factures, qu’aucune restauration ne lit.</translation>
+    </message>
 </context>
 <context>
     <name>AttributeText</name>
@@ -3312,10 +3320,6 @@ France</translation>
         <translation>Commencer par un nouveau devis.</translation>
     </message>
     <message>
-        <source>Refused: open documents from the File menu.</source>
-        <translation>Refusé : ouvrez les documents depuis le menu “Fichier”.</translation>
-    </message>
-    <message>
         <source>Error!</source>
         <translation>Erreur !</translation>
     </message>
@@ -3330,6 +3334,45 @@ France</translation>
     <message>
         <source>Commands:</source>
         <translation>Commandes :</translation>
+    </message>
+    <message>
+        <source>Documents, designs, backups or e-invoices to open.</source>
+        <translation>Documents, designs, sauvegardes ou factures électroniques à ouvrir.</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::AboutDialog</name>
+    <message>
+        <source>About Tabo</source>
+        <translation>À propos de Tabo</translation>
+    </message>
+    <message>
+        <source>Tabo icon</source>
+        <translation>Icône de Tabo</translation>
+    </message>
+    <message>
+        <source>Invoices and quotes for freelancers and small businesses.</source>
+        <translation>Factures et devis pour indépendants et petites entreprises.</translation>
+    </message>
+    <message>
+        <source>Licence: proprietary; all rights reserved.</source>
+        <translation>Licence : propriétaire ; tous droits réservés.</translation>
+    </message>
+    <message>
+        <source>Built with</source>
+        <translation>Construit avec</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>Bibliothèque</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation>Bibliothèques</translation>
     </message>
 </context>
 <context>
@@ -3520,6 +3563,10 @@ France</translation>
         <source>Delete</source>
         <translation>Supprimer</translation>
     </message>
+    <message>
+        <source>Search</source>
+        <translation>Recherche</translation>
+    </message>
 </context>
 <context>
     <name>tabo::ClientPage</name>
@@ -3567,6 +3614,10 @@ France</translation>
         <source>Subject:</source>
         <translation>Objet :</translation>
     </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
 </context>
 <context>
     <name>tabo::ContactsTab</name>
@@ -3581,6 +3632,10 @@ France</translation>
     <message>
         <source>Choose vCard File…</source>
         <translation>Choisir le fichier vCard…</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Contacts</translation>
     </message>
 </context>
 <context>
@@ -3648,6 +3703,10 @@ France</translation>
         <source>Untitled</source>
         <translation>Sans titre</translation>
     </message>
+    <message>
+        <source>Designs</source>
+        <translation>Designs</translation>
+    </message>
 </context>
 <context>
     <name>tabo::DesignPane</name>
@@ -3702,6 +3761,10 @@ France</translation>
     <message>
         <source>Print…</source>
         <translation>Imprimer…</translation>
+    </message>
+    <message>
+        <source>Designs</source>
+        <translation>Designs</translation>
     </message>
 </context>
 <context>
@@ -3772,6 +3835,10 @@ France</translation>
     <message>
         <source>The discount could not be changed.</source>
         <translation>La remise n’a pas pu être modifiée.</translation>
+    </message>
+    <message>
+        <source>Second line</source>
+        <translation>Seconde ligne</translation>
     </message>
 </context>
 <context>
@@ -3864,6 +3931,10 @@ France</translation>
     <message>
         <source>No documents yet — choose New Invoice to write your first.</source>
         <translation>Pas encore de documents — choisissez “Nouvelle facture” pour écrire la première.</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
     </message>
 </context>
 <context>
@@ -4311,6 +4382,10 @@ France</translation>
         <source>Templates…</source>
         <translation>Modèles…</translation>
     </message>
+    <message>
+        <source>Items</source>
+        <translation>Articles</translation>
+    </message>
 </context>
 <context>
     <name>tabo::LetterSheet</name>
@@ -4492,6 +4567,22 @@ France</translation>
         <source>Schedule a desktop notification about this invoice</source>
         <translation>Planifier une notification du bureau pour cette facture</translation>
     </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>About Tabo</source>
+        <translation>À propos de Tabo</translation>
+    </message>
 </context>
 <context>
     <name>tabo::NotificationSheet</name>
@@ -4529,6 +4620,13 @@ France</translation>
     <message>
         <source>FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!</source>
         <translation>ÉCHEC ! LE DESIGN CHOISI EST CASSÉ, CORROMPU OU ENDOMMAGÉ ! VOUS DEVEZ LE RÉPARER !</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::PdfPane</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
     </message>
 </context>
 <context>
@@ -5142,6 +5240,14 @@ Ajoutez un design ou importez un fichier de design dans la section Design des pr
         <source>to</source>
         <translation>au</translation>
     </message>
+    <message>
+        <source>From:</source>
+        <translation>Du :</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Au :</translation>
+    </message>
 </context>
 <context>
     <name>tabo::ShippingPopover</name>
@@ -5200,6 +5306,25 @@ Ajoutez un design ou importez un fichier de design dans la section Design des pr
     <message>
         <source>The shipping could not be changed.</source>
         <translation>L’expédition n’a pas pu être modifiée.</translation>
+    </message>
+    <message>
+        <source>Second line</source>
+        <translation>Seconde ligne</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::ShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Raccourci</translation>
     </message>
 </context>
 <context>
@@ -5352,6 +5477,17 @@ Ajoutez un design ou importez un fichier de design dans la section Design des pr
     <message>
         <source>Tax %1</source>
         <translation>Taxe %1</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::UserGuideWindow</name>
+    <message>
+        <source>Tabo User Guide</source>
+        <translation>Guide de l’utilisateur de Tabo</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>Le guide de l’utilisateur n’est pas installé.</translation>
     </message>
 </context>
 </TS>

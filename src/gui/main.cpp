@@ -21,13 +21,14 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QLineEdit>
 #include <QLayout>
+#include <QLineEdit>
 #include <QLoggingCategory>
+#include <QMessageBox>
 #include <QPainter>
+#include <QPalette>
 #include <QPixmap>
+#include <QPushButton>
 #include <QTimer>
 
 #include <QCoreApplication>
@@ -69,6 +70,30 @@ void saveShot(const QPixmap &shot, const QString &target, QWidget &window)
 }
 
 // `shown` once it has had `ms` to lay out and paint.
+void useDarkPalette()
+{
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QPalette dark;
+    const QColor window(0x2b, 0x2b, 0x2b), base(0x1e, 0x1e, 0x1e), text(0xe8, 0xe8, 0xe8);
+    dark.setColor(QPalette::Window, window);
+    dark.setColor(QPalette::WindowText, text);
+    dark.setColor(QPalette::Base, base);
+    dark.setColor(QPalette::AlternateBase, QColor(0x26, 0x26, 0x26));
+    dark.setColor(QPalette::ToolTipBase, window);
+    dark.setColor(QPalette::ToolTipText, text);
+    dark.setColor(QPalette::PlaceholderText, QColor(0x90, 0x90, 0x90));
+    dark.setColor(QPalette::Text, text);
+    dark.setColor(QPalette::Button, QColor(0x35, 0x35, 0x35));
+    dark.setColor(QPalette::ButtonText, text);
+    dark.setColor(QPalette::BrightText, Qt::red);
+    dark.setColor(QPalette::Link, QColor(0x6c, 0xb4, 0xff));
+    dark.setColor(QPalette::Highlight, QColor(0x3d, 0x7e, 0xd6));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText })
+        dark.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
+    QApplication::setPalette(dark);
+}
+
 void grabLater(QWidget *shown, int ms, const QString &target, QWidget &window)
 {
     QTimer::singleShot(ms, shown, [shown, target, &window] { saveShot(shown->grab(), target, window); });
@@ -140,6 +165,11 @@ int main(int argc, char **argv)
     const QCommandLineOption screenshotReport = hidden("screenshot-report", "file");
     const QCommandLineOption screenshotExport = hidden("screenshot-export", "file");
     const QCommandLineOption screenshotReminder = hidden("screenshot-reminder", "file");
+    const QCommandLineOption screenshotAssistant = hidden("screenshot-assistant", "file");
+    // The Fusion style in dark colours, as a dark desktop theme shows the window.
+    QCommandLineOption dark(QStringLiteral("dark"));
+    dark.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(dark);
     // A click on a reminder delivered while Tabo was closed starts it so.
     QCommandLineOption showInvoice(QStringLiteral("show-invoice"),
         Tr::tr("Start with the list filtered to the invoice with this unique ID."), QStringLiteral("uniqueID"));
@@ -153,9 +183,8 @@ int main(int argc, char **argv)
     parser.process(application);
     QGuiApplication::setDesktopFileName(DBusNotifier::kDesktopEntry);
     const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
-                          || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue)
-                          || parser.isSet(screenshotReport) || parser.isSet(screenshotReminder)
-                          || parser.isSet(screenshotExport);
+        || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue) || parser.isSet(screenshotReport)
+        || parser.isSet(screenshotReminder) || parser.isSet(screenshotExport) || parser.isSet(screenshotAssistant);
     const bool newDocument = parser.isSet(newInvoice) || parser.isSet(newQuote);
     // A running Tabo takes the request; this process then has nothing to do.
     if (parser.isSet(showInvoice)) {
@@ -170,6 +199,9 @@ int main(int argc, char **argv)
     } else if (!grabbing && InstanceBus::forwardActivate()) {
         return 0;
     }
+
+    if (parser.isSet(dark))
+        useDarkPalette();
 
     auto settings = std::make_unique<Preferences>();
     if (const Error refused = settings->loadError()) {
@@ -286,6 +318,15 @@ int main(int argc, char **argv)
                 return;
             }
             QTimer::singleShot(400, sheet, [&window, sheet, target] { saveShot(withSheet(window, sheet, 60), target, window); });
+        });
+    }
+    if (parser.isSet(screenshotAssistant)) {
+        const QString target = parser.value(screenshotAssistant);
+        QTimer::singleShot(400, &window, [&window, &controller, target] {
+            auto *assistant = new FirstStartAssistant(controller, &window);
+            assistant->setAttribute(Qt::WA_DeleteOnClose);
+            assistant->show();
+            grabLater(assistant, 400, target, window);
         });
     }
     if (parser.isSet(screenshotPreferences)) {

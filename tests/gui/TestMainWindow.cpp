@@ -1,20 +1,21 @@
-#include "gui/windows/CatalogueWindow.h"
+#include "TestSupport.h"
+#include "WindowFixture.h"
 #include "gui/editor/DocumentEditor.h"
+#include "gui/editor/ItemPopover.h"
+#include "gui/editor/ItemsPage.h"
 #include "gui/main/DocumentListPane.h"
 #include "gui/main/DocumentTableModel.h"
 #include "gui/main/FilterButton.h"
 #include "gui/main/FilterPopover.h"
+#include "gui/main/MainWindow.h"
 #include "gui/preferences/FirstStartAssistant.h"
 #include "gui/widgets/GuiInteraction.h"
-#include "gui/editor/ItemPopover.h"
-#include "gui/editor/ItemsPage.h"
+#include "gui/widgets/PlainTextField.h"
+#include "gui/windows/CatalogueWindow.h"
+#include "gui/windows/HelpWindows.h"
 #include "gui/windows/NotificationSheet.h"
 #include "gui/windows/PdfPane.h"
 #include "gui/windows/ReportWindow.h"
-#include "gui/main/MainWindow.h"
-#include "gui/widgets/PlainTextField.h"
-#include "TestSupport.h"
-#include "WindowFixture.h"
 
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
@@ -24,24 +25,28 @@
 #include "prefs/Preferences.h"
 
 #include <QAction>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QHeaderView>
-#include <QLabel>
-#include <QMessageBox>
-#include <QProcess>
-#include <QJsonObject>
 #include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
 #include <QTableWidget>
-#include <QPlainTextEdit>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QToolBar>
+#include <QTreeWidget>
 #include <QtTest>
+
+#include <sqlite3.h>
 
 #include <algorithm>
 #include <memory>
@@ -124,6 +129,7 @@ private Q_SLOTS:
     void layoutAndTitle();
     void reportFollowsTheList();
     void reminderSheet();
+    void helpMenu();
 };
 
 void TestMainWindow::dialogsAndTestHooks()
@@ -498,6 +504,78 @@ void TestMainWindow::reminderSheet()
     QVERIFY(!sheet->begin());
     QVERIFY(!sheet->isVisible());
     QVERIFY(remind->isChecked());
+}
+
+void TestMainWindow::helpMenu()
+{
+    Fixture f;
+    f.start();
+    const auto trigger = [&f](const char *name) {
+        QAction *action = f.window->findChild<QAction *>(QLatin1String(name));
+        QVERIFY2(action, name);
+        action->trigger();
+    };
+    const auto opened = [](const char *name) -> QWidget * {
+        for (QWidget *w : QApplication::topLevelWidgets())
+            if (w->isVisible() && w->objectName() == QLatin1String(name))
+                return w;
+        return nullptr;
+    };
+
+    // Every command with a key, under its menu, and no command twice.
+    trigger("actionShortcuts");
+    QWidget *keys = opened("shortcutsDialog");
+    QVERIFY(keys);
+    auto *list = keys->findChild<QTreeWidget *>(QStringLiteral("shortcutList"));
+    QMap<QString, QString> shortcuts;
+    for (int g = 0; g < list->topLevelItemCount(); ++g)
+        for (int i = 0; i < list->topLevelItem(g)->childCount(); ++i) {
+            const QTreeWidgetItem *row = list->topLevelItem(g)->child(i);
+            QVERIFY2(!shortcuts.contains(row->text(0)), qPrintable(row->text(0)));
+            shortcuts.insert(row->text(0), row->text(1));
+        }
+    QCOMPARE(shortcuts.value(QStringLiteral("New Invoice")),
+        QKeySequence(Qt::CTRL | Qt::Key_N).toString(QKeySequence::NativeText));
+    QCOMPARE(
+        shortcuts.value(QStringLiteral("Quit")), QKeySequence(Qt::CTRL | Qt::Key_Q).toString(QKeySequence::NativeText));
+    QVERIFY(shortcuts.contains(QStringLiteral("Preferences…")));
+    QVERIFY(!shortcuts.contains(QStringLiteral("Print Account Book…"))); // no key of its own
+    keys->close();
+
+    // The version, and the libraries with the versions this process runs.
+    QApplication::setApplicationVersion(QStringLiteral("9.8.7"));
+    trigger("actionAbout");
+    QWidget *about = opened("aboutDialog");
+    QVERIFY(about);
+    QStringList labels;
+    for (QLabel *label : about->findChildren<QLabel *>())
+        labels << label->text();
+    QVERIFY(labels.join(QLatin1Char(' ')).contains(QStringLiteral("Tabo 9.8.7")));
+    auto *libraries = about->findChild<QTreeWidget *>(QStringLiteral("libraryList"));
+    QMap<QString, QString> versions;
+    for (int i = 0; i < libraries->topLevelItemCount(); ++i)
+        versions.insert(libraries->topLevelItem(i)->text(0), libraries->topLevelItem(i)->text(1));
+    QCOMPARE(versions.value(QStringLiteral("SQLite")), QString::fromLatin1(sqlite3_libversion()));
+    QCOMPARE(versions.value(QStringLiteral("Qt")), QString::fromLatin1(qVersion()));
+    for (const char *name : { "ICU", "libplist", "qpdf", "libqrencode" })
+        QVERIFY2(
+            versions.value(QLatin1String(name)).contains(QRegularExpression(QStringLiteral("^\\d+\\.\\d+"))), name);
+    about->close();
+
+    // The guide of the build tree, with its sections and its pictures.
+    trigger("actionUserGuide");
+    QWidget *guide = opened("userGuideWindow");
+    QVERIFY(guide);
+    auto *text = guide->findChild<QTextBrowser *>(QStringLiteral("guideText"));
+    const QString shown = text->toPlainText();
+    QVERIFY2(shown.size() > 2000, qPrintable(shown.left(200)));
+    for (const char *section : { "First start", "A first invoice", "Designs", "E-invoices", "Backups",
+             "E-mail and printing", "Reminders", "The command line" })
+        QVERIFY2(shown.contains(QLatin1String(section)), section);
+    QVERIFY(!text->document()
+                 ->resource(QTextDocument::ImageResource, QUrl(QStringLiteral("screenshots/guide/en/main-window.png")))
+                 .isNull());
+    guide->close();
 }
 
 QTEST_MAIN(TestMainWindow)

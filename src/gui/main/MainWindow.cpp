@@ -1,30 +1,32 @@
 #include "gui/main/MainWindow.h"
 
 #include "app/AccountBook.h"
-#include "app/InstanceBus.h"
 #include "app/AppController.h"
+#include "app/InstanceBus.h"
 #include "app/NotificationCommands.h"
 #include "app/OutputCommands.h"
 #include "app/UndoHistory.h"
 #include "domain/Record.h"
+#include "gui/editor/DocumentEditor.h"
+#include "gui/main/DocumentActions.h"
+#include "gui/main/DocumentListPane.h"
+#include "gui/main/DocumentTableModel.h"
+#include "gui/main/FileMenu.h"
+#include "gui/main/FilterButton.h"
+#include "gui/main/SummaryBar.h"
+#include "gui/preferences/PreferencePanel.h"
+#include "gui/widgets/Accessibility.h"
+#include "gui/widgets/Icons.h"
+#include "gui/widgets/Keys.h"
 #include "gui/widgets/ScreenFit.h"
 #include "gui/windows/CatalogueWindow.h"
 #include "gui/windows/DesignChoiceSheet.h"
-#include "gui/main/DocumentActions.h"
-#include "gui/editor/DocumentEditor.h"
-#include "gui/main/DocumentListPane.h"
-#include "gui/main/DocumentTableModel.h"
 #include "gui/windows/ExportSheet.h"
-#include "gui/main/FileMenu.h"
-#include "gui/main/FilterButton.h"
-#include "gui/widgets/Icons.h"
+#include "gui/windows/HelpWindows.h"
 #include "gui/windows/LetterSheet.h"
 #include "gui/windows/NotificationSheet.h"
-#include "gui/preferences/PreferencePanel.h"
 #include "gui/windows/PreviewWindow.h"
 #include "gui/windows/ReportWindow.h"
-#include "gui/main/SummaryBar.h"
-#include "gui/widgets/Keys.h"
 #include "prefs/Preferences.h"
 
 #include <QAction>
@@ -116,6 +118,7 @@ MainWindow::MainWindow(AppController &app, QWidget *parent)
     // must not be seen before the application ends.
     if (m_app.isTerminating())
         setWindowOpacity(0.0);
+    Accessibility::labelFields(this);
 }
 
 void MainWindow::createActions()
@@ -189,6 +192,28 @@ void MainWindow::createActions()
         window->raise();
         window->activateWindow();
     });
+
+    QMenu *help = menuBar()->addMenu(tr("&Help"));
+    QAction *guide = help->addAction(QIcon::fromTheme(QStringLiteral("help-contents")), tr("User Guide"));
+    guide->setObjectName(QStringLiteral("actionUserGuide"));
+    guide->setShortcut(QKeySequence::HelpContents);
+    connect(guide, &QAction::triggered, this, [this] { showHelp(new UserGuideWindow(this)); });
+    QAction *keys = help->addAction(tr("Keyboard Shortcuts"));
+    keys->setObjectName(QStringLiteral("actionShortcuts"));
+    connect(keys, &QAction::triggered, this, [this] { showHelp(new ShortcutsDialog(menuBar(), this)); });
+    help->addSeparator();
+    QAction *about = help->addAction(QIcon::fromTheme(QStringLiteral("help-about")), tr("About Tabo"));
+    about->setObjectName(QStringLiteral("actionAbout"));
+    about->setMenuRole(QAction::AboutRole);
+    connect(about, &QAction::triggered, this, [this] { showHelp(new AboutDialog(this)); });
+}
+
+void MainWindow::showHelp(QDialog *dialog)
+{
+    // Help stays open beside the window it explains.
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setModal(false);
+    dialog->show();
 }
 
 ReportWindow *MainWindow::reportWindow()
@@ -326,6 +351,7 @@ void MainWindow::createToolBar()
     bar->setIconSize(QSize(22, 22));
     m_search = new QLineEdit(bar);
     m_search->setObjectName(QStringLiteral("searchField"));
+    m_search->setAccessibleName(tr("Search"));
     m_search->setPlaceholderText(tr("Search number, client, subject, amount"));
     m_search->setClearButtonEnabled(true);
     m_search->setMaximumWidth(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 18);
@@ -396,12 +422,21 @@ void MainWindow::takeRequestsFrom(InstanceBus &bus)
     connect(&bus, &InstanceBus::showInvoiceRequested, &m_app.notifications(),
             &NotificationCommands::didActivateNotification);
     connect(&bus, &InstanceBus::activateRequested, this, [this] { whenFree([this] { bringForward(); }); });
+    connect(&bus, &InstanceBus::openRequested, this,
+        [this](const QStringList &paths) { whenFree([this, paths] { openFiles(paths); }); });
     connect(&bus, &InstanceBus::newDocumentRequested, this, [this](bool invoice) {
         whenFree([this, invoice] {
             bringForward();
             (invoice ? m_newInvoice : m_newQuote)->trigger();
         });
     });
+}
+
+void MainWindow::openFiles(const QStringList &paths)
+{
+    bringForward();
+    for (const QString &path : paths)
+        m_app.openFileFromOutside(path);
 }
 
 void MainWindow::whenFree(std::function<void()> request)

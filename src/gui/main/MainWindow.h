@@ -7,6 +7,7 @@
 #include <functional>
 
 class QAction;
+class QDialog;
 class QLineEdit;
 class QMenu;
 class QSplitter;
@@ -47,6 +48,9 @@ public:
     void whenFree(std::function<void()> request);
     // The window to the front, restored if minimised.
     void bringForward();
+    // Files from the desktop or another `tabo`: each as the controller
+    // opens a file from outside.
+    void openFiles(const QStringList &paths);
     // Carries out what other `tabo` processes hand over on the session bus.
     void takeRequestsFrom(InstanceBus &bus);
 
@@ -77,6 +81,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void showHelp(QDialog *dialog);
     void restoreLayout();
     void saveLayout();
     void updateTitle();
