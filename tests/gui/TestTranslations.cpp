@@ -66,7 +66,8 @@ void removeTranslators()
 void TestTranslations::germanWindowShowsNoEnglish()
 {
     qputenv("LANGUAGE", "de");
-    const QString loaded = installTranslations(*QCoreApplication::instance(), {QStringLiteral(TABO_TRANSLATIONS_DIR)});
+    const QString loaded
+        = installTranslations(*QCoreApplication::instance(), { QStringLiteral(TABO_TRANSLATIONS_DIR) });
     QVERIFY2(loaded.endsWith(QLatin1String("tabo_de.qm")), qPrintable(loaded));
     const QSet<QString> german = germanTexts();
     QVERIFY(german.size() > 500);
@@ -118,8 +119,7 @@ void TestTranslations::germanWindowShowsNoEnglish()
         check(QStringLiteral("status"), statuses.values().last());
     }
     QCOMPARE(statuses.size(), 6);
-    check(QStringLiteral("status header"),
-          model->headerData(DocumentTableModel::Status, Qt::Horizontal).toString());
+    check(QStringLiteral("status header"), model->headerData(DocumentTableModel::Status, Qt::Horizontal).toString());
 
     FirstStartAssistant assistant(f.app);
     assistant.show();
@@ -149,7 +149,7 @@ void TestTranslations::missingTranslationLeavesEnglish()
     // nothing installed (tests/cli covers a language nobody translated).
     removeTranslators();
     qputenv("LANGUAGE", "de");
-    QVERIFY(installTranslations(*QCoreApplication::instance(), {QStringLiteral("/nonexistent")}).isEmpty());
+    QVERIFY(installTranslations(*QCoreApplication::instance(), { QStringLiteral("/nonexistent") }).isEmpty());
     QVERIFY(QCoreApplication::instance()->findChildren<QTranslator *>().isEmpty());
     QCOMPARE(DocumentTableModel::tr("Paid"), QStringLiteral("Paid"));
 }

@@ -9,14 +9,25 @@
 #include "gui/windows/CatalogueWindow.h"
 #include "gui/windows/DesignChoiceSheet.h"
 #include "gui/windows/ExportSheet.h"
+#include "gui/windows/HelpWindows.h"
 #include "gui/windows/LetterSheet.h"
 #include "gui/windows/NotificationSheet.h"
 #include "gui/windows/PreviewWindow.h"
 #include "gui/windows/ReportWindow.h"
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QScreen>
 #include <QShortcut>
+#include <QTabBar>
+#include <QTextEdit>
 #include <QtTest>
 
 #include <map>
@@ -33,6 +44,7 @@ private Q_SLOTS:
     void initTestCase();
     void everyWindowFitsTheScreen();
     void everyShortcutIsBoundOnce();
+    void everyControlHasAName();
 };
 
 namespace {
@@ -98,6 +110,12 @@ void TestWindowFit::everyWindowFitsTheScreen()
     check(&accounting);
     FirstStartAssistant assistant(f.app);
     check(&assistant);
+    ShortcutsDialog shortcuts(f.window->menuBar());
+    check(&shortcuts);
+    AboutDialog about;
+    check(&about);
+    UserGuideWindow guide;
+    check(&guide);
     // Each pane in turn, in the one window size the panel keeps.
     QVPreferencePanel *panel = f.window->preferencePanel();
     panel->showPanel();
@@ -152,6 +170,48 @@ void TestWindowFit::everyShortcutIsBoundOnce()
     const auto keysOf = [&f](const char *name) { return f.window->findChild<QAction *>(QLatin1String(name))->shortcuts(); };
     QVERIFY(keysOf("actionRedo").contains(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)));
     QVERIFY(keysOf("preferencesClose").contains(QKeySequence(Qt::CTRL | Qt::Key_W)));
+}
+
+// A screen reader names each control by its text, its label (a buddy) or
+// its accessible name; a control with none of them is read as "button".
+void TestWindowFit::everyControlHasAName()
+{
+    test::WindowFixture f;
+    f.prefs.setBool(Preferences::isTabo2TemplateLoadingDone, true);
+    f.window = std::make_unique<MainWindow>(f.app);
+    f.window->newInvoiceAction()->trigger();
+    QVPreferencePanel *panel = f.window->preferencePanel();
+    AccountingExportSheet accounting(f.app, f.window.get());
+    FirstStartAssistant assistant(f.app);
+    const QList<QWidget *> windows { f.window.get(), panel, f.window->exportSheet(), f.window->letterSheet(),
+        f.window->designChoiceSheet(), f.window->notificationSheet(), f.window->previewWindow(),
+        f.window->reportWindow(), f.window->catalogueWindow(), &accounting, &assistant };
+    QStringList unnamed;
+    int controls = 0;
+    for (QWidget *window : windows) {
+        for (QWidget *w : window->findChildren<QWidget *>()) {
+            const bool control = qobject_cast<QAbstractButton *>(w) || qobject_cast<QLineEdit *>(w)
+                || qobject_cast<QComboBox *>(w) || qobject_cast<QAbstractSpinBox *>(w)
+                || qobject_cast<QAbstractItemView *>(w) || qobject_cast<QPlainTextEdit *>(w)
+                || qobject_cast<QTextEdit *>(w);
+            // Parts Qt builds inside its own widgets (a combo box's list, a
+            // scroll bar's buttons, a tab bar's scrollers) are named by them.
+            if (!control || w->objectName().startsWith(QLatin1String("qt_")) || !w->parentWidget()
+                || qobject_cast<QComboBox *>(w->parentWidget()) || qobject_cast<QAbstractSpinBox *>(w->parentWidget())
+                || qobject_cast<QTabBar *>(w->parentWidget()) || w->inherits("QComboBoxListView")
+                || qobject_cast<QAbstractItemView *>(w->parentWidget()) || w->inherits("QHeaderView")
+                || w->inherits("QToolBarExtension") || w->inherits("QMenu") || w->inherits("QLineEditIconButton"))
+                continue;
+            ++controls;
+            QAccessibleInterface *face = QAccessible::queryAccessibleInterface(w);
+            if (!face || face->text(QAccessible::Name).trimmed().isEmpty())
+                unnamed << QStringLiteral("%1 %2 in %3")
+                               .arg(QString::fromLatin1(w->metaObject()->className()), w->objectName(),
+                                   QString::fromLatin1(window->metaObject()->className()));
+        }
+    }
+    QVERIFY(controls > 100);
+    QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join(QLatin1Char('\n'))));
 }
 
 QTEST_MAIN(TestWindowFit)

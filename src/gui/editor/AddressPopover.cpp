@@ -77,6 +77,7 @@ QWidget *AddressPopover::createAddressPage()
     auto *generate = new QPushButton(tr("Generate"), page);
     generate->setObjectName(QStringLiteral("generateClientNumber"));
     auto *numberRow = new QHBoxLayout;
+    m_clientNumber->setAccessibleName(tr("Client number:"));
     numberRow->addWidget(m_clientNumber, 1);
     numberRow->addWidget(generate);
     form->addRow(tr("Address:"), m_address);
@@ -102,6 +103,7 @@ QWidget *AddressPopover::createRecentPage()
     auto *layout = new QVBoxLayout(page);
     m_recent = new QTreeWidget(page);
     m_recent->setObjectName(QStringLiteral("recentAddresses"));
+    m_recent->setAccessibleName(tr("Recent"));
     m_recent->setRootIsDecorated(false);
     m_recent->setHeaderLabels({ tr("Client"), tr("Address") });
     m_recent->header()->setSectionResizeMode(1, QHeaderView::Stretch);

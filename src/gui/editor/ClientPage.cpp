@@ -24,6 +24,7 @@ ClientPage::ClientPage(AppController &app, QWidget *parent)
     m_addressButton->setObjectName(QStringLiteral("addressButton"));
     m_addressButton->setToolTip(tr("Take the client from your contacts or the recent addresses"));
     m_address->setVisibleLines(5);
+    m_address->setAccessibleName(tr("Address"));
     const auto text = [this](int attr) {
         auto *edit = new QLineEdit(this);
         m_binder->bindText(edit, attr);

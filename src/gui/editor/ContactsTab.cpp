@@ -18,6 +18,7 @@ ContactsTab::ContactsTab(QWidget *parent)
     m_file->setForegroundRole(QPalette::PlaceholderText);
     m_file->setWordWrap(true);
     m_list->setObjectName(QStringLiteral("contactList"));
+    m_list->setAccessibleName(tr("Contacts"));
     m_list->setMinimumHeight(fontMetrics().height() * 10);
     m_use->setObjectName(QStringLiteral("useContactButton"));
     m_use->setEnabled(false);

@@ -44,6 +44,10 @@ DatesPage::DatesPage(AppController &app, QWidget *parent)
         w->setMinimumWidth(11 * em);
     dispatchNumber->setMaximumWidth(18 * em);
     m_paidAmount->setMaximumWidth(11 * em);
+    // Their labels change with the document or are check boxes.
+    m_paidAmount->setAccessibleName(tr("Paid amount:"));
+    m_due->setAccessibleName(tr("Due:"));
+    m_dispatched->setAccessibleName(tr("Dispatched on"));
 
     // In status-code order: the index is the code.
     m_status->setObjectName(QStringLiteral("status"));

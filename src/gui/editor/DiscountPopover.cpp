@@ -37,6 +37,9 @@ DiscountPopover::DiscountPopover(AppController &app, QWidget *parent)
     m_title->setObjectName(QStringLiteral("discountTitle"));
     m_hasSubtitle->setObjectName(QStringLiteral("hasDiscountSubtitle"));
     m_subtitle->setObjectName(QStringLiteral("discountSubtitle"));
+    m_subtitle->setAccessibleName(tr("Second line"));
+    m_amount->setAccessibleName(tr("Fixed amount:"));
+    m_percent->setAccessibleName(tr("Percentage:"));
     m_title->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 20);
     for (QLineEdit *number : { m_amount, m_percent })
         number->setAlignment(Qt::AlignRight);

@@ -77,7 +77,9 @@ QWidget *ItemPopover::createEntryPage()
     form->addRow(tr("Description:"), m_subtitle);
     auto *unitRow = new QHBoxLayout;
     unitRow->addWidget(m_unit, 1);
-    unitRow->addWidget(new QLabel(tr("Code:"), page));
+    auto *codeLabel = new QLabel(tr("Code:"), page);
+    codeLabel->setBuddy(m_unitCode);
+    unitRow->addWidget(codeLabel);
     unitRow->addWidget(m_unitCode);
     m_unitCode->setMaximumWidth(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 5);
     form->addRow(tr("Unit:"), unitRow);
@@ -89,6 +91,7 @@ QWidget *ItemPopover::createEntryPage()
     for (int k = 0; k < 3; ++k) {
         m_tax[k] = new QCheckBox(page);
         m_tax[k]->setObjectName(QStringLiteral("itemTax%1").arg(k + 1));
+        m_tax[k]->setAccessibleName(tr("Tax %1").arg(k + 1));
         taxes->addWidget(m_tax[k]);
     }
     m_taxRow = form->rowCount();
@@ -112,6 +115,7 @@ QWidget *ItemPopover::createCataloguePage()
     auto *layout = new QVBoxLayout(page);
     m_catalogue = new QTreeWidget(page);
     m_catalogue->setObjectName(QStringLiteral("catalogueList"));
+    m_catalogue->setAccessibleName(tr("Catalogue"));
     m_catalogue->setRootIsDecorated(false);
     m_catalogue->setHeaderLabels({ tr("Title"), tr("Article number"), tr("Unit price") });
     m_catalogue->headerItem()->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);

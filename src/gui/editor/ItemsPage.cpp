@@ -84,6 +84,7 @@ QPushButton *ItemsPage::addButton(const QString &text, const char *name)
 void ItemsPage::setupTable()
 {
     m_table->setObjectName(QStringLiteral("itemTable"));
+    m_table->setAccessibleName(tr("Items"));
     m_table->setModel(m_model);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);

@@ -53,6 +53,7 @@ QWidget *ShippingPopover::createShippingPage()
     m_hasSubtitle->setObjectName(QStringLiteral("hasShippingSubtitle"));
     m_subtitle = new QLineEdit(page);
     m_subtitle->setObjectName(QStringLiteral("shippingSubtitle"));
+    m_subtitle->setAccessibleName(tr("Second line"));
     m_amount = new QLineEdit(page);
     m_amount->setObjectName(QStringLiteral("shippingAmount"));
     m_amount->setAlignment(Qt::AlignRight);
@@ -66,6 +67,7 @@ QWidget *ShippingPopover::createShippingPage()
     for (int k = 0; k < 3; ++k) {
         m_tax[k] = new QCheckBox(page);
         m_tax[k]->setObjectName(QStringLiteral("shippingTax%1").arg(k + 1));
+        m_tax[k]->setAccessibleName(tr("Tax %1").arg(k + 1));
         taxes->addWidget(m_tax[k]);
     }
     form->addRow(tr("Taxes:"), taxes);
@@ -89,6 +91,7 @@ QWidget *ShippingPopover::createRememberedPage()
     auto *layout = new QVBoxLayout(page);
     m_remembered = new QTreeWidget(page);
     m_remembered->setObjectName(QStringLiteral("rememberedShipping"));
+    m_remembered->setAccessibleName(tr("Remembered"));
     m_remembered->setRootIsDecorated(false);
     m_remembered->setHeaderLabels({ tr("Title"), tr("Amount") });
     m_remembered->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);

@@ -82,6 +82,7 @@ QWidget *TemplatePopover::createTemplatesPage()
     auto *layout = new QVBoxLayout(page);
     m_templates = new QTreeWidget(page);
     m_templates->setObjectName(QStringLiteral("templateList"));
+    m_templates->setAccessibleName(tr("Templates"));
     m_templates->setRootIsDecorated(false);
     m_templates->setHeaderLabels({ tr("Name"), tr("Notes") });
     m_templates->header()->setSectionResizeMode(1, QHeaderView::Stretch);

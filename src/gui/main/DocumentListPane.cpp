@@ -17,6 +17,7 @@ DocumentListPane::DocumentListPane(AppController &app, QWidget *parent)
     , m_view(new QTableView(this))
 {
     m_view->setObjectName(QStringLiteral("documentTable"));
+    m_view->setAccessibleName(tr("Documents"));
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setAlternatingRowColors(true);

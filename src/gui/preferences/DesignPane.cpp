@@ -65,6 +65,7 @@ DesignPane::DesignPane(AppController &app, QWidget *parent)
     , m_preview(new DesignPreview(app, app, app.outputs(), app.prefs(), app.ui(), this))
 {
     m_list->setObjectName(QStringLiteral("designList"));
+    m_list->setAccessibleName(tr("Designs"));
     m_list->setMinimumWidth(170);
     connect(m_list, &QListWidget::currentItemChanged, this, [this] { showDesign(selectedDesign()); });
     connect(m_list, &QListWidget::itemChanged, this, &DesignPane::titleEdited);
@@ -88,6 +89,7 @@ DesignPane::DesignPane(AppController &app, QWidget *parent)
     for (int i = 0; i < 3; ++i) {
         auto *view = new QVPreferencesTextView;
         view->setObjectName(names[std::size_t(i)]);
+        view->setAccessibleName(titles[std::size_t(i)]);
         m_editors[std::size_t(i)] = view;
         m_colorizers[std::size_t(i)] = new SyntaxColorizer(i == Stylesheet ? QStringLiteral("CSS")
                                                                            : QStringLiteral("HTML"),

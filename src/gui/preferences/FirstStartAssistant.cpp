@@ -1,6 +1,7 @@
 #include "gui/preferences/FirstStartAssistant.h"
 
 #include "app/AppController.h"
+#include "gui/widgets/Accessibility.h"
 #include "prefs/Preferences.h"
 
 #include <QCheckBox>
@@ -90,6 +91,7 @@ FirstStartAssistant::FirstStartAssistant(AppController &app, QWidget *parent) : 
           {P::prefsBIC, tr("BIC:")}});
     field(P::prefsCountryCode)->setMaxLength(2);
     field(P::prefsCountryCode)->setPlaceholderText(tr("DE, FR, US…"));
+    Accessibility::labelFields(this);
 }
 
 QLineEdit *FirstStartAssistant::field(Preferences::Key key) const

@@ -1,22 +1,23 @@
 #include "gui/preferences/PreferencePanel.h"
 
 #include "app/AppController.h"
-#include "app/NotificationCommands.h"
-#include "app/ReminderTimer.h"
 #include "app/DesignLibrary.h"
 #include "app/Interaction.h"
+#include "app/NotificationCommands.h"
+#include "app/ReminderTimer.h"
+#include "base/Clock.h"
 #include "domain/Numbering.h"
 #include "domain/PrefRules.h"
-#include "gui/preferences/DesignPane.h"
 #include "gui/main/FileMenu.h"
+#include "gui/preferences/DesignPane.h"
+#include "gui/preferences/LogoWell.h"
+#include "gui/preferences/PrefsBinder.h"
+#include "gui/widgets/Accessibility.h"
 #include "gui/widgets/HintLabel.h"
 #include "gui/widgets/Icons.h"
-#include "gui/preferences/LogoWell.h"
-#include "gui/widgets/PlainTextField.h"
-#include "gui/preferences/PrefsBinder.h"
 #include "gui/widgets/Keys.h"
+#include "gui/widgets/PlainTextField.h"
 #include "gui/widgets/ScreenFit.h"
-#include "base/Clock.h"
 #include "prefs/Locations.h"
 
 #include <QScrollArea>
@@ -180,6 +181,7 @@ QVPreferencePanel::QVPreferencePanel(AppController &app, FileMenu *fileMenu, QWi
         // Paper, margins and labels change the sample page.
         m_designPane->preferencesChanged();
     });
+    Accessibility::labelFields(this);
 }
 
 QVPreferencePanel::~QVPreferencePanel() = default;
@@ -337,14 +339,22 @@ QWidget *QVPreferencePanel::createTaxesPane()
     int row = 1;
     for (const Tax &tax : taxes) {
         grid->addWidget(m_binder->check(tax.enabled, tr("Tax %1").arg(row)), row, 0, Qt::AlignTop);
-        grid->addWidget(m_binder->text(tax.title), row, 1, Qt::AlignTop);
+        // The column headings name the fields for a screen reader too.
+        const auto named = [row](QWidget *field, const QString &column) {
+            field->setAccessibleName(tr("Tax %1").arg(row) + QStringLiteral(": ") + column);
+            return field;
+        };
+        grid->addWidget(named(m_binder->text(tax.title), tr("Title")), row, 1, Qt::AlignTop);
         QLineEdit *rate = m_binder->rate(tax.rate);
+        named(rate, tr("Rate (%)"));
         rate->setMaximumWidth(90);
         grid->addWidget(withHint(m_binder, rate), row, 2, Qt::AlignTop);
         if (tax.compound != P::KeyCount)
             grid->addWidget(m_binder->check(tax.compound, tr("Compound")), row, 3, Qt::AlignTop);
-        grid->addWidget(m_binder->code(tax.category, categories), row, 4, Qt::AlignTop);
+        grid->addWidget(
+            named(m_binder->code(tax.category, categories), tr("E-invoice category")), row, 4, Qt::AlignTop);
         QLineEdit *reason = m_binder->text(tax.exemption);
+        named(reason, tr("Reason when not charged"));
         reason->setPlaceholderText(tr("e.g. Steuerschuldnerschaft des Leistungsempfängers"));
         grid->addWidget(reason, row, 5, Qt::AlignTop);
         ++row;

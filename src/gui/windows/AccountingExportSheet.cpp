@@ -2,6 +2,7 @@
 
 #include "app/AccountingExport.h"
 #include "app/AppController.h"
+#include "gui/widgets/Accessibility.h"
 #include "gui/widgets/Formats.h"
 #include "prefs/Preferences.h"
 
@@ -66,6 +67,7 @@ AccountingExportSheet::AccountingExportSheet(AppController &app, QWidget *parent
     connect(m_itemsKind, &QComboBox::currentIndexChanged, this, &AccountingExportSheet::choiceChanged);
     connect(buttons, &QDialogButtonBox::accepted, this, &AccountingExportSheet::send);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    Accessibility::labelFields(this);
 }
 
 void AccountingExportSheet::begin(int sendToTag)

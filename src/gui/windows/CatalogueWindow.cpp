@@ -3,9 +3,10 @@
 #include "app/AppController.h"
 #include "app/ItemCommands.h"
 #include "domain/Record.h"
-#include "gui/widgets/ScreenFit.h"
+#include "gui/widgets/Accessibility.h"
 #include "gui/widgets/Formats.h"
 #include "gui/widgets/HintLabel.h"
+#include "gui/widgets/ScreenFit.h"
 #include "prefs/Preferences.h"
 
 #include <QDialogButtonBox>
@@ -37,12 +38,14 @@ CatalogueWindow::CatalogueWindow(AppController &app, QWidget *parent)
     setWindowTitle(tr("Catalogue"));
     m_search = new QLineEdit(this);
     m_search->setObjectName(QStringLiteral("catalogueSearch"));
+    m_search->setAccessibleName(tr("Search"));
     m_search->setPlaceholderText(tr("Search title, article number or unit"));
     m_search->setClearButtonEnabled(true);
     connect(m_search, &QLineEdit::textChanged, this, &CatalogueWindow::reload);
 
     m_table = new QTableWidget(0, ColumnCount, this);
     m_table->setObjectName(QStringLiteral("catalogueTable"));
+    m_table->setAccessibleName(tr("Catalogue"));
     const Preferences &prefs = m_app.prefs();
     const auto taxTitle = [&](Preferences::Key key, int n) {
         const QString t = prefs.string(key);
@@ -78,6 +81,7 @@ CatalogueWindow::CatalogueWindow(AppController &app, QWidget *parent)
     layout->addWidget(buttons);
     ScreenFit::resize(this, QSize(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 60, fontMetrics().height() * 28));
     reload();
+    Accessibility::labelFields(this);
 }
 
 void CatalogueWindow::reload()

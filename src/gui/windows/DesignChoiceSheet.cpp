@@ -29,6 +29,7 @@ DesignChoiceSheet::DesignChoiceSheet(AppController &app, QWidget *parent)
     setWindowTitle(tr("Choose Design"));
     setWindowModality(Qt::WindowModal);
     m_list->setObjectName(QStringLiteral("designList"));
+    m_list->setAccessibleName(tr("Designs"));
     m_list->setFixedWidth(200);
 
     auto *spinnerPage = new QWidget(m_pages);

@@ -35,6 +35,7 @@ PdfPane::PdfPane(QWidget *parent)
     m_view->setBackgroundRole(QPalette::Dark);
 
     m_thumbs->setObjectName(QStringLiteral("pdfThumbnails"));
+    m_thumbs->setAccessibleName(tr("Pages"));
     m_thumbs->setViewMode(QListView::IconMode);
     m_thumbs->setFlow(QListView::TopToBottom);
     m_thumbs->setWrapping(false);

@@ -28,6 +28,8 @@ ReportWindow::ReportWindow(AppController &app, QWidget *parent)
     m_useRange->setObjectName(QStringLiteral("reportUseRange"));
     m_from = new QDateEdit(this);
     m_to = new QDateEdit(this);
+    m_from->setAccessibleName(tr("From:"));
+    m_to->setAccessibleName(tr("To:"));
     for (QDateEdit *edit : {m_from, m_to}) {
         edit->setCalendarPopup(true);
         edit->setDisplayFormat(Formats::dateFieldFormat());
