@@ -1835,6 +1835,57 @@ Abbrechen: Das nächste Dokument (%1) erhält die Nummer %3.</translation>
     </message>
 </context>
 <context>
+    <name>Matching</name>
+    <message>
+        <source>%1 more than is due.</source>
+        <translation>%1 mehr als fällig.</translation>
+    </message>
+    <message>
+        <source>Partly paid: %1 of %2.</source>
+        <translation>Teilweise bezahlt: %1 von %2.</translation>
+    </message>
+    <message>
+        <source>Taken in from an earlier statement.</source>
+        <translation>Aus einem früheren Auszug übernommen.</translation>
+    </message>
+    <message>
+        <source>The text names invoice %1 and the amount is what it owes.</source>
+        <translation>Der Text nennt Rechnung %1, und der Betrag ist, was sie schuldet.</translation>
+    </message>
+    <message>
+        <source>The text names invoice %1.</source>
+        <translation>Der Text nennt Rechnung %1.</translation>
+    </message>
+    <message>
+        <source>The text names %1 open invoices.</source>
+        <translation>Der Text nennt %1 offene Rechnungen.</translation>
+    </message>
+    <message>
+        <source>The only open invoice of exactly this amount.</source>
+        <translation>Die einzige offene Rechnung über genau diesen Betrag.</translation>
+    </message>
+    <message>
+        <source>This amount, from this client.</source>
+        <translation>Dieser Betrag, von diesem Kunden.</translation>
+    </message>
+    <message>
+        <source>%1 open invoices owe exactly this amount.</source>
+        <translation>%1 offene Rechnungen schulden genau diesen Betrag.</translation>
+    </message>
+    <message>
+        <source>The only open invoice of this client.</source>
+        <translation>Die einzige offene Rechnung dieses Kunden.</translation>
+    </message>
+    <message>
+        <source>This client has %1 open invoices, none of this amount.</source>
+        <translation>Dieser Kunde hat %1 offene Rechnungen, keine über diesen Betrag.</translation>
+    </message>
+    <message>
+        <source>No open invoice fits.</source>
+        <translation>Keine offene Rechnung passt.</translation>
+    </message>
+</context>
+<context>
     <name>NewCommand</name>
     <message>
         <source>Create a document and print its unique ID.</source>
@@ -2109,6 +2160,43 @@ Sie können das PDF speichern und selbst an eine Nachricht anhängen oder den Or
     <message>
         <source>“%1” is the ID of %2 designs; give its title instead.</source>
         <translation>“%1” ist die ID von %2 Designs; geben Sie stattdessen seinen Titel an.</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentCommands</name>
+    <message>
+        <source>No database is open.</source>
+        <translation>Keine Datenbank ist geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentLedger</name>
+    <message>
+        <source>The payments taken in could not be read or written: %1</source>
+        <translation>Die übernommenen Zahlungen konnten nicht gelesen oder geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentsCommand</name>
+    <message>
+        <source>Read a bank statement (CAMT.053, CAMT.054 or MT940) and match its credits against the open invoices: sure (the text names the invoice and the amount is what it owes), proposed, ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid or partly paid. A booking is never taken in twice.</source>
+        <translation>Liest einen Kontoauszug (CAMT.053, CAMT.054 oder MT940) und ordnet seine Gutschriften den offenen Rechnungen zu: sicher (der Text nennt die Rechnung und der Betrag ist, was sie schuldet), vorgeschlagen, mehrdeutig, keine oder schon früher übernommen. --apply übernimmt die sicheren Zuordnungen: Die Rechnung ist bezahlt oder teilweise bezahlt. Eine Buchung wird nie zweimal übernommen.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>JSON ausgeben.</translation>
+    </message>
+    <message>
+        <source>Take in the sure matches.</source>
+        <translation>Die sicheren Zuordnungen übernehmen.</translation>
+    </message>
+    <message>
+        <source>Unknown “%1”: import.</source>
+        <translation>Unbekannt “%1”: import.</translation>
+    </message>
+    <message>
+        <source>Payments taken in: %1.</source>
+        <translation>Übernommene Zahlungen: %1.</translation>
     </message>
 </context>
 <context>
@@ -2419,10 +2507,6 @@ Sie können das PDF speichern und selbst an eine Nachricht anhängen oder den Or
     <message>
         <source>The file nests its elements more deeply than any e-invoice does.</source>
         <translation>Die Datei verschachtelt ihre Elemente tiefer als jede E-Rechnung.</translation>
-    </message>
-    <message>
-        <source>The file is not well-formed XML (line %1: %2).</source>
-        <translation>Die Datei ist kein wohlgeformtes XML (Zeile %1: %2).</translation>
     </message>
     <message>
         <source>The CII file has no trade transaction: it holds no invoice.</source>
@@ -2977,6 +3061,65 @@ Deutschland</translation>
     </message>
 </context>
 <context>
+    <name>Statement</name>
+    <message>
+        <source>Entry %1</source>
+        <translation>Buchung %1</translation>
+    </message>
+    <message>
+        <source>%1 has no booking date.</source>
+        <translation>%1 hat kein Buchungsdatum.</translation>
+    </message>
+    <message>
+        <source>%1 is booked on %2, a day still to come.</source>
+        <translation>%1 ist am %2 gebucht, einem Tag, der noch kommt.</translation>
+    </message>
+    <message>
+        <source>%1 has no amount above zero.</source>
+        <translation>%1 hat keinen Betrag über null.</translation>
+    </message>
+    <message>
+        <source>%1 is in “%2”, which is no currency code.</source>
+        <translation>%1 lautet auf “%2”, was kein Währungscode ist.</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement: its namespace is “%1”, not CAMT.053 or CAMT.054 (versions 001.02 to 001.08).</source>
+        <translation>Dies ist kein Kontoauszug: Sein Namensraum ist “%1”, nicht CAMT.053 oder CAMT.054 (Versionen 001.02 bis 001.08).</translation>
+    </message>
+    <message>
+        <source>The statement holds no account report.</source>
+        <translation>Der Auszug enthält keinen Kontobericht.</translation>
+    </message>
+    <message>
+        <source>This is not an MT940 statement: it does not begin with a “:20:” field.</source>
+        <translation>Dies ist kein MT940-Auszug: Er beginnt nicht mit einem Feld “:20:”.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the MT940 statement cannot be read: “%2”.</source>
+        <translation>Buchung %1 des MT940-Auszugs kann nicht gelesen werden: “%2”.</translation>
+    </message>
+    <message>
+        <source>The file is larger than any bank statement (%1 MB), so it is not read.</source>
+        <translation>Die Datei ist größer als jeder Kontoauszug (%1 MB), daher wird sie nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>The file declares a DTD; bank statements never do, so it is not read.</source>
+        <translation>Die Datei deklariert eine DTD; Kontoauszüge tun das nie, daher wird sie nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>The file nests its elements more deeply than any bank statement does.</source>
+        <translation>Die Datei verschachtelt ihre Elemente tiefer als jeder Kontoauszug.</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054 or MT940).</source>
+        <translation>Dies ist kein Kontoauszug, den Tabo liest (CAMT.053, CAMT.054 oder MT940).</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be read: %2</source>
+        <translation>Die Datei “%1” konnte nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>Store</name>
     <message>
         <source>Restore your last complete backup (File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or move the file aside to start a new database and restore the automatic backup of your documents (tabo-cli restore auto --yes).</source>
@@ -3279,6 +3422,13 @@ Deutschland</translation>
     <message>
         <source>not a valid XML property list</source>
         <translation>keine gültige XML-Property-List</translation>
+    </message>
+</context>
+<context>
+    <name>XmlTree</name>
+    <message>
+        <source>The file is not well-formed XML (line %1: %2).</source>
+        <translation>Die Datei ist kein wohlgeformtes XML (Zeile %1: %2).</translation>
     </message>
 </context>
 <context>

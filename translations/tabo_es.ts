@@ -1835,6 +1835,57 @@ Cancelar: el próximo documento (%1) llevará el número %3.</translation>
     </message>
 </context>
 <context>
+    <name>Matching</name>
+    <message>
+        <source>%1 more than is due.</source>
+        <translation>%1 más de lo pendiente.</translation>
+    </message>
+    <message>
+        <source>Partly paid: %1 of %2.</source>
+        <translation>Pagada en parte: %1 de %2.</translation>
+    </message>
+    <message>
+        <source>Taken in from an earlier statement.</source>
+        <translation>Registrado desde un extracto anterior.</translation>
+    </message>
+    <message>
+        <source>The text names invoice %1 and the amount is what it owes.</source>
+        <translation>El texto nombra la factura %1 y el importe es lo que debe.</translation>
+    </message>
+    <message>
+        <source>The text names invoice %1.</source>
+        <translation>El texto nombra la factura %1.</translation>
+    </message>
+    <message>
+        <source>The text names %1 open invoices.</source>
+        <translation>El texto nombra %1 facturas abiertas.</translation>
+    </message>
+    <message>
+        <source>The only open invoice of exactly this amount.</source>
+        <translation>La única factura abierta de exactamente este importe.</translation>
+    </message>
+    <message>
+        <source>This amount, from this client.</source>
+        <translation>Este importe, de este cliente.</translation>
+    </message>
+    <message>
+        <source>%1 open invoices owe exactly this amount.</source>
+        <translation>%1 facturas abiertas deben exactamente este importe.</translation>
+    </message>
+    <message>
+        <source>The only open invoice of this client.</source>
+        <translation>La única factura abierta de este cliente.</translation>
+    </message>
+    <message>
+        <source>This client has %1 open invoices, none of this amount.</source>
+        <translation>Este cliente tiene %1 facturas abiertas, ninguna de este importe.</translation>
+    </message>
+    <message>
+        <source>No open invoice fits.</source>
+        <translation>Ninguna factura abierta encaja.</translation>
+    </message>
+</context>
+<context>
     <name>NewCommand</name>
     <message>
         <source>Create a document and print its unique ID.</source>
@@ -2109,6 +2160,43 @@ Puede guardar el PDF y adjuntarlo usted mismo a un mensaje, o abrir la carpeta q
     <message>
         <source>“%1” is the ID of %2 designs; give its title instead.</source>
         <translation>“%1” es el identificador de %2 diseños; indique en su lugar su título.</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentCommands</name>
+    <message>
+        <source>No database is open.</source>
+        <translation>No hay ninguna base de datos abierta.</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentLedger</name>
+    <message>
+        <source>The payments taken in could not be read or written: %1</source>
+        <translation>No se pudieron leer o escribir los pagos registrados: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentsCommand</name>
+    <message>
+        <source>Read a bank statement (CAMT.053, CAMT.054 or MT940) and match its credits against the open invoices: sure (the text names the invoice and the amount is what it owes), proposed, ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid or partly paid. A booking is never taken in twice.</source>
+        <translation>Lee un extracto bancario (CAMT.053, CAMT.054 o MT940) y asigna sus abonos a las facturas abiertas: seguro (el texto nombra la factura y el importe es lo que debe), propuesto, ambiguo, ninguno o ya registrado antes. --apply registra las asignaciones seguras: la factura queda pagada o pagada en parte. Un apunte nunca se registra dos veces.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>Mostrar JSON.</translation>
+    </message>
+    <message>
+        <source>Take in the sure matches.</source>
+        <translation>Registrar las asignaciones seguras.</translation>
+    </message>
+    <message>
+        <source>Unknown “%1”: import.</source>
+        <translation>Desconocido “%1”: import.</translation>
+    </message>
+    <message>
+        <source>Payments taken in: %1.</source>
+        <translation>Pagos registrados: %1.</translation>
     </message>
 </context>
 <context>
@@ -2419,10 +2507,6 @@ Puede guardar el PDF y adjuntarlo usted mismo a un mensaje, o abrir la carpeta q
     <message>
         <source>The file nests its elements more deeply than any e-invoice does.</source>
         <translation>El archivo anida sus elementos más profundamente que cualquier factura electrónica.</translation>
-    </message>
-    <message>
-        <source>The file is not well-formed XML (line %1: %2).</source>
-        <translation>El archivo no es XML bien formado (línea %1: %2).</translation>
     </message>
     <message>
         <source>The CII file has no trade transaction: it holds no invoice.</source>
@@ -2977,6 +3061,65 @@ España</translation>
     </message>
 </context>
 <context>
+    <name>Statement</name>
+    <message>
+        <source>Entry %1</source>
+        <translation>Apunte %1</translation>
+    </message>
+    <message>
+        <source>%1 has no booking date.</source>
+        <translation>%1 no tiene fecha de contabilización.</translation>
+    </message>
+    <message>
+        <source>%1 is booked on %2, a day still to come.</source>
+        <translation>%1 está contabilizado el %2, un día que aún no ha llegado.</translation>
+    </message>
+    <message>
+        <source>%1 has no amount above zero.</source>
+        <translation>%1 no tiene un importe mayor que cero.</translation>
+    </message>
+    <message>
+        <source>%1 is in “%2”, which is no currency code.</source>
+        <translation>%1 está en “%2”, que no es un código de moneda.</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement: its namespace is “%1”, not CAMT.053 or CAMT.054 (versions 001.02 to 001.08).</source>
+        <translation>No es un extracto bancario: su espacio de nombres es “%1”, no CAMT.053 ni CAMT.054 (versiones 001.02 a 001.08).</translation>
+    </message>
+    <message>
+        <source>The statement holds no account report.</source>
+        <translation>El extracto no contiene ningún informe de cuenta.</translation>
+    </message>
+    <message>
+        <source>This is not an MT940 statement: it does not begin with a “:20:” field.</source>
+        <translation>No es un extracto MT940: no empieza con un campo “:20:”.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the MT940 statement cannot be read: “%2”.</source>
+        <translation>No se puede leer el apunte %1 del extracto MT940: “%2”.</translation>
+    </message>
+    <message>
+        <source>The file is larger than any bank statement (%1 MB), so it is not read.</source>
+        <translation>El archivo es mayor que cualquier extracto bancario (%1 MB), así que no se lee.</translation>
+    </message>
+    <message>
+        <source>The file declares a DTD; bank statements never do, so it is not read.</source>
+        <translation>El archivo declara una DTD; los extractos bancarios nunca lo hacen, así que no se lee.</translation>
+    </message>
+    <message>
+        <source>The file nests its elements more deeply than any bank statement does.</source>
+        <translation>El archivo anida sus elementos más profundamente que cualquier extracto bancario.</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054 or MT940).</source>
+        <translation>No es un extracto bancario que Tabo lea (CAMT.053, CAMT.054 o MT940).</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be read: %2</source>
+        <translation>No se pudo leer el archivo “%1”: %2</translation>
+    </message>
+</context>
+<context>
     <name>Store</name>
     <message>
         <source>Restore your last complete backup (File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or move the file aside to start a new database and restore the automatic backup of your documents (tabo-cli restore auto --yes).</source>
@@ -3279,6 +3422,13 @@ España</translation>
     <message>
         <source>not a valid XML property list</source>
         <translation>no es una lista de propiedades XML válida</translation>
+    </message>
+</context>
+<context>
+    <name>XmlTree</name>
+    <message>
+        <source>The file is not well-formed XML (line %1: %2).</source>
+        <translation>El archivo no es XML bien formado (línea %1: %2).</translation>
     </message>
 </context>
 <context>

@@ -1835,6 +1835,57 @@ Annuler : le prochain document (%1) portera le numéro %3.</translation>
     </message>
 </context>
 <context>
+    <name>Matching</name>
+    <message>
+        <source>%1 more than is due.</source>
+        <translation>%1 de plus que le dû.</translation>
+    </message>
+    <message>
+        <source>Partly paid: %1 of %2.</source>
+        <translation>Partiellement payée : %1 sur %2.</translation>
+    </message>
+    <message>
+        <source>Taken in from an earlier statement.</source>
+        <translation>Pris en compte depuis un relevé précédent.</translation>
+    </message>
+    <message>
+        <source>The text names invoice %1 and the amount is what it owes.</source>
+        <translation>Le texte nomme la facture %1 et le montant est ce qu’elle doit.</translation>
+    </message>
+    <message>
+        <source>The text names invoice %1.</source>
+        <translation>Le texte nomme la facture %1.</translation>
+    </message>
+    <message>
+        <source>The text names %1 open invoices.</source>
+        <translation>Le texte nomme %1 factures ouvertes.</translation>
+    </message>
+    <message>
+        <source>The only open invoice of exactly this amount.</source>
+        <translation>La seule facture ouverte de ce montant exact.</translation>
+    </message>
+    <message>
+        <source>This amount, from this client.</source>
+        <translation>Ce montant, de ce client.</translation>
+    </message>
+    <message>
+        <source>%1 open invoices owe exactly this amount.</source>
+        <translation>%1 factures ouvertes doivent exactement ce montant.</translation>
+    </message>
+    <message>
+        <source>The only open invoice of this client.</source>
+        <translation>La seule facture ouverte de ce client.</translation>
+    </message>
+    <message>
+        <source>This client has %1 open invoices, none of this amount.</source>
+        <translation>Ce client a %1 factures ouvertes, aucune de ce montant.</translation>
+    </message>
+    <message>
+        <source>No open invoice fits.</source>
+        <translation>Aucune facture ouverte ne correspond.</translation>
+    </message>
+</context>
+<context>
     <name>NewCommand</name>
     <message>
         <source>Create a document and print its unique ID.</source>
@@ -2109,6 +2160,43 @@ Vous pouvez enregistrer le PDF et le joindre vous-même à un message, ou ouvrir
     <message>
         <source>“%1” is the ID of %2 designs; give its title instead.</source>
         <translation>“%1” est l’identifiant de %2 designs ; donnez plutôt son titre.</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentCommands</name>
+    <message>
+        <source>No database is open.</source>
+        <translation>Aucune base de données n’est ouverte.</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentLedger</name>
+    <message>
+        <source>The payments taken in could not be read or written: %1</source>
+        <translation>Les paiements pris en compte n’ont pas pu être lus ou écrits : %1</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentsCommand</name>
+    <message>
+        <source>Read a bank statement (CAMT.053, CAMT.054 or MT940) and match its credits against the open invoices: sure (the text names the invoice and the amount is what it owes), proposed, ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid or partly paid. A booking is never taken in twice.</source>
+        <translation>Lit un relevé bancaire (CAMT.053, CAMT.054 ou MT940) et rapproche ses crédits des factures ouvertes : sûr (le texte nomme la facture et le montant est ce qu’elle doit), proposé, ambigu, aucun ou déjà pris en compte. --apply prend en compte les rapprochements sûrs : la facture est payée ou partiellement payée. Une écriture n’est jamais prise en compte deux fois.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>Afficher en JSON.</translation>
+    </message>
+    <message>
+        <source>Take in the sure matches.</source>
+        <translation>Prendre en compte les rapprochements sûrs.</translation>
+    </message>
+    <message>
+        <source>Unknown “%1”: import.</source>
+        <translation>Inconnu “%1” : import.</translation>
+    </message>
+    <message>
+        <source>Payments taken in: %1.</source>
+        <translation>Paiements pris en compte : %1.</translation>
     </message>
 </context>
 <context>
@@ -2419,10 +2507,6 @@ Vous pouvez enregistrer le PDF et le joindre vous-même à un message, ou ouvrir
     <message>
         <source>The file nests its elements more deeply than any e-invoice does.</source>
         <translation>Le fichier imbrique ses éléments plus profondément qu’aucune facture électronique.</translation>
-    </message>
-    <message>
-        <source>The file is not well-formed XML (line %1: %2).</source>
-        <translation>Le fichier n’est pas du XML bien formé (ligne %1 : %2).</translation>
     </message>
     <message>
         <source>The CII file has no trade transaction: it holds no invoice.</source>
@@ -2977,6 +3061,65 @@ France</translation>
     </message>
 </context>
 <context>
+    <name>Statement</name>
+    <message>
+        <source>Entry %1</source>
+        <translation>Écriture %1</translation>
+    </message>
+    <message>
+        <source>%1 has no booking date.</source>
+        <translation>%1 n’a pas de date de comptabilisation.</translation>
+    </message>
+    <message>
+        <source>%1 is booked on %2, a day still to come.</source>
+        <translation>%1 est comptabilisée le %2, un jour encore à venir.</translation>
+    </message>
+    <message>
+        <source>%1 has no amount above zero.</source>
+        <translation>%1 n’a pas de montant supérieur à zéro.</translation>
+    </message>
+    <message>
+        <source>%1 is in “%2”, which is no currency code.</source>
+        <translation>%1 est en “%2”, qui n’est pas un code de devise.</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement: its namespace is “%1”, not CAMT.053 or CAMT.054 (versions 001.02 to 001.08).</source>
+        <translation>Ce n’est pas un relevé bancaire : son espace de noms est “%1”, pas CAMT.053 ou CAMT.054 (versions 001.02 à 001.08).</translation>
+    </message>
+    <message>
+        <source>The statement holds no account report.</source>
+        <translation>Le relevé ne contient aucun rapport de compte.</translation>
+    </message>
+    <message>
+        <source>This is not an MT940 statement: it does not begin with a “:20:” field.</source>
+        <translation>Ce n’est pas un relevé MT940 : il ne commence pas par un champ “:20:”.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the MT940 statement cannot be read: “%2”.</source>
+        <translation>L’écriture %1 du relevé MT940 ne peut pas être lue : “%2”.</translation>
+    </message>
+    <message>
+        <source>The file is larger than any bank statement (%1 MB), so it is not read.</source>
+        <translation>Le fichier est plus gros que tout relevé bancaire (%1 Mo), il n’est donc pas lu.</translation>
+    </message>
+    <message>
+        <source>The file declares a DTD; bank statements never do, so it is not read.</source>
+        <translation>Le fichier déclare une DTD ; les relevés bancaires ne le font jamais, il n’est donc pas lu.</translation>
+    </message>
+    <message>
+        <source>The file nests its elements more deeply than any bank statement does.</source>
+        <translation>Le fichier imbrique ses éléments plus profondément qu’aucun relevé bancaire.</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054 or MT940).</source>
+        <translation>Ce n’est pas un relevé bancaire que Tabo lit (CAMT.053, CAMT.054 ou MT940).</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be read: %2</source>
+        <translation>Le fichier “%1” n’a pas pu être lu : %2</translation>
+    </message>
+</context>
+<context>
     <name>Store</name>
     <message>
         <source>Restore your last complete backup (File ▸ Restore Database, or: tabo-cli restore database FILE --yes), or move the file aside to start a new database and restore the automatic backup of your documents (tabo-cli restore auto --yes).</source>
@@ -3279,6 +3422,13 @@ France</translation>
     <message>
         <source>not a valid XML property list</source>
         <translation>pas une liste de propriétés XML valide</translation>
+    </message>
+</context>
+<context>
+    <name>XmlTree</name>
+    <message>
+        <source>The file is not well-formed XML (line %1: %2).</source>
+        <translation>Le fichier n’est pas du XML bien formé (ligne %1 : %2).</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,7 @@
 #include "app/ItemCommands.h"
 #include "app/NotificationCommands.h"
 #include "app/OutputCommands.h"
+#include "app/PaymentCommands.h"
 #include "app/ReportCommands.h"
 #include "app/TemplateCommands.h"
 #include "app/UndoHistory.h"
@@ -23,8 +24,8 @@
 #include "prefs/Locations.h"
 #include "prefs/Preferences.h"
 #include "prefs/ProtectedFiles.h"
-#include "store/Store.h"
 #include "store/NumberCounters.h"
+#include "store/Store.h"
 #include "store/StoreFile.h"
 
 #include <QDebug>
@@ -66,11 +67,12 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_accounting(std::make_unique<AccountingExport>(*this, m_list, prefs, ui))
     , m_designs(std::make_unique<DesignLibrary>(*this, prefs, ui))
     , m_outputs(std::make_unique<OutputCommands>(*this, *m_designs, *m_files, *m_undo, *this, prefs, ui))
-    , m_documents(std::make_unique<DocumentCommands>(*this, *this, *this, *this, *m_undo, m_outputs->formatters(),
-                                                     prefs, ui))
+    , m_documents(
+          std::make_unique<DocumentCommands>(*this, *this, *this, *this, *m_undo, m_outputs->formatters(), prefs, ui))
     , m_reports(std::make_unique<ReportCommands>(*this, *m_outputs, prefs, ui))
     , m_notifications(std::make_unique<NotificationCommands>(*this, *this, *this, prefs, ui))
     , m_einvoices(std::make_unique<EInvoiceCommands>(*this, *m_documents, *m_outputs, prefs, ui))
+    , m_payments(std::make_unique<PaymentCommands>(*this, *this))
 {
     m_outputs->setEInvoices(*m_einvoices);
     setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });

@@ -23,6 +23,7 @@ class DesignLibrary;
 class OutputCommands;
 class DocumentCommands;
 class EInvoiceCommands;
+class PaymentCommands;
 class FileCommands;
 class Interaction;
 class ItemCommands;
@@ -192,6 +193,7 @@ public:
     ReportCommands &reports() { return *m_reports; }
     NotificationCommands &notifications() { return *m_notifications; }
     EInvoiceCommands &einvoices() { return *m_einvoices; }
+    PaymentCommands &payments() { return *m_payments; }
     TemplateCommands &templates() { return *m_templates; }
     FileCommands &files() { return *m_files; }
     BackupCommands &backups() { return *m_backups; }
@@ -300,6 +302,7 @@ private:
     std::unique_ptr<ReportCommands> m_reports;
     std::unique_ptr<NotificationCommands> m_notifications;
     std::unique_ptr<EInvoiceCommands> m_einvoices;
+    std::unique_ptr<PaymentCommands> m_payments;
     bool m_tabo2TemplatePending = false;
     QString m_backupPath;
     QString m_pdfPath;

@@ -23,6 +23,7 @@
 #include "cli/ListCommand.h"
 #include "cli/NewCommand.h"
 #include "cli/NotifyCommand.h"
+#include "cli/PaymentsCommand.h"
 #include "cli/PrefsCommand.h"
 #include "cli/PrintCommand.h"
 #include "cli/RenderCommand.h"
@@ -147,6 +148,7 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<RenderCommand>(session));
     commands.push_back(std::make_unique<PrintCommand>(session));
     commands.push_back(std::make_unique<EmailCommand>(session));
+    commands.push_back(std::make_unique<PaymentsCommand>(session));
     commands.push_back(std::make_unique<EInvoiceCommand>(session));
     commands.push_back(std::make_unique<DesignCommand>(session));
 

@@ -1,5 +1,7 @@
 #include "einvoice/Reader.h"
 
+#include "base/XmlTree.h"
+
 #include "domain/UnitCodes.h"
 #include "einvoice/CiiWriter.h"
 
@@ -8,7 +10,6 @@
 #include <QLocale>
 #include <QRegularExpression>
 #include <QScopeGuard>
-#include <QXmlStreamReader>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
@@ -52,102 +53,30 @@ double readAmount(const QString &text, QStringView where)
     return 0.0;
 }
 
-// The element tree, by local names: the two syntaxes' names do not clash
-// within a document, and the root's namespace has been checked.
-struct Node
+using xml::Node;
+
+double number(const Node &node, QStringView path, bool *present = nullptr)
 {
-    QString name;
-    QString text;
-    QHash<QString, QString> attributes;
-    std::vector<std::unique_ptr<Node>> children;
+    const QString text = node.value(path);
+    if (present)
+        *present = !text.isEmpty();
+    return readAmount(text, path.mid(path.lastIndexOf(u'/') + 1));
+}
 
-    const Node *child(QStringView n) const
-    {
-        for (const auto &c : children)
-            if (c->name == n)
-                return c.get();
-        return nullptr;
-    }
-    QList<const Node *> all(QStringView n) const
-    {
-        QList<const Node *> out;
-        for (const auto &c : children)
-            if (c->name == n)
-                out << c.get();
-        return out;
-    }
-    // "A/B/C": the first match of each step; empty when absent.
-    const Node *at(QStringView path) const
-    {
-        const Node *n = this;
-        for (QStringView step : path.split(u'/')) {
-            n = n->child(step);
-            if (!n)
-                return nullptr;
-        }
-        return n;
-    }
-    QString value(QStringView path) const
-    {
-        const Node *n = at(path);
-        return n ? n->text.trimmed() : QString();
-    }
-    double number(QStringView path, bool *present = nullptr) const
-    {
-        const QString text = value(path);
-        if (present)
-            *present = !text.isEmpty();
-        return readAmount(text, path.mid(path.lastIndexOf(u'/') + 1));
-    }
-};
-
-// The tree of `xml`; its root's namespace goes to `rootNamespace`.
+// The tree of `xml`; its root's namespace goes to `rootNamespace`. The two
+// syntaxes' names do not clash within a document, and the root's namespace
+// is checked, so local names suffice.
 Result<std::shared_ptr<Node>> parse(const QByteArray &xml, QString *rootNamespace)
 {
-    QXmlStreamReader reader(xml);
-    std::unique_ptr<Node> root;
-    std::vector<Node *> open;
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::DTD:
-            // Entities are how an XML file makes a reader expand or fetch
-            // more than it holds; no e-invoice needs one.
-            return Error::file(Tr::tr("The file declares a DTD; e-invoices never do, so it is not read."));
-        case QXmlStreamReader::StartElement: {
-            auto node = std::make_unique<Node>();
-            node->name = reader.name().toString();
-            for (const QXmlStreamAttribute &a : reader.attributes())
-                node->attributes.insert(a.name().toString(), a.value().toString());
-            Node *raw = node.get();
-            if (open.empty()) {
-                *rootNamespace = reader.namespaceUri().toString();
-                root = std::move(node);
-            } else {
-                open.back()->children.push_back(std::move(node));
-            }
-            open.push_back(raw);
-            if (open.size() > 64) {
-                return Error::file(Tr::tr("The file nests its elements more deeply than any e-invoice does."));
-            }
-            break;
-        }
-        case QXmlStreamReader::EndElement:
-            open.pop_back();
-            break;
-        case QXmlStreamReader::Characters:
-            if (!open.empty())
-                open.back()->text += reader.text();
-            break;
-        default:
-            break;
-        }
-    }
-    if (reader.hasError() || !root) {
-        return Error::file(Tr::tr("The file is not well-formed XML (line %1: %2).")
-                               .arg(reader.lineNumber())
-                               .arg(reader.errorString()));
-    }
-    return std::shared_ptr<Node>(std::move(root));
+    // Entities are how an XML file makes a reader expand or fetch more than
+    // it holds; no e-invoice needs one.
+    const Result<xml::Tree> tree = xml::parse(xml, 64,
+        { Tr::tr("The file declares a DTD; e-invoices never do, so it is not read."),
+            Tr::tr("The file nests its elements more deeply than any e-invoice does.") });
+    if (!tree)
+        return tree.error();
+    *rootNamespace = tree.value().rootNamespace;
+    return tree.value().root;
 }
 
 QDate day(const QString &text)
@@ -165,7 +94,7 @@ TaxCategory category(const Node *tax, QStringView code, QStringView rate, QStrin
     if (!tax)
         return c;
     c.code = tax->value(code);
-    c.rate = tax->number(rate);
+    c.rate = number(*tax, rate);
     c.exemptionReason = tax->value(reason);
     return c;
 }
@@ -227,19 +156,20 @@ Line ciiLine(const Node *item)
     line.name = item->value(u"SpecifiedTradeProduct/Name");
     line.description = item->value(u"SpecifiedTradeProduct/Description");
     line.sellerId = item->value(u"SpecifiedTradeProduct/SellerAssignedID");
-    line.price = item->number(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/ChargeAmount");
+    line.price = number(*item, u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/ChargeAmount");
     if (const Node *base = item->at(u"SpecifiedLineTradeAgreement/NetPriceProductTradePrice/BasisQuantity"))
         line.baseQuantity = readAmount(base->text.trimmed(), u"BasisQuantity");
     if (const Node *settlement = item->child(u"SpecifiedLineTradeSettlement"))
         for (const Node *ac : settlement->all(u"SpecifiedTradeAllowanceCharge")) {
-            const double amount = ac->number(u"ActualAmount");
+            const double amount = number(*ac, u"ActualAmount");
             line.adjustment += ac->value(u"ChargeIndicator/Indicator") == QLatin1String("true") ? amount : -amount;
         }
     if (const Node *q = item->at(u"SpecifiedLineTradeDelivery/BilledQuantity")) {
         line.quantity = readAmount(q->text.trimmed(), u"BilledQuantity");
         line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
     }
-    line.net = item->number(u"SpecifiedLineTradeSettlement/SpecifiedTradeSettlementLineMonetarySummation/LineTotalAmount");
+    line.net
+        = number(*item, u"SpecifiedLineTradeSettlement/SpecifiedTradeSettlementLineMonetarySummation/LineTotalAmount");
     line.tax = ciiCategory(item->at(u"SpecifiedLineTradeSettlement/ApplicableTradeTax"));
     return line;
 }
@@ -250,18 +180,18 @@ bool readCiiTotals(const Node *sum, Model &m)
     bool grand = false, due = false;
     if (!sum)
         return false;
-    m.lineTotal = sum->number(u"LineTotalAmount");
-    m.chargeTotal = sum->number(u"ChargeTotalAmount");
-    m.allowanceTotal = sum->number(u"AllowanceTotalAmount");
-    m.taxExclusive = sum->number(u"TaxBasisTotalAmount");
+    m.lineTotal = number(*sum, u"LineTotalAmount");
+    m.chargeTotal = number(*sum, u"ChargeTotalAmount");
+    m.allowanceTotal = number(*sum, u"AllowanceTotalAmount");
+    m.taxExclusive = number(*sum, u"TaxBasisTotalAmount");
     // The tax total may be stated twice, once in a tax currency.
     for (const Node *t : sum->all(u"TaxTotalAmount"))
         if (t->attributes.value(QStringLiteral("currencyID"), m.currency) == m.currency)
             m.taxTotal = readAmount(t->text.trimmed(), u"TaxTotalAmount");
-    m.rounding = sum->number(u"RoundingAmount");
-    m.taxInclusive = sum->number(u"GrandTotalAmount", &grand);
-    m.prepaid = sum->number(u"TotalPrepaidAmount");
-    m.payable = sum->number(u"DuePayableAmount", &due);
+    m.rounding = number(*sum, u"RoundingAmount");
+    m.taxInclusive = number(*sum, u"GrandTotalAmount", &grand);
+    m.prepaid = number(*sum, u"TotalPrepaidAmount");
+    m.payable = number(*sum, u"DuePayableAmount", &due);
     return grand && due;
 }
 
@@ -298,11 +228,11 @@ Error readCii(const Node &root, Received *out)
         m.bic = means->value(u"PayeeSpecifiedCreditorFinancialInstitution/BICID");
     }
     for (const Node *t : settlement->all(u"ApplicableTradeTax"))
-        m.taxes << TaxBreakdown{ciiCategory(t), t->number(u"BasisAmount"), t->number(u"CalculatedAmount")};
+        m.taxes << TaxBreakdown { ciiCategory(t), number(*t, u"BasisAmount"), number(*t, u"CalculatedAmount") };
     for (const Node *ac : settlement->all(u"SpecifiedTradeAllowanceCharge")) {
         AllowanceCharge a;
         a.charge = ac->value(u"ChargeIndicator/Indicator") == QLatin1String("true");
-        a.amount = ac->number(u"ActualAmount");
+        a.amount = number(*ac, u"ActualAmount");
         a.reason = ac->value(u"Reason");
         a.tax = ciiCategory(ac->child(u"CategoryTradeTax"));
         m.allowancesCharges << a;
@@ -354,15 +284,15 @@ Line ublLine(const Node *item, bool credit)
     if (const Node *base = item->at(u"Price/BaseQuantity"))
         line.baseQuantity = readAmount(base->text.trimmed(), u"BaseQuantity");
     for (const Node *ac : item->all(u"AllowanceCharge")) {
-        const double amount = ac->number(u"Amount");
+        const double amount = number(*ac, u"Amount");
         line.adjustment += ac->value(u"ChargeIndicator") == QLatin1String("true") ? amount : -amount;
     }
     if (const Node *q = item->child(credit ? u"CreditedQuantity" : u"InvoicedQuantity")) {
         line.quantity = readAmount(q->text.trimmed(), credit ? u"CreditedQuantity" : u"InvoicedQuantity");
         line.unitCode = q->attributes.value(QStringLiteral("unitCode"));
     }
-    line.net = item->number(u"LineExtensionAmount");
-    line.price = item->number(u"Price/PriceAmount");
+    line.net = number(*item, u"LineExtensionAmount");
+    line.price = number(*item, u"Price/PriceAmount");
     line.tax = ublCategory(item->at(u"Item/ClassifiedTaxCategory"));
     return line;
 }
@@ -394,7 +324,7 @@ Error readUbl(const Node &root, bool credit, Received *out)
     for (const Node *ac : root.all(u"AllowanceCharge")) {
         AllowanceCharge a;
         a.charge = ac->value(u"ChargeIndicator") == QLatin1String("true");
-        a.amount = ac->number(u"Amount");
+        a.amount = number(*ac, u"Amount");
         a.reason = ac->value(u"AllowanceChargeReason");
         a.tax = ublCategory(ac->child(u"TaxCategory"));
         m.allowancesCharges << a;
@@ -402,25 +332,25 @@ Error readUbl(const Node &root, bool credit, Received *out)
     for (const Node *total : root.all(u"TaxTotal")) {
         if (total->all(u"TaxSubtotal").isEmpty())
             continue; // the total in a tax currency
-        m.taxTotal = total->number(u"TaxAmount");
+        m.taxTotal = number(*total, u"TaxAmount");
         for (const Node *t : total->all(u"TaxSubtotal"))
-            m.taxes << TaxBreakdown{ublCategory(t->child(u"TaxCategory")), t->number(u"TaxableAmount"),
-                                    t->number(u"TaxAmount")};
+            m.taxes << TaxBreakdown { ublCategory(t->child(u"TaxCategory")), number(*t, u"TaxableAmount"),
+                number(*t, u"TaxAmount") };
     }
     const Node *sum = root.child(u"LegalMonetaryTotal");
     bool grand = false, due = false;
     if (sum) {
-        m.lineTotal = sum->number(u"LineExtensionAmount");
-        m.taxExclusive = sum->number(u"TaxExclusiveAmount");
-        m.taxInclusive = sum->number(u"TaxInclusiveAmount", &grand);
-        m.allowanceTotal = sum->number(u"AllowanceTotalAmount");
-        m.chargeTotal = sum->number(u"ChargeTotalAmount");
-        m.prepaid = sum->number(u"PrepaidAmount");
-        m.rounding = sum->number(u"PayableRoundingAmount");
-        m.payable = sum->number(u"PayableAmount", &due);
+        m.lineTotal = number(*sum, u"LineExtensionAmount");
+        m.taxExclusive = number(*sum, u"TaxExclusiveAmount");
+        m.taxInclusive = number(*sum, u"TaxInclusiveAmount", &grand);
+        m.allowanceTotal = number(*sum, u"AllowanceTotalAmount");
+        m.chargeTotal = number(*sum, u"ChargeTotalAmount");
+        m.prepaid = number(*sum, u"PrepaidAmount");
+        m.rounding = number(*sum, u"PayableRoundingAmount");
+        m.payable = number(*sum, u"PayableAmount", &due);
     }
     for (const Node *payment : root.all(u"PrepaidPayment"))
-        m.thirdParty += payment->number(u"PaidAmount");
+        m.thirdParty += number(*payment, u"PaidAmount");
     if (!grand || !due) {
         return Error::file(Tr::tr("The invoice states no total with VAT or amount due: its totals are missing."));
     }

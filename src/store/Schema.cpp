@@ -65,7 +65,7 @@ Error addStoreOnlyColumns(sqlite3 *db)
 const std::vector<std::function<Error(sqlite3 *)>> &steps()
 {
     static const std::vector<std::function<Error(sqlite3 *)>> list = {
-        /* 1 */ [](sqlite3 *) { return Error{}; },
+        /* 1 */ [](sqlite3 *) { return Error {}; },
         /* 2: the change journal */
         [](sqlite3 *db) {
             for (const QString &sql : changeJournalSql())
@@ -85,6 +85,8 @@ const std::vector<std::function<Error(sqlite3 *)>> &steps()
         [](sqlite3 *db) { return exec(db, counterTableSql()); },
         /* 6: which calculation a document's figures come from */
         addStoreOnlyColumns,
+        /* 7: the bank bookings taken in as payments */
+        [](sqlite3 *db) { return exec(db, paymentTableSql()); },
     };
     return list;
 }
@@ -191,6 +193,14 @@ QString counterTableSql()
         .arg(kCounterTable);
 }
 
+QString paymentTableSql()
+{
+    return QStringLiteral(
+        "CREATE TABLE IF NOT EXISTS \"%1\" (\"reference\" TEXT PRIMARY KEY, \"invoice\" TEXT NOT NULL, "
+        "\"cents\" INTEGER NOT NULL, \"booked\" TEXT NOT NULL, \"payer\" TEXT, \"iban\" TEXT)")
+        .arg(kPaymentTable);
+}
+
 Error create(sqlite3 *db, int version)
 {
     for (int i = 0; i < kEntityCount; ++i)
@@ -205,6 +215,8 @@ Error create(sqlite3 *db, int version)
     if (Error e = exec(db, notificationTableSql()))
         return e;
     if (Error e = exec(db, counterTableSql()))
+        return e;
+    if (Error e = exec(db, paymentTableSql()))
         return e;
     return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(version));
 }

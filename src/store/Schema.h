@@ -38,6 +38,10 @@ inline const QString kNotificationTable = QStringLiteral("_Notification");
 QString notificationTableSql();
 inline const QString kCounterTable = QStringLiteral("_Counter");
 QString counterTableSql();
+// The bank bookings taken in as payments, by the bank's reference: a second
+// import of the same statement finds them here.
+inline const QString kPaymentTable = QStringLiteral("_Payment");
+QString paymentTableSql();
 // A new, empty store.
 Error create(sqlite3 *db, int version);
 

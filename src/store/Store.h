@@ -61,6 +61,10 @@ public:
     // write lock is held and the store is current, so what it computes from
     // the store (the next number) cannot be taken by another process.
     Error save(const std::function<void()> &inTransaction = {});
+    // The same, for work that also writes rows of its own tables and may
+    // refuse: `inTransaction` runs (also when nothing is changed yet) with the
+    // write lock held and the store current; an error rolls everything back.
+    Error saveWith(const std::function<Error(sqlite3 *)> &inTransaction);
 
     // Whether another connection committed since this one last looked.
     bool changedElsewhere();
@@ -111,7 +115,7 @@ public:
     // returns an error to roll back.
     Error write(const std::function<Error(sqlite3 *)> &body);
 
-    static constexpr int kSchemaVersion = 6;
+    static constexpr int kSchemaVersion = 7;
 
 private:
     friend class Record;

@@ -632,6 +632,15 @@ Error Store::save(const std::function<void()> &inTransaction)
 {
     if (m_dirty.isEmpty())
         return {};
+    return saveWith([&inTransaction](sqlite3 *) {
+        if (inTransaction)
+            inTransaction();
+        return Error {};
+    });
+}
+
+Error Store::saveWith(const std::function<Error(sqlite3 *)> &inTransaction)
+{
     if (!m_db)
         return Error { Error::Tabo, 9999, Tr::tr("Failed to initialize the store"),
             Tr::tr("There was an error building up the data file.") };
@@ -644,8 +653,8 @@ Error Store::save(const std::function<void()> &inTransaction)
         return Error { e.source, e.code, Tr::tr("The changes could not be saved."), e.message() };
     };
     refreshIfChanged();
-    if (inTransaction)
-        inTransaction();
+    if (const Error e = inTransaction(m_db))
+        return fail(e);
     if (m_damaged)
         return fail(damagedError());
     if (const Error e = assignNewIds())

@@ -602,6 +602,29 @@ run 0 einvoice export "$CN" --xrechnung-cii "$T/credit.xml"
 grep -q '<ram:TypeCode>381</ram:TypeCode>' "$T/credit.xml" && grep -q 'InvoiceReferencedDocument' "$T/credit.xml" \
     && pass=$((pass + 1)) || bad "the credit note's e-invoice is not a credit note"
 
+# --- payments from a bank statement ----------------------------------------
+P=$("$CLI" new invoice)
+"$CLI" set "$P" number PAY-77 >/dev/null
+"$CLI" set "$P" amount 321.5 >/dev/null
+"$CLI" set "$P" status 1 >/dev/null
+today=$(date +%F)
+cat >"$T/statement.xml" <<XML
+<?xml version="1.0"?><Document xmlns="urn:iso:std:iso:20022:tech:xsd:camt.053.001.02"><BkToCstmrStmt><Stmt><Id>S</Id>
+<Ntry><Amt Ccy="EUR">321.50</Amt><CdtDbtInd>CRDT</CdtDbtInd><BookgDt><Dt>$today</Dt></BookgDt><AcctSvcrRef>R-1</AcctSvcrRef>
+<NtryDtls><TxDtls><RmtInf><Ustrd>pay 77 Rechnung PAY 77</Ustrd></RmtInf></TxDtls></NtryDtls></Ntry></Stmt></BkToCstmrStmt></Document>
+XML
+run 0 payments import "$T/statement.xml" --json
+jcheck 'd["format"] == "CAMT.053" and d["applied"] == 0 and d["credits"][0]["confidence"] == "sure" and d["credits"][0]["number"] == "PAY-77"'
+run 0 payments import "$T/statement.xml" --apply --json
+jcheck 'd["applied"] == 1'
+run 0 show "$P" --json
+jcheck 'd["status"] == 3 and abs(d["paidAmount"] - 321.5) < 1e-9'
+run 0 payments import "$T/statement.xml" --apply --json
+jcheck 'd["applied"] == 0 and d["credits"][0]["confidence"] == "imported"'
+printf 'date;amount\n' >"$T/not-a-statement.csv"
+run 1 payments import "$T/not-a-statement.csv"
+run 2 payments export "$T/statement.xml"
+
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"
 printf 'not a database, just text\n' >"$T/other/data/Tabo/Tabo.mbdb"

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/Result.h"
+#include "payments/Matching.h"
+
+namespace tabo {
+
+class ListedDocuments;
+class StoreAccess;
+
+// Money in: a bank statement read, its credits matched against the open
+// invoices, and the accepted matches applied in one transaction that also
+// records each booking, so that no booking is ever counted twice.
+class PaymentCommands
+{
+public:
+    PaymentCommands(StoreAccess &store, ListedDocuments &list)
+        : m_store(store)
+        , m_list(list)
+    {
+    }
+
+    struct Review
+    {
+        payments::Statement statement;
+        QList<payments::Proposal> proposals;
+    };
+    // Reads and matches; changes nothing.
+    Result<Review> review(const QString &path);
+
+    // Applies each proposal's credit to its invoice: the paid amount rises;
+    // paid in full, the invoice is paid on the booking day, else partly paid.
+    // A booking another process took in meanwhile is left out. Returns how
+    // many were applied.
+    Result<int> apply(const QList<payments::Proposal> &accepted);
+
+private:
+    StoreAccess &m_store;
+    ListedDocuments &m_list;
+};
+
+} // namespace tabo
