@@ -4,6 +4,7 @@
 // that one alone); exits non-zero only when the data cannot be made.
 
 #include "EditorBench.h"
+#include "PaymentsBench.h"
 #include "RenderBench.h"
 #include "StoreGenerator.h"
 
@@ -261,6 +262,8 @@ int main(int argc, char **argv)
     const bool renderOnly = QCoreApplication::arguments().contains(QStringLiteral("--render-only"));
     if (QCoreApplication::arguments().contains(QStringLiteral("--editor-only")))
         return bench::runEditorBench();
+    if (QCoreApplication::arguments().contains(QStringLiteral("--payments-only")))
+        return bench::runPaymentsBench();
     if (!renderOnly) {
         if (const int code = storeTable(); code != 0)
             return code;
@@ -275,5 +278,9 @@ int main(int argc, char **argv)
         return 0;
     std::printf("\n");
     std::fflush(stdout);
-    return bench::runEditorBench();
+    if (const int code = bench::runEditorBench())
+        return code;
+    std::printf("\n");
+    std::fflush(stdout);
+    return bench::runPaymentsBench();
 }

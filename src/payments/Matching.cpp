@@ -57,16 +57,6 @@ QString clientName(const Record &invoice)
     return company.isEmpty() ? invoice.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed() : company;
 }
 
-bool paidBy(const Record &invoice, const Credit &credit, const QHash<QString, QString> &payerOfIban)
-{
-    if (!credit.iban.isEmpty() && payerOfIban.value(credit.iban) == clientName(invoice)
-        && !clientName(invoice).isEmpty())
-        return true;
-    const QString name = squeezed(clientName(invoice));
-    const QString payer = squeezed(credit.payer);
-    return name.size() >= 4 && payer.size() >= 4 && (payer.contains(name) || name.contains(payer));
-}
-
 QString money(qint64 cents)
 {
     return QString::number(double(cents) / 100.0, 'f', 2);
@@ -118,16 +108,58 @@ QList<Record *> openInvoices(const QList<Record *> &documents)
 }
 
 QList<Proposal> match(const QList<Credit> &credits, const QList<Record *> &open,
-    const QHash<QString, QString> &payerOfIban, const QSet<QString> &imported)
+                      const QHash<QString, QString> &payerOfIban, const QSet<QString> &imported)
 {
-    // Numbers and amounts once, not once per credit: a statement of
-    // thousands of entries meets a list of thousands of invoices.
+    // Looked up, not compared one by one: a statement of thousands of
+    // entries meets a list of many thousands of invoices.
     QHash<qint64, QList<Record *>> byDue;
-    QList<QPair<QString, Record *>> numbers;
+    QHash<QString, QList<Record *>> byNumber;
+    QSet<qsizetype> numberLengths;
+    QHash<QString, QList<Record *>> byClient;
     for (Record *invoice : open) {
         byDue[dueCentsOf(*invoice)] << invoice;
-        numbers.append({ squeezed(invoice->text(Invoice::number)), invoice });
+        const QString number = squeezed(invoice->text(Invoice::number));
+        if (!number.isEmpty()) {
+            byNumber[number] << invoice;
+            numberLengths << number.size();
+        }
+        const QString client = squeezed(clientName(*invoice));
+        if (client.size() >= 4)
+            byClient[client] << invoice;
     }
+    // The invoices named in `text`: each stretch of the length of some
+    // number, looked up, and kept when it stands whole ("RE1" is not in "RE12").
+    const auto namedIn = [&](const QString &text) {
+        QList<Record *> named;
+        for (const qsizetype length : numberLengths) {
+            for (qsizetype at = 0; at + length <= text.size(); ++at) {
+                const auto found = byNumber.constFind(text.mid(at, length));
+                if (found == byNumber.cend() || !mentions(text.mid(at > 0 ? at - 1 : at, length + (at > 0) + 1),
+                                                          found.key()))
+                    continue;
+                for (Record *invoice : *found)
+                    if (!named.contains(invoice))
+                        named << invoice;
+            }
+        }
+        return named;
+    };
+    // The open invoices of the payer: a client name within the payer's
+    // name, or the client an IBAN paid for before.
+    const auto ofPayer = [&](const Credit &credit) {
+        QList<Record *> theirs;
+        const QString payer = squeezed(credit.payer);
+        for (qsizetype length = 4; length <= payer.size(); ++length)
+            for (qsizetype at = 0; at + length <= payer.size(); ++at)
+                for (Record *invoice : byClient.value(payer.mid(at, length)))
+                    if (!theirs.contains(invoice))
+                        theirs << invoice;
+        if (!credit.iban.isEmpty() && payerOfIban.contains(credit.iban))
+            for (Record *invoice : byClient.value(squeezed(payerOfIban.value(credit.iban))))
+                if (!theirs.contains(invoice))
+                    theirs << invoice;
+        return theirs;
+    };
     QList<Proposal> out;
     out.reserve(credits.size());
     for (const Credit &credit : credits) {
@@ -139,48 +171,40 @@ QList<Proposal> match(const QList<Credit> &credits, const QList<Record *> &open,
             out << p;
             continue;
         }
-        const QString text = squeezed(credit.text);
-        QList<Record *> named;
-        for (const auto &[number, invoice] : std::as_const(numbers))
-            if (mentions(text, number))
-                named << invoice;
+        const QList<Record *> named = namedIn(squeezed(credit.text));
         QList<Record *> namedExactly;
-        for (Record *invoice : std::as_const(named))
+        for (Record *invoice : named)
             if (dueCentsOf(*invoice) == credit.cents)
                 namedExactly << invoice;
         const QList<Record *> sameAmount = byDue.value(credit.cents);
-        QList<Record *> byPayer;
-        for (Record *invoice : open)
-            if (paidBy(*invoice, credit, payerOfIban))
-                byPayer << invoice;
 
         if (namedExactly.size() == 1) {
             settle(p, namedExactly.first(), Confidence::Sure,
-                Tr::tr("The text names invoice %1 and the amount is what it owes.")
-                    .arg(namedExactly.first()->text(Invoice::number)));
+                   Tr::tr("The text names invoice %1 and the amount is what it owes.")
+                       .arg(namedExactly.first()->text(Invoice::number)));
         } else if (named.size() == 1) {
             settle(p, named.first(), Confidence::Proposed,
-                Tr::tr("The text names invoice %1.").arg(named.first()->text(Invoice::number)));
+                   Tr::tr("The text names invoice %1.").arg(named.first()->text(Invoice::number)));
         } else if (named.size() > 1) {
             ambiguous(p, named, Tr::tr("The text names %1 open invoices.").arg(named.size()));
         } else if (sameAmount.size() == 1) {
-            settle(
-                p, sameAmount.first(), Confidence::Proposed, Tr::tr("The only open invoice of exactly this amount."));
+            settle(p, sameAmount.first(), Confidence::Proposed, Tr::tr("The only open invoice of exactly this amount."));
         } else if (sameAmount.size() > 1) {
+            const QList<Record *> payers = ofPayer(credit);
             QList<Record *> theirs;
             for (Record *invoice : sameAmount)
-                if (byPayer.contains(invoice))
+                if (payers.contains(invoice))
                     theirs << invoice;
             if (theirs.size() == 1)
                 settle(p, theirs.first(), Confidence::Proposed, Tr::tr("This amount, from this client."));
             else
                 ambiguous(p, theirs.isEmpty() ? sameAmount : theirs,
-                    Tr::tr("%1 open invoices owe exactly this amount.")
-                        .arg((theirs.isEmpty() ? sameAmount : theirs).size()));
-        } else if (byPayer.size() == 1) {
-            settle(p, byPayer.first(), Confidence::Proposed, Tr::tr("The only open invoice of this client."));
-        } else if (byPayer.size() > 1) {
-            ambiguous(p, byPayer, Tr::tr("This client has %1 open invoices, none of this amount.").arg(byPayer.size()));
+                          Tr::tr("%1 open invoices owe exactly this amount.")
+                              .arg((theirs.isEmpty() ? sameAmount : theirs).size()));
+        } else if (const QList<Record *> payers = ofPayer(credit); payers.size() == 1) {
+            settle(p, payers.first(), Confidence::Proposed, Tr::tr("The only open invoice of this client."));
+        } else if (payers.size() > 1) {
+            ambiguous(p, payers, Tr::tr("This client has %1 open invoices, none of this amount.").arg(payers.size()));
         } else {
             p.why = Tr::tr("No open invoice fits.");
         }
