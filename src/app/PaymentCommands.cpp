@@ -26,12 +26,6 @@ Error noDatabase()
     return Error::file(Tr::tr("No database is open."));
 }
 
-QString clientName(const Record &invoice)
-{
-    const QString company = invoice.text(Invoice::company).trimmed();
-    return company.isEmpty() ? invoice.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed() : company;
-}
-
 } // namespace
 
 Result<PaymentCommands::Review> PaymentCommands::review(const QString &path)
@@ -46,7 +40,7 @@ Result<PaymentCommands::Review> PaymentCommands::review(const QString &path)
     const QList<Record *> &all = m_list.documentList().all();
     QHash<QString, QString> clientOfInvoice;
     for (const Record *d : all)
-        clientOfInvoice.insert(d->text(Invoice::uniqueID), clientName(*d));
+        clientOfInvoice.insert(d->text(Invoice::uniqueID), payments::clientName(*d));
     const Result<QSet<QString>> imported = PaymentLedger::references(store->handle());
     if (!imported)
         return imported.error();

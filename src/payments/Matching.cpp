@@ -51,12 +51,6 @@ bool mentions(const QString &squeezedText, const QString &squeezedNumber)
     return false;
 }
 
-QString clientName(const Record &invoice)
-{
-    const QString company = invoice.text(Invoice::company).trimmed();
-    return company.isEmpty() ? invoice.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed() : company;
-}
-
 QString money(qint64 cents)
 {
     return QString::number(double(cents) / 100.0, 'f', 2);
@@ -83,6 +77,12 @@ void ambiguous(Proposal &p, const QList<Record *> &candidates, const QString &wh
 }
 
 } // namespace
+
+QString clientName(const Record &invoice)
+{
+    const QString company = invoice.text(Invoice::company).trimmed();
+    return company.isEmpty() ? invoice.text(Invoice::address).section(QLatin1Char('\n'), 0, 0).trimmed() : company;
+}
 
 qint64 dueCentsOf(const Record &invoice)
 {

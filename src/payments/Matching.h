@@ -37,6 +37,9 @@ QList<Record *> openInvoices(const QList<Record *> &documents);
 // The invoice's due amount in cents (amount less what was paid).
 qint64 dueCentsOf(const Record &invoice);
 
+// Who the invoice is for: the client's company, else the address's first line.
+QString clientName(const Record &invoice);
+
 // Proposals for the credits against `open` invoices. `knownPayers` maps an
 // IBAN to the uniqueID of a client's earlier invoice (payments matched
 // before); `imported` holds the bank references taken in before.
