@@ -246,6 +246,7 @@ void TestSharedStore::linesAndOlderStoresFollow()
     sqlite3 *db = nullptr;
     sqlite3_open(QFile::encodeName(f.storePath()).constData(), &db);
     for (const char *sql : {"DROP TABLE _Changes", "DROP TABLE _Store", "DROP TABLE _Notification", "DROP TABLE _Counter",
+                            "DROP TABLE _Payment",
                             "ALTER TABLE Invoice DROP COLUMN company", "ALTER TABLE Item DROP COLUMN unitCode",
                             "PRAGMA user_version = 1"})
         sqlite3_exec(db, sql, nullptr, nullptr, nullptr);
@@ -254,6 +255,7 @@ void TestSharedStore::linesAndOlderStoresFollow()
              QString::number(3 * kEntityCount));
     QVERIFY(f.app.reopenStore());
     QCOMPARE(firstRow(f.storePath(), "PRAGMA user_version"), QString::number(Store::kSchemaVersion));
+    QCOMPARE(firstRow(f.storePath(), "SELECT count(*) FROM _Payment"), QStringLiteral("0"));
     // The counters move into the store from the settings at the first number.
     f.prefs.setInteger(Preferences::invCount, 41);
     f.prefs.sync();
