@@ -2,15 +2,18 @@
 
 #include "app/AppController.h"
 #include "app/PaymentCommands.h"
+#include "app/UndoHistory.h"
 #include "base/Clock.h"
 #include "domain/DocumentList.h"
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
 #include "payments/Matching.h"
 #include "payments/Statement.h"
+#include "store/NotificationSchedule.h"
 #include "store/Store.h"
 
 #include <QFile>
+#include <QUndoStack>
 #include <QtTest>
 
 using namespace tabo;
@@ -25,6 +28,7 @@ private Q_SLOTS:
     void refusesWhatIsNoStatement();
     void matchesCreditsToOpenInvoices();
     void appliesOnceAndOnlyOnce();
+    void readsCsvExports();
 };
 
 namespace {
@@ -66,6 +70,11 @@ struct Books : test::ControllerFixture
     {
         Record *doc = app.addInvoice();
         doc->setText(Invoice::number, number);
+        // A line of that price, so that recalculating keeps the amount.
+        Record *line = app.store()->insert(EntityId::Item);
+        line->setToOne(Item::invoice, doc);
+        line->setNum(Item::unitCount, 1.0);
+        line->setNum(Item::baseAmount, amount);
         doc->setNum(Invoice::amount, amount);
         doc->setText(Invoice::company, client);
         doc->setInt(Invoice::status, status);
@@ -177,6 +186,7 @@ void TestPayments::matchesCreditsToOpenInvoices()
     f.invoice(QStringLiteral("RE-6"), 70.0, QStringLiteral("Draft Ltd"), 0); // never sent
     const QList<Record *> open = openInvoices(f.app.documentList().all());
     QCOMPARE(QSet<Record *>(open.begin(), open.end()), (QSet<Record *> { re1, re12, re3 }));
+    QVERIFY(!open.contains(re4));
 
     const auto credit_ = [](qint64 cents, const QString &text, const QString &payer = {}) {
         Credit c;
@@ -221,6 +231,10 @@ void TestPayments::appliesOnceAndOnlyOnce()
     Record *re1 = f.invoice(QStringLiteral("RE-1"), 119.0, QStringLiteral("Atelier Lumen"));
     Record *re3 = f.invoice(QStringLiteral("RE-3"), 500.0, QStringLiteral("Harbor Books"));
     QVERIFY(!f.app.save());
+    NotificationSchedule reminders(*f.app.store());
+    ScheduledNotification reminder { 0, re1->text(Invoice::uniqueID), QStringLiteral("Due"), {}, {},
+        Date::fromDateTime(QDateTime(kToday.addDays(5), QTime(9, 0))), false, {} };
+    QVERIFY(!reminders.schedule(reminder));
     const QString path = f.statement(camt("053",
         camtEntry("119.00", "CRDT", "2026-11-20", "A1", "<RmtInf><Ustrd>RE-1</Ustrd></RmtInf>")
             + camtEntry("200.00", "CRDT", "2026-11-21", "A2", "<RmtInf><Ustrd>RE-3</Ustrd></RmtInf>")));
@@ -234,6 +248,19 @@ void TestPayments::appliesOnceAndOnlyOnce()
     QCOMPARE(re3->integer(Invoice::status), 4);
     QCOMPARE(re3->num(Invoice::paidAmount), 200.0);
     QVERIFY(!f.app.store()->hasChanges());
+    QVERIFY(reminders.list(true).isEmpty()); // paid: no reminder any more
+
+    // One undo takes back both payments and their bookings; redo brings them back.
+    f.app.undo().stack().undo();
+    QCOMPARE(re1->integer(Invoice::status), 1);
+    QVERIFY(!re1->boolean(Invoice::isPaid));
+    QCOMPARE(re3->integer(Invoice::status), 1);
+    QCOMPARE(re3->num(Invoice::paidAmount), 0.0);
+    QVERIFY(!f.app.store()->hasChanges());
+    QCOMPARE(payments.review(path).value().proposals.at(0).confidence, Proposal::Confidence::Sure);
+    f.app.undo().stack().redo();
+    QCOMPARE(re1->integer(Invoice::status), 3);
+    QCOMPARE(re3->integer(Invoice::status), 4);
 
     // The same statement again, and one that overlaps it: nothing counts twice.
     const Result<PaymentCommands::Review> again = payments.review(path);
@@ -246,9 +273,69 @@ void TestPayments::appliesOnceAndOnlyOnce()
             + camtEntry("300.00", "CRDT", "2026-11-22", "A3", "<RmtInf><Ustrd>RE-3</Ustrd></RmtInf>")));
     const Result<PaymentCommands::Review> more = payments.review(overlap);
     QCOMPARE(more.value().proposals.at(0).confidence, Proposal::Confidence::Imported);
-    QCOMPARE(more.value().proposals.at(1).confidence, Proposal::Confidence::Sure);
+    QVERIFY2(more.value().proposals.at(1).confidence == Proposal::Confidence::Sure,
+        qPrintable(more.value().proposals.at(1).why));
     QCOMPARE(payments.apply(more.value().proposals).value(), 1);
     QCOMPARE(re3->integer(Invoice::status), 3);
+    Clock::setInstance(nullptr);
+}
+
+void TestPayments::readsCsvExports()
+{
+    FixedClock clock(Date::fromDateTime(QDateTime(kToday, QTime(12, 0))));
+    Clock::setInstance(&clock);
+    Books f;
+    Record *re7 = f.invoice(QStringLiteral("RE-7"), 1234.56, QStringLiteral("Müller & Söhne"));
+    Record *re8 = f.invoice(QStringLiteral("RE-8"), 99.0, QStringLiteral("Le Petit Atelier"));
+    Record *re9 = f.invoice(QStringLiteral("RE-9"), 50.0, QStringLiteral("Ferretería Sol"));
+    QVERIFY(!f.app.save());
+    PaymentCommands &payments = f.app.payments();
+    const auto proposals = [&](const QByteArray &data, const QString &columns = {}) {
+        const Result<PaymentCommands::Review> r = payments.review(f.statement(data), columns);
+        if (!r)
+            qWarning("%s", qPrintable(r.error().message()));
+        return r ? r.value().proposals : QList<Proposal> {};
+    };
+    // A German savings bank: account lines first, Latin-1, ';', decimal comma, one debit.
+    const QList<Proposal> de = proposals(QString::fromUtf8(
+        "\"Umsätze Girokonto\";\"Zeitraum: 01.11.2026 - 25.11.2026\"\n\n"
+        "\"Buchungstag\";\"Valutadatum\";\"Buchungstext\";\"Verwendungszweck\";"
+        "\"Beguenstigter/Zahlungspflichtiger\";\"Kontonummer/IBAN\";\"Betrag\";\"Waehrung\"\n"
+        "\"24.11.2026\";\"24.11.2026\";\"GUTSCHRIFT\";\"Rechnung RE 7; danke\";\"Müller & Söhne\";"
+        "\"DE02 1203 0000 0000 2020 51\";\"1.234,56\";\"EUR\"\n"
+        "\"23.11.26\";\"23.11.26\";\"LASTSCHRIFT\";\"Strom\";\"Stadtwerke\";\"\";\"-80,00\";\"EUR\"\n")
+                                             .toLatin1());
+    QCOMPARE(de.size(), 1);
+    QCOMPARE(de.at(0).confidence, Proposal::Confidence::Sure);
+    QCOMPARE(de.at(0).invoice, re7);
+    QCOMPARE(de.at(0).credit.payer, QStringLiteral("Müller & Söhne"));
+    QCOMPARE(de.at(0).credit.iban, QStringLiteral("DE02120300000000202051"));
+    // A French bank: UTF-8 with a byte-order mark, separate debit and credit columns.
+    const QList<Proposal> fr = proposals("\xEF\xBB\xBF"
+                                         "Date opération;Date valeur;Libellé;Débit;Crédit\n"
+                                         "20/11/2026;20/11/2026;VIR LE PETIT ATELIER FACT RE8;;99,00\n"
+                                         "21/11/2026;21/11/2026;CB BOULANGERIE;-4,20;\n");
+    QCOMPARE(fr.size(), 1);
+    QCOMPARE(fr.at(0).invoice, re8);
+    QCOMPARE(fr.at(0).credit.cents, 9900);
+    // A Spanish bank: ',' between fields, quoted amounts, another currency.
+    const QList<Proposal> es = proposals("Fecha Operación,Fecha Valor,Concepto,Importe,Divisa,Ordenante\n"
+                                         "2026-11-19,2026-11-19,\"Factura RE-9, gracias\",\"50,00\",EUR,Ferretería Sol\n");
+    QCOMPARE(es.size(), 1);
+    QCOMPARE(es.at(0).invoice, re9);
+    QCOMPARE(es.at(0).confidence, Proposal::Confidence::Sure);
+
+    // Headings nobody knows: refused with them named; named once, remembered.
+    const QByteArray odd = "Tag;Wert;Notiz;Von\n22.11.2026;99,00;RE-8;Atelier\n";
+    const Result<PaymentCommands::Review> unknown = payments.review(f.statement(odd));
+    QVERIFY(!unknown.ok());
+    QVERIFY(unknown.error().message().contains(QLatin1String("Tag, Wert, Notiz, Von")));
+    QVERIFY(!payments.review(f.statement(odd), QStringLiteral("date=1,sum=2")).ok());
+    QCOMPARE(proposals(odd, QStringLiteral("date=Tag,amount=2,text=3,payer=4")).at(0).invoice, re8);
+    QCOMPARE(proposals(odd).at(0).invoice, re8);
+    // Damaged rows are refused, not skipped.
+    QVERIFY(!payments.review(f.statement("Datum;Betrag;Verwendungszweck\n32.11.2026;5,00;x\n")).ok());
+    QVERIFY(!payments.review(f.statement("Datum;Betrag;Verwendungszweck\n22.11.2026;fünf;x\n")).ok());
     Clock::setInstance(nullptr);
 }
 

@@ -1,11 +1,14 @@
 #include "app/PaymentCommands.h"
 
+#include "app/UndoHistory.h"
 #include "app/Workspace.h"
 #include "base/Clock.h"
 #include "domain/DocumentList.h"
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
+#include "store/NotificationSchedule.h"
 #include "store/PaymentLedger.h"
+#include "store/ScheduleTable.h"
 #include "store/Store.h"
 
 #include <QCoreApplication>
@@ -28,14 +31,25 @@ Error noDatabase()
 
 } // namespace
 
-Result<PaymentCommands::Review> PaymentCommands::review(const QString &path)
+Result<PaymentCommands::Review> PaymentCommands::review(const QString &path, const QString &columns)
 {
     Store *store = m_store.store();
     if (!store)
         return noDatabase();
-    Result<payments::Statement> statement = payments::readStatementFile(path, now().toDateTime().date());
+    const Result<QHash<QString, QString>> layouts = ScheduleTable::statementLayouts(store->handle());
+    if (!layouts)
+        return layouts.error();
+    Result<payments::Statement> statement
+        = payments::readStatementFile(path, now().toDateTime().date(), { columns, layouts.value() });
     if (!statement)
         return statement.error();
+    if (!columns.isEmpty() && !statement.value().layoutKey.isEmpty()) {
+        const payments::Statement &read = statement.value();
+        if (const Error e = store->write([&read](sqlite3 *db) {
+                return ScheduleTable::rememberStatementLayout(db, read.layoutKey, read.columns);
+            }))
+            return e;
+    }
     m_store.syncWithStore();
     const QList<Record *> &all = m_list.documentList().all();
     QHash<QString, QString> clientOfInvoice;
@@ -60,7 +74,13 @@ Result<int> PaymentCommands::apply(const QList<payments::Proposal> &accepted)
     if (!store)
         return noDatabase();
     int applied = 0;
+    QList<Record *> invoices;
+    for (const payments::Proposal &p : accepted)
+        invoices << p.invoice;
+    UndoHistory::Batch step(m_undo, invoices, Tr::tr("Payments"));
+    QList<PaymentLedger::Entry> written;
     const Error e = store->saveWith([&](sqlite3 *db) -> Error {
+        written.clear();
         for (const payments::Proposal &p : accepted) {
             if (!p.invoice || p.confidence == payments::Proposal::Confidence::Imported)
                 continue;
@@ -77,17 +97,33 @@ Result<int> PaymentCommands::apply(const QList<payments::Proposal> &accepted)
             if (full) {
                 invoice.setBool(Invoice::isPaid, true);
                 invoice.setDate(Invoice::paid, Date::fromDateTime(p.credit.booked.startOfDay()));
+                if (const Error cancelled = NotificationSchedule::cancelPendingOf(db, invoice.text(Invoice::uniqueID)))
+                    return cancelled;
             }
-            if (const Error added = PaymentLedger::add(db,
-                    { p.credit.reference, invoice.text(Invoice::uniqueID), p.credit.cents, p.credit.booked,
-                        p.credit.payer, p.credit.iban }))
+            const PaymentLedger::Entry entry { p.credit.reference, invoice.text(Invoice::uniqueID), p.credit.cents,
+                p.credit.booked, p.credit.payer, p.credit.iban };
+            if (const Error added = PaymentLedger::add(db, entry))
                 return added;
+            written << entry;
             ++applied;
         }
         return {};
     });
     if (e)
         return e;
+    step.setRows(
+        [written](sqlite3 *db) -> Error {
+            for (const PaymentLedger::Entry &entry : written)
+                if (const Error removed = PaymentLedger::remove(db, entry.reference))
+                    return removed;
+            return {};
+        },
+        [written](sqlite3 *db) -> Error {
+            for (const PaymentLedger::Entry &entry : written)
+                if (const Error added = PaymentLedger::add(db, entry))
+                    return added;
+            return {};
+        });
     // The summary pass settles what follows from a paid status (the paid
     // flag of a partly paid invoice); that is saved at once, too.
     m_list.calculateDatabase();

@@ -61,6 +61,35 @@ private:
     bool m_done = false;
 };
 
+class UndoHistory::BatchChange : public QUndoCommand
+{
+public:
+    BatchChange(UndoHistory &history, std::vector<Snapshot> before, std::vector<Snapshot> after,
+        RowsChange undoRows, RowsChange redoRows, const QString &text)
+        : QUndoCommand(text)
+        , m_history(history)
+        , m_before(std::move(before))
+        , m_after(std::move(after))
+        , m_undoRows(std::move(undoRows))
+        , m_redoRows(std::move(redoRows))
+    {
+    }
+    void undo() override { m_history.restore(m_before, m_undoRows); }
+    void redo() override
+    {
+        if (std::exchange(m_done, true))
+            m_history.restore(m_after, m_redoRows);
+    }
+
+private:
+    UndoHistory &m_history;
+    std::vector<Snapshot> m_before;
+    std::vector<Snapshot> m_after;
+    RowsChange m_undoRows;
+    RowsChange m_redoRows;
+    bool m_done = false;
+};
+
 namespace {
 
 QVector<QVariant> valuesOf(const Record &record)
@@ -112,19 +141,18 @@ UndoHistory::Snapshot UndoHistory::snapshot(const Record &document) const
     return s;
 }
 
-void UndoHistory::restore(const Snapshot &snapshot)
+Record *UndoHistory::writeBack(const Snapshot &snapshot)
 {
     Store *store = m_store.store();
     if (!store)
-        return;
+        return nullptr;
     const QList<Record *> documents = store->all(EntityId::Invoice);
     const auto found = std::find_if(documents.cbegin(), documents.cend(), [&](const Record *r) {
         return r->text(Invoice::uniqueID) == snapshot.uniqueID;
     });
     Record *doc = found == documents.cend() ? nullptr : *found;
     if (!doc || doc->isDeleted())
-        return;
-    m_restoring = true;
+        return nullptr;
     writeValues(*doc, snapshot.values);
     QHash<QString, Record *> current;
     for (Record *line : doc->toMany(Invoice::items))
@@ -143,9 +171,71 @@ void UndoHistory::restore(const Snapshot &snapshot)
     for (auto it = current.cbegin(); it != current.cend(); ++it)
         if (!kept.contains(it.key()))
             store->remove(it.value());
-    m_current.setCurrentInvoice(doc);
-    m_current.documentChanged(doc);
+    return doc;
+}
+
+void UndoHistory::restore(const Snapshot &snapshot)
+{
+    m_restoring = true;
+    if (Record *doc = writeBack(snapshot)) {
+        m_current.setCurrentInvoice(doc);
+        m_current.documentChanged(doc);
+    }
     m_restoring = false;
+}
+
+void UndoHistory::restore(const std::vector<Snapshot> &snapshots, const RowsChange &rows)
+{
+    Store *store = m_store.store();
+    if (!store)
+        return;
+    m_restoring = true;
+    Record *last = nullptr;
+    for (const Snapshot &s : snapshots)
+        if (Record *doc = writeBack(s))
+            last = doc;
+    // The documents and the rows go in one transaction or not at all; a
+    // refusal leaves the documents changed and unsaved, to be saved again.
+    if (const Error e = store->saveWith(rows))
+        qWarning("An undo step could not be saved: %s", qPrintable(e.message()));
+    if (last)
+        m_current.documentChanged(last);
+    m_restoring = false;
+}
+
+UndoHistory::Batch::Batch(UndoHistory &history, const QList<Record *> &documents, const QString &text)
+    : m_history(history)
+    , m_text(text)
+{
+    if (history.m_depth++ > 0 || history.m_restoring)
+        return;
+    for (Record *doc : documents) {
+        if (doc && !doc->isDeleted() && !m_documents.contains(doc)) {
+            m_documents << doc;
+            m_before.push_back(history.snapshot(*doc));
+        }
+    }
+}
+
+void UndoHistory::Batch::setRows(RowsChange undoRows, RowsChange redoRows)
+{
+    m_undoRows = std::move(undoRows);
+    m_redoRows = std::move(redoRows);
+}
+
+UndoHistory::Batch::~Batch()
+{
+    --m_history.m_depth;
+    if (m_documents.isEmpty())
+        return;
+    std::vector<Snapshot> after;
+    for (const Record *doc : std::as_const(m_documents))
+        after.push_back(m_history.snapshot(*doc));
+    if (after == m_before)
+        return;
+    const auto none = [](sqlite3 *) { return Error {}; };
+    m_history.m_stack->push(new BatchChange(m_history, std::move(m_before), std::move(after),
+        m_undoRows ? m_undoRows : none, m_redoRows ? m_redoRows : none, m_text));
 }
 
 UndoHistory::Step::Step(UndoHistory &history, Record *document, const QString &text)

@@ -2,9 +2,16 @@
 
 #include <QString>
 
+#include "base/Error.h"
+
+#include <QList>
+
+#include <functional>
 #include <memory>
+#include <vector>
 
 class QUndoStack;
+struct sqlite3;
 
 namespace tabo {
 
@@ -45,11 +52,38 @@ public:
         QString m_text;
     };
 
-private:
+    // One step for a command that changes several documents at once and
+    // also rows of a table of its own: `undoRows` takes those rows out and
+    // `redoRows` puts them back, in the transaction that writes the
+    // documents back, so the two never disagree.
+    using RowsChange = std::function<Error(sqlite3 *)>;
     struct Snapshot;
+    class Batch
+    {
+    public:
+        Batch(UndoHistory &history, const QList<Record *> &documents, const QString &text);
+        ~Batch();
+        Batch(const Batch &) = delete;
+        Batch &operator=(const Batch &) = delete;
+        void setRows(RowsChange undoRows, RowsChange redoRows);
+
+    private:
+        UndoHistory &m_history;
+        QList<Record *> m_documents;
+        std::vector<Snapshot> m_before;
+        QString m_text;
+        RowsChange m_undoRows;
+        RowsChange m_redoRows;
+    };
+
+private:
     class Change;
+    class BatchChange;
     Snapshot snapshot(const Record &document) const;
+    // The document as it was; nullptr when it is gone.
+    Record *writeBack(const Snapshot &snapshot);
     void restore(const Snapshot &snapshot);
+    void restore(const std::vector<Snapshot> &snapshots, const RowsChange &rows);
 
     StoreAccess &m_store;
     CurrentDocument &m_current;

@@ -79,11 +79,13 @@ QJsonObject toJson(const Proposal &p)
 } // namespace
 
 PaymentsCommand::PaymentsCommand(Session &session)
-    : Command(session, QStringLiteral("payments"), QStringLiteral("import FILE [--json] [--apply]"),
-        Tr::tr("Read a bank statement (CAMT.053, CAMT.054 or MT940) and match its credits against the open "
+    : Command(session, QStringLiteral("payments"), QStringLiteral("import FILE [--json] [--apply] [--columns date=N,amount=N,...]"),
+        Tr::tr("Read a bank statement (CAMT.053, CAMT.054, MT940 or CSV) and match its credits against the open "
                "invoices: sure (the text names the invoice and the amount is what it owes), proposed, "
                "ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid "
-               "or partly paid. A booking is never taken in twice."))
+               "or partly paid. A booking is never taken in twice. --columns names the columns of a CSV "
+               "export whose headings are not recognised (date, amount or credit and debit, currency, payer, "
+               "iban, text, reference; by number or heading); they are remembered for files laid out like it."))
 {
 }
 
@@ -92,7 +94,9 @@ int PaymentsCommand::execute(const QStringList &args)
     QCommandLineParser parser;
     const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
     const QCommandLineOption apply(QStringLiteral("apply"), Tr::tr("Take in the sure matches."));
-    parser.addOptions({ json, apply });
+    const QCommandLineOption columns(
+        QStringLiteral("columns"), Tr::tr("The columns of a CSV statement."), QStringLiteral("SPEC"));
+    parser.addOptions({ json, apply, columns });
     int code = kExitOk;
     if (!parse(parser, args, 2, 2, &code))
         return code;
@@ -102,7 +106,7 @@ int PaymentsCommand::execute(const QStringList &args)
     if (!m_session.store())
         return kExitFailure;
     PaymentCommands &payments = m_session.controller().payments();
-    const Result<PaymentCommands::Review> review = payments.review(pos.at(1));
+    const Result<PaymentCommands::Review> review = payments.review(pos.at(1), parser.value(columns));
     if (!review)
         return failure(review.error());
     int applied = 0;

@@ -1,6 +1,7 @@
 #include "payments/Statement.h"
 
 #include "base/XmlTree.h"
+#include "payments/CsvStatement.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -30,8 +31,8 @@ bool knownCurrency(const QString &code)
     return iso.match(code).hasMatch();
 }
 
-// A reference for a booking the bank gave none: the same booking in a
-// second file gets the same one.
+} // namespace
+
 QString madeUpReference(const Credit &c, const QString &context)
 {
     const QByteArray key = (context + QLatin1Char('|') + c.booked.toString(Qt::ISODate) + QLatin1Char('|')
@@ -41,7 +42,7 @@ QString madeUpReference(const Credit &c, const QString &context)
         + QString::fromLatin1(QCryptographicHash::hash(key, QCryptographicHash::Sha1).toHex());
 }
 
-Error checked(const Credit &c, QDate today, int number)
+Error checkCredit(const Credit &c, QDate today, int number)
 {
     const QString which = Tr::tr("Entry %1").arg(number);
     if (!c.booked.isValid())
@@ -55,6 +56,8 @@ Error checked(const Credit &c, QDate today, int number)
         return Error::file(Tr::tr("%1 is in “%2”, which is no currency code.").arg(which, c.currency));
     return {};
 }
+
+namespace {
 
 QString joined(const QList<const xml::Node *> &nodes)
 {
@@ -143,7 +146,7 @@ Result<Statement> readCamt(const xml::Tree &tree, QDate today)
                 c.reference = !txRef.isEmpty() ? txRef
                     : !entryRef.isEmpty() ? (batch ? entryRef + QLatin1Char('/') + QString::number(i + 1) : entryRef)
                                           : madeUpReference(c, reportId);
-                if (const Error e = checked(c, today, number))
+                if (const Error e = checkCredit(c, today, number))
                     return e;
                 statement.credits << c;
             }
@@ -246,9 +249,36 @@ Result<Statement> readMt940(const QString &data, QDate today)
         readMt940Details(details, c);
         const QString bankRef = m.captured(8).trimmed();
         c.reference = !bankRef.isEmpty() && bankRef != QLatin1String("NONREF") ? bankRef : madeUpReference(c, account);
-        if (const Error e = checked(c, today, number))
+        if (const Error e = checkCredit(c, today, number))
             return e;
         statement.credits << c;
+    }
+    return statement;
+}
+
+Result<Statement> readCsv(const QByteArray &data, QDate today, const CsvOptions &options)
+{
+    const Result<CsvTable> table = splitCsv(data);
+    if (!table)
+        return table.error();
+    const QString key = table.value().layoutKey();
+    CsvColumns columns = detectColumns(table.value().header);
+    const QString named = !options.columns.isEmpty() ? options.columns : options.remembered.value(key);
+    if (!named.isEmpty()) {
+        const Result<CsvColumns> given = CsvColumns::fromText(named, table.value().header);
+        if (!given)
+            return given.error();
+        columns = given.value();
+    }
+    if (!columns.isUsable())
+        return Error::input(Tr::tr("The columns of this CSV file are not recognised: %1. Say once which column "
+                                   "holds the date, the amount, the payer, the IBAN and the text; Tabo remembers "
+                                   "it for files laid out like this one.")
+                                .arg(table.value().header.join(QStringLiteral(", "))));
+    Result<Statement> statement = readCsvStatement(table.value(), columns, today);
+    if (statement) {
+        statement.value().layoutKey = key;
+        statement.value().columns = columns.toText();
     }
     return statement;
 }
@@ -269,7 +299,7 @@ std::optional<qint64> centsOf(QString text)
     return cents;
 }
 
-Result<Statement> readStatement(const QByteArray &data, QDate today)
+Result<Statement> readStatement(const QByteArray &data, QDate today, const CsvOptions &csv)
 {
     if (data.size() > kMaxBytes)
         return Error::file(Tr::tr("The file is larger than any bank statement (%1 MB), so it is not read.")
@@ -285,10 +315,13 @@ Result<Statement> readStatement(const QByteArray &data, QDate today)
     }
     if (start.startsWith(":20:") || start.contains("\n:20:") || start.startsWith("{1:"))
         return readMt940(QString::fromLatin1(data), today);
-    return Error::file(Tr::tr("This is not a bank statement Tabo reads (CAMT.053, CAMT.054 or MT940)."));
+    // Text without NUL bytes may be a CSV export; anything else is not read.
+    if (!data.left(4096).contains('\0'))
+        return readCsv(data, today, csv);
+    return Error::file(Tr::tr("This is not a bank statement Tabo reads (CAMT.053, CAMT.054, MT940 or CSV)."));
 }
 
-Result<Statement> readStatementFile(const QString &path, QDate today)
+Result<Statement> readStatementFile(const QString &path, QDate today, const CsvOptions &csv)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -297,7 +330,7 @@ Result<Statement> readStatementFile(const QString &path, QDate today)
     if (file.size() > kMaxBytes)
         return Error::file(Tr::tr("The file is larger than any bank statement (%1 MB), so it is not read.")
                                .arg(file.size() / (1024 * 1024)));
-    return readStatement(file.readAll(), today);
+    return readStatement(file.readAll(), today, csv);
 }
 
 } // namespace tabo::payments

@@ -3,6 +3,7 @@
 #include "base/Result.h"
 
 #include <QDate>
+#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -25,17 +26,37 @@ struct Credit
 
 struct Statement
 {
-    QString format; // "CAMT.053", "CAMT.054", "MT940"
+    QString format; // "CAMT.053", "CAMT.054", "MT940", "CSV"
     QList<Credit> credits;
     int debitsSkipped = 0;
+    // A CSV file's layout and the columns read ("date=1,amount=4,…"), to be
+    // remembered when the person named them.
+    QString layoutKey;
+    QString columns;
+};
+
+// How the columns of a CSV statement are found: as the person names them
+// (CsvColumns::toText's form), else as remembered for files of the same
+// layout (layout key → columns), else by their headings.
+struct CsvOptions
+{
+    QString columns;
+    QHash<QString, QString> remembered;
 };
 
 // Reads a statement in one of the formats banks give their customers:
-// ISO 20022 CAMT.053 or CAMT.054 (XML) or MT940. Debits are left out. A file
+// ISO 20022 CAMT.053 or CAMT.054 (XML), MT940 or CSV. Debits are left out. A file
 // of another format, a damaged one, an unknown currency, a zero amount or a
 // booking date after `today` is refused with a sentence.
-Result<Statement> readStatement(const QByteArray &data, QDate today);
-Result<Statement> readStatementFile(const QString &path, QDate today);
+Result<Statement> readStatement(const QByteArray &data, QDate today, const CsvOptions &csv = {});
+Result<Statement> readStatementFile(const QString &path, QDate today, const CsvOptions &csv = {});
+
+// A reference for a booking the bank gave none: the same booking in a
+// second file gets the same one.
+QString madeUpReference(const Credit &credit, const QString &context);
+// Refuses a credit without a date, booked after `today`, of no amount or in
+// no currency; `number` counts the statement's entries for the message.
+Error checkCredit(const Credit &credit, QDate today, int number);
 
 // Whole cents of a decimal amount written with a point or a comma ("1234,5").
 std::optional<qint64> centsOf(QString text);

@@ -179,4 +179,13 @@ std::optional<Date> NotificationSchedule::nextDate() const
     return std::nullopt;
 }
 
+Error NotificationSchedule::cancelPendingOf(sqlite3 *db, const QString &uniqueID)
+{
+    Statement st(db, QStringLiteral("DELETE FROM \"%1\" WHERE \"uniqueID\" = ? AND \"delivered\" IS NULL"));
+    if (!st)
+        return st.error(kWriteFailed());
+    st.bind(1, uniqueID);
+    return sqlite3_step(st.get()) == SQLITE_DONE ? Error {} : st.error(kWriteFailed());
+}
+
 } // namespace tabo

@@ -8,6 +8,8 @@
 
 #include <optional>
 
+struct sqlite3;
+
 namespace tabo {
 
 class Store;
@@ -44,6 +46,9 @@ public:
     Result<QList<ScheduledNotification>> claimDue(Date now);
     // Gives a claimed notification back when it could not be shown.
     Error unclaim(const QList<qint64> &ids);
+    // Inside a write: the reminders of the invoice `uniqueID` not shown yet
+    // go, since it has been paid.
+    static Error cancelPendingOf(sqlite3 *db, const QString &uniqueID);
     // The earliest date still to come, if any.
     std::optional<Date> nextDate() const;
 

@@ -98,4 +98,13 @@ Error add(sqlite3 *db, const Entry &entry)
     return sqlite3_step(st.get()) == SQLITE_DONE ? Error {} : failed(db);
 }
 
+Error remove(sqlite3 *db, const QString &reference)
+{
+    Statement st(db, QStringLiteral("DELETE FROM \"%1\" WHERE \"reference\" = ?"));
+    if (!st.get())
+        return failed(db);
+    st.bind(1, reference);
+    return sqlite3_step(st.get()) == SQLITE_DONE ? Error {} : failed(db);
+}
+
 } // namespace tabo::PaymentLedger

@@ -33,6 +33,7 @@ Result<QHash<QString, QString>> payersByIban(sqlite3 *db, const QHash<QString, Q
 Result<bool> contains(sqlite3 *db, const QString &reference);
 // Inside a write transaction.
 Error add(sqlite3 *db, const Entry &entry);
+Error remove(sqlite3 *db, const QString &reference);
 
 } // namespace PaymentLedger
 
