@@ -12,6 +12,7 @@
 #include "app/NotificationCommands.h"
 #include "app/OutputCommands.h"
 #include "app/PaymentCommands.h"
+#include "app/RecurringCommands.h"
 #include "app/ReportCommands.h"
 #include "app/TemplateCommands.h"
 #include "app/UndoHistory.h"
@@ -72,7 +73,8 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_reports(std::make_unique<ReportCommands>(*this, *m_outputs, prefs, ui))
     , m_notifications(std::make_unique<NotificationCommands>(*this, *this, *this, prefs, ui))
     , m_einvoices(std::make_unique<EInvoiceCommands>(*this, *m_documents, *m_outputs, prefs, ui))
-    , m_payments(std::make_unique<PaymentCommands>(*this, *this))
+    , m_payments(std::make_unique<PaymentCommands>(*this, *this, *m_undo))
+    , m_recurring(std::make_unique<RecurringCommands>(*this, *this, *this, m_prefs))
 {
     m_outputs->setEInvoices(*m_einvoices);
     setBackupBeforeMove([this] { m_backups->backupCompleteTaboData(); });
@@ -973,6 +975,13 @@ void AppController::documentRemoved(Record *document)
         setCurrentInvoice(nullptr);
     Q_EMIT listChanged();
     calculateDatabase();
+}
+
+void AppController::documentsAdded()
+{
+    m_list.rearrange();
+    calculateDatabase();
+    Q_EMIT listChanged();
 }
 
 void AppController::reloadList()

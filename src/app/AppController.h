@@ -24,6 +24,7 @@ class OutputCommands;
 class DocumentCommands;
 class EInvoiceCommands;
 class PaymentCommands;
+class RecurringCommands;
 class FileCommands;
 class Interaction;
 class ItemCommands;
@@ -194,6 +195,7 @@ public:
     NotificationCommands &notifications() { return *m_notifications; }
     EInvoiceCommands &einvoices() { return *m_einvoices; }
     PaymentCommands &payments() { return *m_payments; }
+    RecurringCommands &recurring() { return *m_recurring; }
     TemplateCommands &templates() { return *m_templates; }
     FileCommands &files() { return *m_files; }
     BackupCommands &backups() { return *m_backups; }
@@ -226,6 +228,7 @@ public:
     // again inside the save that writes it when another program added
     // documents meanwhile.
     void numberInSave(Record *document, Kind kind) override;
+    void numberPendingNow() override { renumberPending(); }
     // For programs whose every change is a command given on purpose (the
     // command line): a save that clashes with another program's is retried
     // with both changes instead of asking "Changed Elsewhere".
@@ -240,6 +243,7 @@ public:
     // current selection.
     void documentRemoved(Record *document) override;
     void reloadList() override;
+    void documentsAdded() override;
     // Adds a created document to the list, resets the filter tag and selects
     // it (the creating commands' common ending).
     void documentCreated(Record *document) override;
@@ -303,6 +307,7 @@ private:
     std::unique_ptr<NotificationCommands> m_notifications;
     std::unique_ptr<EInvoiceCommands> m_einvoices;
     std::unique_ptr<PaymentCommands> m_payments;
+    std::unique_ptr<RecurringCommands> m_recurring;
     bool m_tabo2TemplatePending = false;
     QString m_backupPath;
     QString m_pdfPath;

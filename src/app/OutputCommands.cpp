@@ -555,4 +555,18 @@ void OutputCommands::waitUntilIdle()
     loop.exec();
 }
 
+bool OutputCommands::exportAndWait(int kind)
+{
+    bool ready = false;
+    const QMetaObject::Connection connection = connect(this, &OutputCommands::exportReady, [&ready] { ready = true; });
+    const bool opened = openExport(kind);
+    if (opened)
+        waitUntilIdle();
+    disconnect(connection);
+    if (!opened || !ready)
+        return false;
+    exportCommand();
+    return true;
+}
+
 } // namespace tabo

@@ -115,6 +115,10 @@ public:
     QStringList renderToFiles(const QList<RenderRequest> &requests, const QStringList &paths);
     // Returns once no rendering is running any more.
     void waitUntilIdle();
+    // The export of the current document from start to end without a sheet:
+    // opened, rendered, waited for and performed. False when it was refused
+    // or no PDF came (the reason has been shown).
+    bool exportAndWait(int kind);
 
     // The printer a job goes to unless the print dialog picks another
     // (empty: the system's default).

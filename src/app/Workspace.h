@@ -68,6 +68,8 @@ public:
     virtual void documentRemoved(Record *document) = 0;
     // Read anew from the store after a restore replaced its documents.
     virtual void reloadList() = 0;
+    // Documents a command added to documentList() itself: sorted in and shown.
+    virtual void documentsAdded() = 0;
 };
 
 // Numbers for new documents. A number is given at once and computed again
@@ -81,6 +83,9 @@ public:
     virtual ~DocumentNumbers() = default;
     virtual QString nextNumber(Kind kind) const = 0;
     virtual void numberInSave(Record *document, Kind kind) = 0;
+    // Inside a save's callback, with the write lock held: the documents
+    // waiting for numbers get them now, in the order they were made.
+    virtual void numberPendingNow() = 0;
     // After a deletion, so that the deleted number is not given again.
     virtual Error raiseNumberCounter(Preferences::Key counter) = 0;
 };

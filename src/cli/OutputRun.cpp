@@ -21,19 +21,10 @@ int OutputRun::exportDocument(Session &session, const QString &idOrNumber, int k
 {
     if (!session.select(idOrNumber))
         return kExitFailure;
-    OutputCommands &outputs = session.controller().outputs();
     const int shown = session.ui().messagesShown();
-    bool ready = false;
-    const QMetaObject::Connection connection =
-        QObject::connect(&outputs, &OutputCommands::exportReady, [&ready] { ready = true; });
-    const bool opened = outputs.openExport(kind);
-    if (opened)
-        outputs.waitUntilIdle();
-    QObject::disconnect(connection);
     // Without a PDF there is nothing to press OK on; the reason is out.
-    if (!opened || !ready)
+    if (!session.controller().outputs().exportAndWait(kind))
         return kExitFailure;
-    outputs.exportCommand();
     return session.ui().messagesShown() == shown ? kExitOk : kExitFailure;
 }
 

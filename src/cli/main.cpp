@@ -24,6 +24,7 @@
 #include "cli/NewCommand.h"
 #include "cli/NotifyCommand.h"
 #include "cli/PaymentsCommand.h"
+#include "cli/RecurringCommand.h"
 #include "cli/PrefsCommand.h"
 #include "cli/PrintCommand.h"
 #include "cli/RenderCommand.h"
@@ -149,6 +150,7 @@ int main(int argc, char *argv[])
     commands.push_back(std::make_unique<PrintCommand>(session));
     commands.push_back(std::make_unique<EmailCommand>(session));
     commands.push_back(std::make_unique<PaymentsCommand>(session));
+    commands.push_back(std::make_unique<RecurringCommand>(session));
     commands.push_back(std::make_unique<EInvoiceCommand>(session));
     commands.push_back(std::make_unique<DesignCommand>(session));
 

@@ -87,6 +87,13 @@ const std::vector<std::function<Error(sqlite3 *)>> &steps()
         addStoreOnlyColumns,
         /* 7: the bank bookings taken in as payments */
         [](sqlite3 *db) { return exec(db, paymentTableSql()); },
+        /* 8: repeated invoices and remembered statement layouts */
+        [](sqlite3 *db) {
+            for (const QString &sql : scheduleTablesSql())
+                if (Error e = exec(db, sql))
+                    return e;
+            return Error {};
+        },
     };
     return list;
 }
@@ -201,6 +208,22 @@ QString paymentTableSql()
         .arg(kPaymentTable);
 }
 
+QStringList scheduleTablesSql()
+{
+    // `made` counts the invoices written so far: the next one is due on the
+    // recurrence's date number `made`, and raising it in the transaction
+    // that writes the invoice is what keeps a date from being billed twice.
+    return { QStringLiteral("CREATE TABLE IF NOT EXISTS \"%1\" (\"id\" INTEGER PRIMARY KEY, "
+                            "\"source\" TEXT NOT NULL, \"fromTemplate\" INTEGER NOT NULL DEFAULT 0, "
+                            "\"unit\" TEXT NOT NULL, \"every\" INTEGER NOT NULL, \"start\" TEXT NOT NULL, "
+                            "\"until\" TEXT, \"count\" INTEGER NOT NULL DEFAULT 0, "
+                            "\"made\" INTEGER NOT NULL DEFAULT 0, \"paused\" INTEGER NOT NULL DEFAULT 0, "
+                            "\"send\" INTEGER NOT NULL DEFAULT 0, \"last\" TEXT)")
+                 .arg(kScheduleTable),
+        QStringLiteral("CREATE TABLE IF NOT EXISTS \"%1\" (\"layout\" TEXT PRIMARY KEY, \"columns\" TEXT NOT NULL)")
+            .arg(kStatementLayoutTable) };
+}
+
 Error create(sqlite3 *db, int version)
 {
     for (int i = 0; i < kEntityCount; ++i)
@@ -218,6 +241,9 @@ Error create(sqlite3 *db, int version)
         return e;
     if (Error e = exec(db, paymentTableSql()))
         return e;
+    for (const QString &sql : scheduleTablesSql())
+        if (Error e = exec(db, sql))
+            return e;
     return exec(db, QStringLiteral("PRAGMA user_version = %1").arg(version));
 }
 

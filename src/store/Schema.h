@@ -42,6 +42,11 @@ QString counterTableSql();
 // import of the same statement finds them here.
 inline const QString kPaymentTable = QStringLiteral("_Payment");
 QString paymentTableSql();
+// The invoices that repeat, and the column layouts of bank CSV exports the
+// person named once.
+inline const QString kScheduleTable = QStringLiteral("_Schedule");
+inline const QString kStatementLayoutTable = QStringLiteral("_StatementLayout");
+QStringList scheduleTablesSql();
 // A new, empty store.
 Error create(sqlite3 *db, int version);
 

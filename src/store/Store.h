@@ -115,7 +115,7 @@ public:
     // returns an error to roll back.
     Error write(const std::function<Error(sqlite3 *)> &body);
 
-    static constexpr int kSchemaVersion = 7;
+    static constexpr int kSchemaVersion = 8;
 
 private:
     friend class Record;
