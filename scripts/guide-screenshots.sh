@@ -87,3 +87,36 @@ if command -v rofi >/dev/null && command -v import >/dev/null; then
       kill $!' docs/screenshots/menu-entry.png
   echo "menu entry: docs/screenshots/menu-entry.png"
 fi
+
+# The review of a bank statement and the list of repeated invoices.
+sample 0
+today=$(date +%F)
+statement=$HOME/statement.xml
+entries=""
+n=0
+for id in $("$cli" list --json | python3 -c 'import json,sys; [print(d["uniqueID"]) for d in json.load(sys.stdin)["documents"]]'); do
+  n=$((n + 1))
+  "$cli" set "$id" number "RE-2026-$((40 + n))" >/dev/null
+  "$cli" set "$id" status 1 >/dev/null
+  amount=$("$cli" show "$id" --json | python3 -c 'import json,sys; print("%.2f" % json.load(sys.stdin)["amount"])')
+  client=$("$cli" show "$id" --json | python3 -c 'import json,sys,html; print(html.escape(json.load(sys.stdin)["company"]))')
+  case $n in
+    1) text="Invoice RE-2026-41" ;;
+    2) text="RE 2026 42 part payment"; amount=400.00 ;;
+    3) text="Thank you"; ;;
+    *) text="Order 7781" amount=99.00 ;;
+  esac
+  entries+="<Ntry><Amt Ccy=\"USD\">$amount</Amt><CdtDbtInd>CRDT</CdtDbtInd><BookgDt><Dt>$today</Dt></BookgDt>"
+  entries+="<AcctSvcrRef>BK-$n</AcctSvcrRef><NtryDtls><TxDtls><RltdPties><Dbtr><Nm>$client</Nm></Dbtr></RltdPties>"
+  entries+="<RmtInf><Ustrd>$text</Ustrd></RmtInf></TxDtls></NtryDtls></Ntry>"
+  last=$id
+done
+printf '<?xml version="1.0"?><Document xmlns="urn:iso:std:iso:20022:tech:xsd:camt.053.001.08"><BkToCstmrStmt><Stmt><Id>S</Id>%s</Stmt></BkToCstmrStmt></Document>' "$entries" >"$statement"
+shoot --screenshot-statement "$statement" --screenshot-payments docs/screenshots/payment-review.png
+"$cli" recurring add "$last" --every month --from "$(date -d '-2 months' +%Y-%m-01)" >/dev/null
+"$cli" recurring add "$last" --every quarter --from "$(date -d '+1 month' +%Y-%m-15)" --count 4 >/dev/null
+"$cli" recurring add "$last" --every "2 weeks" --from "$today" --until "$(date -d '+6 months' +%F)" >/dev/null
+"$cli" recurring pause 2 >/dev/null
+"$cli" recurring run >/dev/null
+shoot --screenshot-schedules docs/screenshots/repeated-invoices.png
+echo "payments and repeated invoices: docs/screenshots/{payment-review,repeated-invoices}.png"

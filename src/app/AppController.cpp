@@ -73,7 +73,7 @@ AppController::AppController(Preferences &prefs, Interaction &ui, QObject *paren
     , m_reports(std::make_unique<ReportCommands>(*this, *m_outputs, prefs, ui))
     , m_notifications(std::make_unique<NotificationCommands>(*this, *this, *this, prefs, ui))
     , m_einvoices(std::make_unique<EInvoiceCommands>(*this, *m_documents, *m_outputs, prefs, ui))
-    , m_payments(std::make_unique<PaymentCommands>(*this, *this, *m_undo))
+    , m_payments(std::make_unique<PaymentCommands>(*this, *this, *m_undo, ui))
     , m_recurring(std::make_unique<RecurringCommands>(*this, *this, *this, m_prefs))
 {
     m_outputs->setEInvoices(*m_einvoices);
@@ -1015,6 +1015,39 @@ QString AppController::clientNumberString()
 QString AppController::getPatternDateStringFromDate(Date date) const
 {
     return Numbering::getPatternDateStringFromDate(m_prefs, date);
+}
+
+void AppController::runRecurring()
+{
+    if (!store())
+        return;
+    const Result<RecurringCommands::Run> run = m_recurring->run(now().toDateTime().toLocalTime().date());
+    if (!run) {
+        m_ui.presentError(run.error());
+        return;
+    }
+    if (!run.value().problems.isEmpty())
+        m_ui.alert(Tr::tr("Repeated Invoices"), run.value().problems.join(QLatin1Char('\n')), { Tr::tr("OK") });
+    QList<Record *> toSend;
+    QStringList names;
+    for (const RecurringCommands::Made &m : run.value().made) {
+        if (m.send && m.invoice) {
+            toSend << m.invoice;
+            names << m_documents->describe(*m.invoice);
+        }
+    }
+    if (toSend.isEmpty())
+        return;
+    const int answer = m_ui.ask(Tr::tr("Send Repeated Invoices"),
+        Tr::tr("These repeated invoices were written and are to be e-mailed:\n\n%1\n\nOpen a message for each now?")
+            .arg(names.join(QLatin1Char('\n'))),
+        { Tr::tr("Send"), Tr::tr("Not Now") }, 1);
+    if (answer != 0)
+        return;
+    for (Record *invoice : std::as_const(toSend)) {
+        setCurrentInvoice(invoice);
+        m_outputs->exportAndWait(OutputCommands::Email);
+    }
 }
 
 Record *AppController::findDocument(const QString &idOrNumber)

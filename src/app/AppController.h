@@ -183,6 +183,10 @@ public:
     QString getPatternDateStringFromDate(Date date) const;
 
     // Finds a document by uniqueID or number (first match, newest first).
+    // At start and when a schedule is added: writes the repeated invoices
+    // whose day has come, then asks before e-mailing those whose schedule
+    // says so.
+    void runRecurring();
     Record *findDocument(const QString &idOrNumber);
     // Every document with that uniqueID or, when none has it, that number.
     QList<Record *> findDocuments(const QString &idOrNumber);

@@ -1,17 +1,20 @@
 #include "app/PaymentCommands.h"
 
+#include "app/Interaction.h"
 #include "app/UndoHistory.h"
 #include "app/Workspace.h"
 #include "base/Clock.h"
 #include "domain/DocumentList.h"
 #include "domain/EntityModel.h"
 #include "domain/Record.h"
+#include "payments/CsvStatement.h"
 #include "store/NotificationSchedule.h"
 #include "store/PaymentLedger.h"
 #include "store/ScheduleTable.h"
 #include "store/Store.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 namespace {
 struct Tr
@@ -30,6 +33,24 @@ Error noDatabase()
 }
 
 } // namespace
+
+QString PaymentCommands::chooseStatement()
+{
+    Interaction::FileRequest request;
+    request.title = Tr::tr("Import Bank Statement");
+    request.extensions = { QStringLiteral("xml"), QStringLiteral("sta"), QStringLiteral("mt940"),
+        QStringLiteral("940"), QStringLiteral("csv"), QStringLiteral("txt") };
+    return m_ui.openFile(request);
+}
+
+QStringList PaymentCommands::csvHeadings(const QString &path) const
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const Result<payments::CsvTable> table = payments::splitCsv(file.read(1024 * 1024));
+    return table ? table.value().header : QStringList();
+}
 
 Result<PaymentCommands::Review> PaymentCommands::review(const QString &path, const QString &columns)
 {

@@ -5,6 +5,7 @@
 
 namespace tabo {
 
+class Interaction;
 class ListedDocuments;
 class StoreAccess;
 class UndoHistory;
@@ -15,12 +16,19 @@ class UndoHistory;
 class PaymentCommands
 {
 public:
-    PaymentCommands(StoreAccess &store, ListedDocuments &list, UndoHistory &undo)
+    PaymentCommands(StoreAccess &store, ListedDocuments &list, UndoHistory &undo, Interaction &ui)
         : m_store(store)
         , m_list(list)
         , m_undo(undo)
+        , m_ui(ui)
     {
     }
+
+    // The open panel for a statement; empty when cancelled.
+    QString chooseStatement();
+    // The headings of a CSV statement, for naming its columns; empty when
+    // the file is no CSV table.
+    QStringList csvHeadings(const QString &path) const;
 
     struct Review
     {
@@ -43,6 +51,7 @@ private:
     StoreAccess &m_store;
     ListedDocuments &m_list;
     UndoHistory &m_undo;
+    Interaction &m_ui;
 };
 
 } // namespace tabo

@@ -1,6 +1,8 @@
 #include "cli/NotifyCommand.h"
 
 #include "app/AppController.h"
+#include "app/RecurringCommands.h"
+#include "base/Clock.h"
 #include "app/NotificationCommands.h"
 #include "app/Notifier.h"
 #include "cli/Console.h"
@@ -188,6 +190,15 @@ int NotificationsCommand::deliverDue(const QStringList &args)
         return usageError(Tr::tr("--wait takes a number of seconds."));
     if (!m_session.store())
         return kExitFailure;
+    // The timer's hourly run also writes the repeated invoices that came due.
+    const Result<RecurringCommands::Run> repeated
+        = m_session.controller().recurring().run(now().toDateTime().toLocalTime().date());
+    if (!repeated)
+        printError(repeated.error().message());
+    else if (!repeated.value().made.isEmpty())
+        printOut(Tr::tr("Repeated invoices written: %1.").arg(repeated.value().made.size()));
+    for (const QString &problem : repeated ? repeated.value().problems : QStringList())
+        printError(problem);
     NotificationCommands &notifications = m_session.controller().notifications();
     const NotificationCommands::Delivery delivery = notifications.deliverDue();
     const int shown = delivery.shown;

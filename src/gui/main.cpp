@@ -13,7 +13,9 @@
 #include "gui/windows/ExportSheet.h"
 #include "gui/windows/NotificationSheet.h"
 #include "gui/windows/PreviewWindow.h"
+#include "gui/windows/PaymentReviewWindow.h"
 #include "gui/windows/ReportWindow.h"
+#include "gui/windows/ScheduleWindow.h"
 #include "prefs/Preferences.h"
 #include "render/PdfEngine.h"
 
@@ -166,6 +168,9 @@ int main(int argc, char **argv)
     const QCommandLineOption screenshotExport = hidden("screenshot-export", "file");
     const QCommandLineOption screenshotReminder = hidden("screenshot-reminder", "file");
     const QCommandLineOption screenshotAssistant = hidden("screenshot-assistant", "file");
+    const QCommandLineOption screenshotPayments = hidden("screenshot-payments", "file");
+    const QCommandLineOption screenshotStatement = hidden("screenshot-statement", "file");
+    const QCommandLineOption screenshotSchedules = hidden("screenshot-schedules", "file");
     // The Fusion style in dark colours, as a dark desktop theme shows the window.
     QCommandLineOption dark(QStringLiteral("dark"));
     dark.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -184,7 +189,8 @@ int main(int argc, char **argv)
     QGuiApplication::setDesktopFileName(DBusNotifier::kDesktopEntry);
     const bool grabbing = parser.isSet(screenshot) || parser.isSet(screenshotPreview)
         || parser.isSet(screenshotPreferences) || parser.isSet(screenshotCatalogue) || parser.isSet(screenshotReport)
-        || parser.isSet(screenshotReminder) || parser.isSet(screenshotExport) || parser.isSet(screenshotAssistant);
+        || parser.isSet(screenshotReminder) || parser.isSet(screenshotExport) || parser.isSet(screenshotAssistant)
+        || parser.isSet(screenshotPayments) || parser.isSet(screenshotSchedules);
     const bool newDocument = parser.isSet(newInvoice) || parser.isSet(newQuote);
     // A running Tabo takes the request; this process then has nothing to do.
     if (parser.isSet(showInvoice)) {
@@ -253,6 +259,8 @@ int main(int argc, char **argv)
         window.whenFree([&window, invoice] { (invoice ? window.newInvoiceAction() : window.newQuoteAction())->trigger(); });
     }
     controller.notifications().startDelivering();
+    // Repeated invoices whose day came while Tabo was closed, after the assistant.
+    window.whenFree([&controller] { controller.runRecurring(); });
     if (parser.isSet(showInvoice)) {
         const QString id = parser.value(showInvoice);
         QTimer::singleShot(0, &controller, [&controller, id] { controller.notifications().didActivateNotification(id); });
@@ -307,6 +315,34 @@ int main(int argc, char **argv)
             sheet->resize(sheet->width(), window.height() - 30);
             // The sheet waits for its PDF.
             QTimer::singleShot(2500, sheet, [&window, sheet, target] { saveShot(withSheet(window, sheet, 30), target, window); });
+        });
+    }
+    if (parser.isSet(screenshotPayments)) {
+        const QString target = parser.value(screenshotPayments);
+        const QString statement = parser.value(screenshotStatement);
+        QTimer::singleShot(400, &window, [&window, &controller, target, statement] {
+            PaymentReviewWindow *review = PaymentReviewWindow::review(controller, statement, &window);
+            if (!review) {
+                window.close();
+                return;
+            }
+            QTimer::singleShot(400, review, [&window, review, target] {
+                const QPixmap shot = review->grab();
+                review->close(); // a window still open would keep the run going
+                saveShot(shot, target, window);
+            });
+        });
+    }
+    if (parser.isSet(screenshotSchedules)) {
+        const QString target = parser.value(screenshotSchedules);
+        QTimer::singleShot(400, &window, [&window, &controller, target] {
+            ScheduleWindow *schedules = window.scheduleWindow();
+            schedules->showFor(controller.currentInvoice());
+            QTimer::singleShot(400, schedules, [&window, schedules, target] {
+                const QPixmap shot = schedules->grab();
+                schedules->close();
+                saveShot(shot, target, window);
+            });
         });
     }
     if (parser.isSet(screenshotReminder)) {

@@ -7,6 +7,7 @@
 #include "domain/Record.h"
 #include "gui/windows/AccountingExportSheet.h"
 #include "gui/editor/DocumentEditor.h"
+#include "gui/windows/PaymentReviewWindow.h"
 #include "gui/windows/PdfPane.h"
 #include "gui/widgets/ScreenFit.h"
 #include "prefs/Preferences.h"
@@ -83,6 +84,10 @@ void FileMenu::populate(QMenu *menu, QAction *quit)
     auto *received = menu->addAction(tr("Open E-Invoice…"));
     received->setObjectName(QStringLiteral("actionOpenEInvoice"));
     connect(received, &QAction::triggered, this, [this] { showReceived(m_app.einvoices().openReceived()); });
+    auto *statement = menu->addAction(tr("Import Bank Statement…"));
+    statement->setObjectName(QStringLiteral("actionImportStatement"));
+    connect(statement, &QAction::triggered, this, [this] { PaymentReviewWindow::importStatement(m_app, m_window); });
+    m_storeActions << statement;
     menu->addSeparator();
     menu->addActions({ m_backupDatabase, m_restoreDatabase, m_backupDocuments, m_restoreDocuments,
         m_backupCatalogue, m_restoreCatalogue, m_restoreAutomatic });

@@ -27,6 +27,7 @@
 #include "gui/windows/NotificationSheet.h"
 #include "gui/windows/PreviewWindow.h"
 #include "gui/windows/ReportWindow.h"
+#include "gui/windows/ScheduleWindow.h"
 #include "prefs/Preferences.h"
 
 #include <QAction>
@@ -167,6 +168,9 @@ void MainWindow::createActions()
     documents->addAction(m_actions->duplicate());
     documents->addAction(m_actions->convert());
     documents->addAction(m_actions->cancelInvoice());
+    QAction *repeat = documents->addAction(tr("Repeat Invoice…"));
+    repeat->setObjectName(QStringLiteral("actionRepeatInvoice"));
+    connect(repeat, &QAction::triggered, this, [this] { scheduleWindow()->showFor(m_app.currentInvoice()); });
     documents->addSeparator();
     documents->addAction(m_actions->remove());
     m_documentsMenu = documents;
@@ -214,6 +218,13 @@ void MainWindow::showHelp(QDialog *dialog)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setModal(false);
     dialog->show();
+}
+
+ScheduleWindow *MainWindow::scheduleWindow()
+{
+    if (!m_schedules)
+        m_schedules = new ScheduleWindow(m_app, this);
+    return m_schedules;
 }
 
 ReportWindow *MainWindow::reportWindow()

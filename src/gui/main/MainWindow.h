@@ -18,6 +18,7 @@ namespace tabo {
 class AppController;
 class CatalogueWindow;
 class ReportWindow;
+class ScheduleWindow;
 class DesignChoiceSheet;
 class DocumentActions;
 class DocumentEditor;
@@ -74,6 +75,8 @@ public:
     QVPreferencePanel *preferencePanel();
     CatalogueWindow *catalogueWindow();
     ReportWindow *reportWindow();
+    // Documents ▸ Repeat Invoice…; made on first use.
+    ScheduleWindow *scheduleWindow();
 
 protected:
     // Every quit, from the menu or the window's close button, ends here.
@@ -109,6 +112,7 @@ private:
     QLineEdit *m_search = nullptr;
     CatalogueWindow *m_catalogue = nullptr;
     ReportWindow *m_report = nullptr;
+    ScheduleWindow *m_schedules = nullptr;
     QSplitter *m_split = nullptr;
     FilterButton *m_filterButton = nullptr;
     QAction *m_newInvoice = nullptr;
