@@ -5,6 +5,7 @@
 
 #include "EditorBench.h"
 #include "PaymentsBench.h"
+#include "RecurringBench.h"
 #include "RenderBench.h"
 #include "StoreGenerator.h"
 
@@ -264,6 +265,8 @@ int main(int argc, char **argv)
         return bench::runEditorBench();
     if (QCoreApplication::arguments().contains(QStringLiteral("--payments-only")))
         return bench::runPaymentsBench();
+    if (QCoreApplication::arguments().contains(QStringLiteral("--recurring-only")))
+        return bench::runRecurringBench();
     if (!renderOnly) {
         if (const int code = storeTable(); code != 0)
             return code;
@@ -282,5 +285,9 @@ int main(int argc, char **argv)
         return code;
     std::printf("\n");
     std::fflush(stdout);
-    return bench::runPaymentsBench();
+    if (const int code = bench::runPaymentsBench())
+        return code;
+    std::printf("\n");
+    std::fflush(stdout);
+    return bench::runRecurringBench();
 }
