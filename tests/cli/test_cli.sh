@@ -624,6 +624,48 @@ jcheck 'd["applied"] == 0 and d["credits"][0]["confidence"] == "imported"'
 printf 'date;amount\n' >"$T/not-a-statement.csv"
 run 1 payments import "$T/not-a-statement.csv"
 run 2 payments export "$T/statement.xml"
+# A bank's CSV export whose headings nobody knows: named once, then remembered.
+Q=$("$CLI" new invoice)
+"$CLI" set "$Q" number CSV-5 >/dev/null
+"$CLI" set "$Q" amount 40 >/dev/null
+"$CLI" set "$Q" status 1 >/dev/null
+printf 'Tag;Wert;Notiz\n%s;40,00;CSV-5\n' "$(date +%d.%m.%Y)" >"$T/odd.csv"
+run 1 payments import "$T/odd.csv"
+grep -q "Tag, Wert, Notiz" "$T/err" || bad "unknown headings named: $(<"$T/err")"
+run 2 payments import "$T/odd.csv" --columns
+run 1 payments import "$T/odd.csv" --columns date=1,sum=2
+run 0 payments import "$T/odd.csv" --columns date=Tag,amount=2,text=3 --json
+jcheck 'd["format"] == "CSV" and d["credits"][0]["number"] == "CSV-5"'
+run 0 payments import "$T/odd.csv" --apply --json
+jcheck 'd["applied"] == 1'
+
+# --- repeated invoices -------------------------------------------------------
+R=$("$CLI" new invoice)
+"$CLI" set "$R" subject 'Retainer %PERIOD%' >/dev/null
+run 2 recurring add "$R" --every month
+run 2 recurring add "$R" --every month --from 2026-13-01
+run 1 recurring add "$R" --every '0 weeks' --from 2026-01-01
+run 1 recurring add "$R" --every month --from 2026-05-01 --until 2026-04-01
+run 1 recurring add NO-SUCH-TEMPLATE --every month --from 2026-05-01
+first=$(date -d "$(date +%Y-%m-01) -2 months" +%F)
+run 0 recurring add "$R" --every month --from "$first" --count 12
+run 0 recurring list
+grep -q "next $first" <<<"$OUT" || bad "list shows the next date: $OUT"
+run 0 recurring run --dry-run
+expect "dry run" "$(grep -c Would <<<"$OUT")" 3
+run 0 recurring run
+expect "caught up" "$(wc -l <<<"$OUT")" 3
+run 0 recurring run
+expect "nothing twice" "$OUT" ""
+run 0 list --json
+jcheck 'len([x for x in d["documents"] if x["subject"].startswith("Retainer ") and "%" not in x["subject"]]) == 3'
+run 0 recurring pause 1
+run 0 recurring resume 1
+run 1 recurring remove 99
+run 2 recurring pause one
+run 0 recurring remove 1
+run 0 recurring list
+expect "removed" "$OUT" ""
 
 # --- a store file that is not a database ------------------------------------
 mkdir -p "$T/other/data/Tabo"

@@ -2,13 +2,17 @@
 #include "gui/main/FileMenu.h"
 #include "gui/widgets/GuiInteraction.h"
 #include "gui/main/MainWindow.h"
+#include "gui/windows/PaymentReviewWindow.h"
 #include "gui/windows/PdfPane.h"
+#include "gui/windows/ScheduleWindow.h"
 #include "TestSupport.h"
 #include "WindowFixture.h"
 
 #include "app/AccountingExport.h"
 #include "app/AppController.h"
 #include "app/FileCommands.h"
+#include "app/RecurringCommands.h"
+#include "store/Store.h"
 #include "domain/Record.h"
 #include "prefs/Preferences.h"
 
@@ -17,6 +21,9 @@
 #include <QDateEdit>
 #include <QFileInfo>
 #include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableWidget>
 #include <QtTest>
 
 #include <memory>
@@ -59,6 +66,8 @@ private Q_SLOTS:
     void accountingSheetCountFollowsControls();
     void exportedDocumentImportsAgain();
     void receivedEInvoiceIsShownNotStored();
+    void statementIsReviewedAppliedAndUndone();
+    void invoiceRepeatsFromItsWindow();
 };
 
 void TestFileMenu::accountingSheetCountFollowsControls()
@@ -171,6 +180,76 @@ void TestFileMenu::receivedEInvoiceIsShownNotStored()
     GuiInteraction::setNextAnswer(0);
     open->trigger();
     QCOMPARE(GuiInteraction::lastAlertTitle(), QStringLiteral("The e-invoice cannot be shown"));
+}
+
+void TestFileMenu::statementIsReviewedAppliedAndUndone()
+{
+    Fixture f;
+    const auto priced = [&f](const QString &number, double price) {
+        Record *doc = f.invoice(now(), 1);
+        doc->setText(Invoice::number, number);
+        Record *line = f.app.store()->insert(EntityId::Item);
+        line->setToOne(Item::invoice, doc);
+        line->setNum(Item::unitCount, 1.0);
+        line->setNum(Item::baseAmount, price);
+        f.app.documentChanged(doc);
+        return doc;
+    };
+    Record *paid = priced(QStringLiteral("RE-1"), 100.0);
+    Record *chosen = priced(QStringLiteral("RE-2"), 80.0);
+    const QString day = now().toDateTime().toLocalTime().date().toString(Qt::ISODate);
+    const QString path = f.home.path() + QStringLiteral("/statement.csv");
+    QFile csv(path);
+    QVERIFY(csv.open(QIODevice::WriteOnly));
+    csv.write(QStringLiteral("Buchungstag;Verwendungszweck;Betrag\n%1;Rechnung RE-1;%2\n%1;Danke;50,00\n")
+                  .arg(day, QString::number(paid->num(Invoice::amount), 'f', 2).replace(u'.', u','))
+                  .toUtf8());
+    csv.close();
+
+    GuiInteraction::setNextFileName(path);
+    f.window->findChild<QAction *>(QStringLiteral("actionImportStatement"))->trigger();
+    auto *review = f.window->findChild<PaymentReviewWindow *>();
+    QVERIFY(review && review->isVisible());
+    QTableWidget *table = review->table();
+    QCOMPARE(table->rowCount(), 2);
+    QCOMPARE(table->item(0, 0)->checkState(), Qt::Checked);
+    QCOMPARE(table->item(1, 0)->checkState(), Qt::Unchecked);
+    // The second credit is the person's choice: RE-2, partly paid.
+    auto *choice = qobject_cast<QComboBox *>(table->cellWidget(1, 5));
+    choice->setCurrentIndex(choice->findText(QStringLiteral("RE-2"), Qt::MatchStartsWith));
+    QCOMPARE(table->item(1, 0)->checkState(), Qt::Checked);
+    review->applyButton()->click();
+    QCOMPARE(paid->integer(Invoice::status), 3);
+    QCOMPARE(chosen->integer(Invoice::status), 4);
+    QCOMPARE(chosen->num(Invoice::paidAmount), 50.0);
+
+    // Edit ▸ Undo takes both back at once.
+    f.window->findChild<QAction *>(QStringLiteral("actionUndo"))->trigger();
+    QCOMPARE(paid->integer(Invoice::status), 1);
+    QCOMPARE(chosen->integer(Invoice::status), 1);
+    QCOMPARE(chosen->num(Invoice::paidAmount), 0.0);
+}
+
+void TestFileMenu::invoiceRepeatsFromItsWindow()
+{
+    Fixture f;
+    Record *doc = f.invoice(now(), 1);
+    f.app.setCurrentInvoice(doc);
+    f.window->findChild<QAction *>(QStringLiteral("actionRepeatInvoice"))->trigger();
+    auto *schedules = f.window->findChild<ScheduleWindow *>();
+    QVERIFY(schedules && schedules->isVisible());
+    QCOMPARE(schedules->table()->rowCount(), 0);
+    schedules->everyBox()->setValue(2);
+    schedules->unitBox()->setCurrentIndex(schedules->unitBox()->findData(QStringLiteral("weeks")));
+    schedules->fromEdit()->setDate(QDate::currentDate().addDays(3));
+    schedules->countBox()->setValue(5);
+    schedules->addButton()->click();
+    QCOMPARE(schedules->table()->rowCount(), 1);
+    const QList<Schedule> list = f.app.recurring().list().value();
+    QCOMPARE(list.size(), 1);
+    QCOMPARE(list.first().recurrence.interval(), QStringLiteral("2 weeks"));
+    QCOMPARE(list.first().recurrence.count, 5);
+    QCOMPARE(list.first().source, doc->text(Invoice::uniqueID));
 }
 
 QTEST_MAIN(TestFileMenu)

@@ -13,7 +13,9 @@
 #include "gui/windows/LetterSheet.h"
 #include "gui/windows/NotificationSheet.h"
 #include "gui/windows/PreviewWindow.h"
+#include "gui/windows/PaymentReviewWindow.h"
 #include "gui/windows/ReportWindow.h"
+#include "gui/windows/ScheduleWindow.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -48,6 +50,23 @@ private Q_SLOTS:
 };
 
 namespace {
+
+// Two credits for the review window: one sure, one without a match.
+PaymentCommands::Review sampleReview()
+{
+    PaymentCommands::Review review;
+    for (const char *text : { "Rechnung RE-2026-0107 vom 1. November, vielen Dank", "Überweisung" }) {
+        payments::Proposal p;
+        p.credit.booked = QDate(2026, 11, 20);
+        p.credit.cents = 23800;
+        p.credit.currency = QStringLiteral("EUR");
+        p.credit.payer = QStringLiteral("Nordlicht Werbeagentur GmbH & Co. KG");
+        p.credit.text = QString::fromUtf8(text);
+        p.why = QStringLiteral("Keine offene Rechnung passt.");
+        review.proposals << p;
+    }
+    return review;
+}
 
 // Why the window does not fit, or empty.
 QString misfit(QWidget *window)
@@ -106,6 +125,9 @@ void TestWindowFit::everyWindowFitsTheScreen()
     check(f.window->previewWindow());
     check(f.window->reportWindow());
     check(f.window->catalogueWindow());
+    check(f.window->scheduleWindow());
+    PaymentReviewWindow review(f.app, sampleReview(), f.window.get());
+    check(&review);
     AccountingExportSheet accounting(f.app, f.window.get());
     check(&accounting);
     FirstStartAssistant assistant(f.app);
@@ -183,9 +205,11 @@ void TestWindowFit::everyControlHasAName()
     QVPreferencePanel *panel = f.window->preferencePanel();
     AccountingExportSheet accounting(f.app, f.window.get());
     FirstStartAssistant assistant(f.app);
+    PaymentReviewWindow review(f.app, sampleReview(), f.window.get());
     const QList<QWidget *> windows { f.window.get(), panel, f.window->exportSheet(), f.window->letterSheet(),
         f.window->designChoiceSheet(), f.window->notificationSheet(), f.window->previewWindow(),
-        f.window->reportWindow(), f.window->catalogueWindow(), &accounting, &assistant };
+        f.window->reportWindow(), f.window->catalogueWindow(), &accounting, &assistant, f.window->scheduleWindow(),
+        &review };
     QStringList unnamed;
     int controls = 0;
     for (QWidget *window : windows) {
