@@ -388,6 +388,34 @@ Ihre Änderungen behalten und die anderen überschreiben, oder die gespeicherte 
         <source>It is an invoice dump, which no restore reads.</source>
         <translation>Sie ist ein Rechnungs-Dump, den keine Wiederherstellung liest.</translation>
     </message>
+    <message>
+        <source>Repeated Invoices</source>
+        <translation>Wiederkehrende Rechnungen</translation>
+    </message>
+    <message>
+        <source>Send Repeated Invoices</source>
+        <translation>Wiederkehrende Rechnungen senden</translation>
+    </message>
+    <message>
+        <source>These repeated invoices were written and are to be e-mailed:
+
+%1
+
+Open a message for each now?</source>
+        <translation>Diese wiederkehrenden Rechnungen wurden geschrieben und sollen per E-Mail verschickt werden:
+
+%1
+
+Jetzt für jede eine Nachricht öffnen?</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
 </context>
 <context>
     <name>AttributeText</name>
@@ -816,6 +844,29 @@ Ihre Änderungen behalten und die anderen überschreiben, oder die gespeicherte 
     <message>
         <source>Convert a quote into an invoice (new number, title and texts); cannot be undone, so it needs --yes.</source>
         <translation>Wandelt ein Angebot in eine Rechnung um (neue Nummer, Titel und Texte); lässt sich nicht rückgängig machen, daher braucht es --yes.</translation>
+    </message>
+</context>
+<context>
+    <name>CsvStatement</name>
+    <message>
+        <source>“%1” is no column of a statement; the columns are date, amount, credit, debit, currency, payer, iban, text and reference.</source>
+        <translation>„%1“ ist keine Spalte eines Kontoauszugs; die Spalten sind date, amount, credit, debit, currency, payer, iban, text und reference.</translation>
+    </message>
+    <message>
+        <source>The file has no column “%1”.</source>
+        <translation>Die Datei hat keine Spalte „%1“.</translation>
+    </message>
+    <message>
+        <source>A statement needs at least its date and amount columns (or credit).</source>
+        <translation>Ein Kontoauszug braucht mindestens die Spalten für Datum und Betrag (oder Haben).</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054, MT940 or CSV): it has no heading of three or more columns.</source>
+        <translation>Dies ist kein Kontoauszug, den Tabo liest (CAMT.053, CAMT.054, MT940 oder CSV): Er hat keine Überschrift mit drei oder mehr Spalten.</translation>
+    </message>
+    <message>
+        <source>Entry %1 has no amount that can be read: “%2”.</source>
+        <translation>Eintrag %1 hat keinen lesbaren Betrag: „%2“.</translation>
     </message>
 </context>
 <context>
@@ -2041,6 +2092,10 @@ Abbrechen: Das nächste Dokument (%1) erhält die Nummer %3.</translation>
         <source>--wait takes a number of seconds.</source>
         <translation>--wait nimmt eine Anzahl Sekunden.</translation>
     </message>
+    <message>
+        <source>Repeated invoices written: %1.</source>
+        <translation>Wiederkehrende Rechnungen geschrieben: %1.</translation>
+    </message>
 </context>
 <context>
     <name>NumberCounters</name>
@@ -2166,7 +2221,15 @@ Sie können das PDF speichern und selbst an eine Nachricht anhängen oder den Or
     <name>PaymentCommands</name>
     <message>
         <source>No database is open.</source>
-        <translation>Keine Datenbank ist geöffnet.</translation>
+        <translation>Es ist keine Datenbank geöffnet.</translation>
+    </message>
+    <message>
+        <source>Import Bank Statement</source>
+        <translation>Kontoauszug importieren</translation>
+    </message>
+    <message>
+        <source>Payments</source>
+        <translation>Zahlungen</translation>
     </message>
 </context>
 <context>
@@ -2178,10 +2241,6 @@ Sie können das PDF speichern und selbst an eine Nachricht anhängen oder den Or
 </context>
 <context>
     <name>PaymentsCommand</name>
-    <message>
-        <source>Read a bank statement (CAMT.053, CAMT.054 or MT940) and match its credits against the open invoices: sure (the text names the invoice and the amount is what it owes), proposed, ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid or partly paid. A booking is never taken in twice.</source>
-        <translation>Liest einen Kontoauszug (CAMT.053, CAMT.054 oder MT940) und ordnet seine Gutschriften den offenen Rechnungen zu: sicher (der Text nennt die Rechnung und der Betrag ist, was sie schuldet), vorgeschlagen, mehrdeutig, keine oder schon früher übernommen. --apply übernimmt die sicheren Zuordnungen: Die Rechnung ist bezahlt oder teilweise bezahlt. Eine Buchung wird nie zweimal übernommen.</translation>
-    </message>
     <message>
         <source>Print JSON.</source>
         <translation>JSON ausgeben.</translation>
@@ -2197,6 +2256,14 @@ Sie können das PDF speichern und selbst an eine Nachricht anhängen oder den Or
     <message>
         <source>Payments taken in: %1.</source>
         <translation>Übernommene Zahlungen: %1.</translation>
+    </message>
+    <message>
+        <source>Read a bank statement (CAMT.053, CAMT.054, MT940 or CSV) and match its credits against the open invoices: sure (the text names the invoice and the amount is what it owes), proposed, ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid or partly paid. A booking is never taken in twice. --columns names the columns of a CSV export whose headings are not recognised (date, amount or credit and debit, currency, payer, iban, text, reference; by number or heading); they are remembered for files laid out like it.</source>
+        <translation>Einen Kontoauszug lesen (CAMT.053, CAMT.054, MT940 oder CSV) und seine Gutschriften den offenen Rechnungen zuordnen: sicher (der Text nennt die Rechnung und der Betrag ist, was sie schuldet), vorgeschlagen, mehrdeutig, keine oder schon früher übernommen. --apply übernimmt die sicheren Zuordnungen: Die Rechnung ist bezahlt oder teilweise bezahlt. Keine Buchung wird zweimal übernommen. --columns nennt die Spalten eines CSV-Exports, dessen Überschriften nicht erkannt werden (date, amount oder credit und debit, currency, payer, iban, text, reference; nach Nummer oder Überschrift); sie werden für gleich aufgebaute Dateien gemerkt.</translation>
+    </message>
+    <message>
+        <source>The columns of a CSV statement.</source>
+        <translation>Die Spalten eines CSV-Kontoauszugs.</translation>
     </message>
 </context>
 <context>
@@ -2738,6 +2805,211 @@ Sie können das PDF speichern und selbst an eine Nachricht anhängen oder den Or
     </message>
 </context>
 <context>
+    <name>Recurrence</name>
+    <message>
+        <source>month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>months</source>
+        <translation>Monate</translation>
+    </message>
+    <message>
+        <source>quarter</source>
+        <translation>Quartal</translation>
+    </message>
+    <message>
+        <source>quarters</source>
+        <translation>Quartale</translation>
+    </message>
+    <message>
+        <source>year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>years</source>
+        <translation>Jahre</translation>
+    </message>
+    <message>
+        <source>week</source>
+        <translation>Woche</translation>
+    </message>
+    <message>
+        <source>weeks</source>
+        <translation>Wochen</translation>
+    </message>
+    <message>
+        <source>“%1” is no interval: say month, quarter, year or a number of weeks (“2 weeks”).</source>
+        <translation>„%1“ ist kein Abstand: Sagen Sie Monat, Quartal, Jahr oder eine Zahl von Wochen („2 Wochen“).</translation>
+    </message>
+    <message>
+        <source>An invoice cannot repeat every %1 %2; the interval must be at least 1.</source>
+        <translation>Eine Rechnung kann sich nicht alle %1 %2 wiederholen; der Abstand muss mindestens 1 sein.</translation>
+    </message>
+    <message>
+        <source>A repeated invoice needs the day of its first invoice.</source>
+        <translation>Eine wiederkehrende Rechnung braucht den Tag ihrer ersten Rechnung.</translation>
+    </message>
+    <message>
+        <source>The last day (%1) lies before the first (%2).</source>
+        <translation>Der letzte Tag (%1) liegt vor dem ersten (%2).</translation>
+    </message>
+    <message>
+        <source>The number of invoices cannot be negative.</source>
+        <translation>Die Zahl der Rechnungen kann nicht negativ sein.</translation>
+    </message>
+    <message>
+        <source>every week</source>
+        <translation>jede Woche</translation>
+    </message>
+    <message>
+        <source>every %1 weeks</source>
+        <translation>alle %1 Wochen</translation>
+    </message>
+    <message>
+        <source>every month</source>
+        <translation>jeden Monat</translation>
+    </message>
+    <message>
+        <source>every quarter</source>
+        <translation>jedes Quartal</translation>
+    </message>
+    <message>
+        <source>every year</source>
+        <translation>jedes Jahr</translation>
+    </message>
+    <message>
+        <source>every %1 months</source>
+        <translation>alle %1 Monate</translation>
+    </message>
+</context>
+<context>
+    <name>RecurringCommand</name>
+    <message>
+        <source>month, quarter, year or N weeks.</source>
+        <translation>month, quarter, year oder N weeks.</translation>
+    </message>
+    <message>
+        <source>The day of the first invoice.</source>
+        <translation>Der Tag der ersten Rechnung.</translation>
+    </message>
+    <message>
+        <source>The last day an invoice may fall on.</source>
+        <translation>Der letzte Tag, auf den eine Rechnung fallen darf.</translation>
+    </message>
+    <message>
+        <source>How many invoices in all.</source>
+        <translation>Wie viele Rechnungen insgesamt.</translation>
+    </message>
+    <message>
+        <source>add: e-mail each invoice when written; run: send those now.</source>
+        <translation>add: jede Rechnung nach dem Schreiben per E-Mail senden; run: diese jetzt senden.</translation>
+    </message>
+    <message>
+        <source>Say which invoices would be written; write none.</source>
+        <translation>Sagen, welche Rechnungen geschrieben würden; keine schreiben.</translation>
+    </message>
+    <message>
+        <source>Invoices that repeat. add copies an invoice or a template on every date from --from: numbered by the invoice pattern, dated on its day, %PERIOD% in its texts filled with the period it bills. run writes every date that has come, those missed meanwhile too, each once; with --send it e-mails those whose schedule says so.</source>
+        <translation>Rechnungen, die sich wiederholen. add kopiert eine Rechnung oder Vorlage an jedem Termin ab --from: nummeriert nach dem Rechnungsmuster, auf ihren Tag datiert, %PERIOD% in ihren Texten durch den abgerechneten Zeitraum ersetzt. run schreibt jeden Termin, der gekommen ist, auch die inzwischen verpassten, jeden einmal; mit --send verschickt es per E-Mail, was der Zeitplan so vorsieht.</translation>
+    </message>
+    <message>
+        <source>Unknown “%1”: add, list, pause, resume, remove or run.</source>
+        <translation>Unbekannt „%1“: add, list, pause, resume, remove oder run.</translation>
+    </message>
+    <message>
+        <source>%1 takes the number of a repeated invoice, as the list shows it.</source>
+        <translation>%1 erwartet die Nummer einer wiederkehrenden Rechnung, wie die Liste sie zeigt.</translation>
+    </message>
+    <message>
+        <source>add needs --every and --from.</source>
+        <translation>add braucht --every und --from.</translation>
+    </message>
+    <message>
+        <source>Give --until or --count, not both.</source>
+        <translation>Geben Sie --until oder --count an, nicht beides.</translation>
+    </message>
+    <message>
+        <source>Dates are written as YYYY-MM-DD.</source>
+        <translation>Daten werden als JJJJ-MM-TT geschrieben.</translation>
+    </message>
+    <message>
+        <source>--count takes a number of invoices above 0.</source>
+        <translation>--count erwartet eine Zahl von Rechnungen über 0.</translation>
+    </message>
+    <message>
+        <source>Repeated invoice %1: %2 %3, the first on %4.</source>
+        <translation>Wiederkehrende Rechnung %1: %2 %3, die erste am %4.</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>pausiert</translation>
+    </message>
+    <message>
+        <source>next %1</source>
+        <translation>nächste %1</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>beendet</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+    <message>
+        <source>, e-mailed</source>
+        <translation>, per E-Mail</translation>
+    </message>
+    <message>
+        <source>Would write repeated invoice %1 of %2.</source>
+        <translation>Würde wiederkehrende Rechnung %1 vom %2 schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>RecurringCommands</name>
+    <message>
+        <source>No database is open.</source>
+        <translation>Es ist keine Datenbank geöffnet.</translation>
+    </message>
+    <message>
+        <source>There is no repeated invoice %1.</source>
+        <translation>Es gibt keine wiederkehrende Rechnung %1.</translation>
+    </message>
+    <message>
+        <source>“%1” (no longer there)</source>
+        <translation>„%1“ (nicht mehr vorhanden)</translation>
+    </message>
+    <message>
+        <source>Template “%1”</source>
+        <translation>Vorlage „%1“</translation>
+    </message>
+    <message>
+        <source>Invoice %1</source>
+        <translation>Rechnung %1</translation>
+    </message>
+    <message>
+        <source>Invoice %1 (%2)</source>
+        <translation>Rechnung %1 (%2)</translation>
+    </message>
+    <message>
+        <source>“%1” names %2 documents; give the document&apos;s ID instead.</source>
+        <translation>„%1“ bezeichnet %2 Dokumente; geben Sie stattdessen die ID des Dokuments an.</translation>
+    </message>
+    <message>
+        <source>“%1” is a quote; only an invoice or a template repeats.</source>
+        <translation>„%1“ ist ein Angebot; nur eine Rechnung oder eine Vorlage wiederholt sich.</translation>
+    </message>
+    <message>
+        <source>There is no invoice or template “%1”.</source>
+        <translation>Es gibt keine Rechnung und keine Vorlage „%1“.</translation>
+    </message>
+    <message>
+        <source>Repeated invoice %1 is not written: its invoice or template “%2” is no longer there.</source>
+        <translation>Wiederkehrende Rechnung %1 wird nicht geschrieben: Ihre Rechnung oder Vorlage „%2“ ist nicht mehr vorhanden.</translation>
+    </message>
+</context>
+<context>
     <name>ReminderTimer</name>
     <message>
         <source>systemd could not be asked (%1 did not start).</source>
@@ -3009,6 +3281,13 @@ Deutschland</translation>
     </message>
 </context>
 <context>
+    <name>ScheduleTable</name>
+    <message>
+        <source>The repeated invoices could not be read or written: %1</source>
+        <translation>Die wiederkehrenden Rechnungen konnten nicht gelesen oder geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>Session</name>
     <message>
         <source>The database could not be opened.</source>
@@ -3111,12 +3390,16 @@ Deutschland</translation>
         <translation>Die Datei verschachtelt ihre Elemente tiefer als jeder Kontoauszug.</translation>
     </message>
     <message>
-        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054 or MT940).</source>
-        <translation>Dies ist kein Kontoauszug, den Tabo liest (CAMT.053, CAMT.054 oder MT940).</translation>
-    </message>
-    <message>
         <source>The file “%1” could not be read: %2</source>
         <translation>Die Datei “%1” konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The columns of this CSV file are not recognised: %1. Say once which column holds the date, the amount, the payer, the IBAN and the text; Tabo remembers it for files laid out like this one.</source>
+        <translation>Die Spalten dieser CSV-Datei werden nicht erkannt: %1. Sagen Sie einmal, welche Spalte das Datum, den Betrag, den Zahler, die IBAN und den Text enthält; Tabo merkt es sich für gleich aufgebaute Dateien.</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054, MT940 or CSV).</source>
+        <translation>Dies ist kein Kontoauszug, den Tabo liest (CAMT.053, CAMT.054, MT940 oder CSV).</translation>
     </message>
 </context>
 <context>
@@ -3183,7 +3466,7 @@ Deutschland</translation>
     </message>
     <message>
         <source>No database is open.</source>
-        <translation>Keine Datenbank ist geöffnet.</translation>
+        <translation>Es ist keine Datenbank geöffnet.</translation>
     </message>
     <message>
         <source>The backup uses another page size than the database.</source>
@@ -3340,7 +3623,7 @@ Deutschland</translation>
     </message>
     <message>
         <source>No database is open.</source>
-        <translation>Keine Datenbank ist geöffnet.</translation>
+        <translation>Es ist keine Datenbank geöffnet.</translation>
     </message>
     <message>
         <source>The database could not be written.</source>
@@ -4230,6 +4513,10 @@ Deutschland</translation>
         <source>Received E-Invoice</source>
         <translation>Empfangene E-Rechnung</translation>
     </message>
+    <message>
+        <source>Import Bank Statement…</source>
+        <translation>Kontoauszug importieren…</translation>
+    </message>
 </context>
 <context>
     <name>tabo::FilterButton</name>
@@ -4733,6 +5020,10 @@ Deutschland</translation>
         <source>About Tabo</source>
         <translation>Über Tabo</translation>
     </message>
+    <message>
+        <source>Repeat Invoice…</source>
+        <translation>Rechnung wiederholen…</translation>
+    </message>
 </context>
 <context>
     <name>tabo::NotificationSheet</name>
@@ -4770,6 +5061,125 @@ Deutschland</translation>
     <message>
         <source>FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!</source>
         <translation>FEHLER! IHR GEWÄHLTES DESIGN IST DEFEKT, BESCHÄDIGT ODER UNBRAUCHBAR! SIE MÜSSEN ES REPARIEREN!</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::PaymentReviewWindow</name>
+    <message>
+        <source>Sure</source>
+        <translation>Sicher</translation>
+    </message>
+    <message>
+        <source>Proposed</source>
+        <translation>Vorgeschlagen</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Taken in before</source>
+        <translation>Schon übernommen</translation>
+    </message>
+    <message>
+        <source>No match</source>
+        <translation>Keine Zuordnung</translation>
+    </message>
+    <message>
+        <source>Bank Statement</source>
+        <translation>Kontoauszug</translation>
+    </message>
+    <message>
+        <source>Credits on the statement</source>
+        <translation>Gutschriften auf dem Kontoauszug</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Booked</source>
+        <translation>Gebucht</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Betrag</translation>
+    </message>
+    <message>
+        <source>Payer</source>
+        <translation>Zahler</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Invoice</source>
+        <translation>Rechnung</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation>Zuordnung</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Warum</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>%1 of %2 credits (%3) will be taken in; the rest is skipped.</source>
+        <translation>%1 von %2 Gutschriften (%3) werden übernommen; der Rest wird übersprungen.</translation>
+    </message>
+    <message>
+        <source>The bank statement cannot be read</source>
+        <translation>Der Kontoauszug kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Columns of the Statement</source>
+        <translation>Spalten des Kontoauszugs</translation>
+    </message>
+    <message>
+        <source>Booking date:</source>
+        <translation>Buchungsdatum:</translation>
+    </message>
+    <message>
+        <source>Amount:</source>
+        <translation>Betrag:</translation>
+    </message>
+    <message>
+        <source>Payer:</source>
+        <translation>Zahler:</translation>
+    </message>
+    <message>
+        <source>IBAN:</source>
+        <translation>IBAN:</translation>
+    </message>
+    <message>
+        <source>Remittance text:</source>
+        <translation>Verwendungszweck:</translation>
+    </message>
+    <message>
+        <source>Currency:</source>
+        <translation>Währung:</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(keine)</translation>
+    </message>
+    <message>
+        <source>Tabo does not know the headings of this file. Say once which column holds what; files laid out like it are read so from now on.</source>
+        <translation>Tabo kennt die Überschriften dieser Datei nicht. Sagen Sie einmal, welche Spalte was enthält; gleich aufgebaute Dateien werden von nun an so gelesen.</translation>
     </message>
 </context>
 <context>
@@ -5397,6 +5807,121 @@ Fügen Sie im Bereich Design der Einstellungen ein Design hinzu oder importieren
     <message>
         <source>To:</source>
         <translation>Bis:</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::ScheduleWindow</name>
+    <message>
+        <source>Repeated Invoices</source>
+        <translation>Wiederkehrende Rechnungen</translation>
+    </message>
+    <message>
+        <source>Repeat the current invoice</source>
+        <translation>Die aktuelle Rechnung wiederholen</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>months</source>
+        <translation>Monate</translation>
+    </message>
+    <message>
+        <source>quarters</source>
+        <translation>Quartale</translation>
+    </message>
+    <message>
+        <source>years</source>
+        <translation>Jahre</translation>
+    </message>
+    <message>
+        <source>weeks</source>
+        <translation>Wochen</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Letzter Tag</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>unbegrenzt</translation>
+    </message>
+    <message>
+        <source>E-mail each invoice when it is written (Tabo asks first)</source>
+        <translation>Jede Rechnung nach dem Schreiben per E-Mail senden (Tabo fragt vorher)</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Invoice:</source>
+        <translation>Rechnung:</translation>
+    </message>
+    <message>
+        <source>Every:</source>
+        <translation>Alle:</translation>
+    </message>
+    <message>
+        <source>First on:</source>
+        <translation>Erste am:</translation>
+    </message>
+    <message>
+        <source>Number of invoices:</source>
+        <translation>Zahl der Rechnungen:</translation>
+    </message>
+    <message>
+        <source>Repeated invoices</source>
+        <translation>Wiederkehrende Rechnungen</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächste</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>Geschrieben</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausieren</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Select an invoice in the list to repeat it.</source>
+        <translation>Wählen Sie eine Rechnung in der Liste, um sie zu wiederholen.</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>pausiert</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>beendet</translation>
     </message>
 </context>
 <context>

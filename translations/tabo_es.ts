@@ -388,6 +388,34 @@ El suyo: %4
         <source>It is an invoice dump, which no restore reads.</source>
         <translation>Es un volcado de facturas, que ninguna restauración lee.</translation>
     </message>
+    <message>
+        <source>Repeated Invoices</source>
+        <translation>Facturas periódicas</translation>
+    </message>
+    <message>
+        <source>Send Repeated Invoices</source>
+        <translation>Enviar facturas periódicas</translation>
+    </message>
+    <message>
+        <source>These repeated invoices were written and are to be e-mailed:
+
+%1
+
+Open a message for each now?</source>
+        <translation>Estas facturas periódicas se han emitido y deben enviarse por correo electrónico:
+
+%1
+
+¿Abrir ahora un mensaje para cada una?</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Ahora no</translation>
+    </message>
 </context>
 <context>
     <name>AttributeText</name>
@@ -816,6 +844,29 @@ El suyo: %4
     <message>
         <source>Convert a quote into an invoice (new number, title and texts); cannot be undone, so it needs --yes.</source>
         <translation>Convierte un presupuesto en factura (número, título y textos nuevos); no se puede deshacer, así que necesita --yes.</translation>
+    </message>
+</context>
+<context>
+    <name>CsvStatement</name>
+    <message>
+        <source>“%1” is no column of a statement; the columns are date, amount, credit, debit, currency, payer, iban, text and reference.</source>
+        <translation>«%1» no es una columna de un extracto; las columnas son date, amount, credit, debit, currency, payer, iban, text y reference.</translation>
+    </message>
+    <message>
+        <source>The file has no column “%1”.</source>
+        <translation>El archivo no tiene ninguna columna «%1».</translation>
+    </message>
+    <message>
+        <source>A statement needs at least its date and amount columns (or credit).</source>
+        <translation>Un extracto necesita al menos las columnas de fecha e importe (o abono).</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054, MT940 or CSV): it has no heading of three or more columns.</source>
+        <translation>No es un extracto que Tabo lea (CAMT.053, CAMT.054, MT940 o CSV): no tiene un encabezado de tres o más columnas.</translation>
+    </message>
+    <message>
+        <source>Entry %1 has no amount that can be read: “%2”.</source>
+        <translation>La entrada %1 no tiene un importe legible: «%2».</translation>
     </message>
 </context>
 <context>
@@ -2041,6 +2092,10 @@ Cancelar: el próximo documento (%1) llevará el número %3.</translation>
         <source>--wait takes a number of seconds.</source>
         <translation>--wait admite un número de segundos.</translation>
     </message>
+    <message>
+        <source>Repeated invoices written: %1.</source>
+        <translation>Facturas periódicas emitidas: %1.</translation>
+    </message>
 </context>
 <context>
     <name>NumberCounters</name>
@@ -2168,6 +2223,14 @@ Puede guardar el PDF y adjuntarlo usted mismo a un mensaje, o abrir la carpeta q
         <source>No database is open.</source>
         <translation>No hay ninguna base de datos abierta.</translation>
     </message>
+    <message>
+        <source>Import Bank Statement</source>
+        <translation>Importar extracto bancario</translation>
+    </message>
+    <message>
+        <source>Payments</source>
+        <translation>Pagos</translation>
+    </message>
 </context>
 <context>
     <name>PaymentLedger</name>
@@ -2178,10 +2241,6 @@ Puede guardar el PDF y adjuntarlo usted mismo a un mensaje, o abrir la carpeta q
 </context>
 <context>
     <name>PaymentsCommand</name>
-    <message>
-        <source>Read a bank statement (CAMT.053, CAMT.054 or MT940) and match its credits against the open invoices: sure (the text names the invoice and the amount is what it owes), proposed, ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid or partly paid. A booking is never taken in twice.</source>
-        <translation>Lee un extracto bancario (CAMT.053, CAMT.054 o MT940) y asigna sus abonos a las facturas abiertas: seguro (el texto nombra la factura y el importe es lo que debe), propuesto, ambiguo, ninguno o ya registrado antes. --apply registra las asignaciones seguras: la factura queda pagada o pagada en parte. Un apunte nunca se registra dos veces.</translation>
-    </message>
     <message>
         <source>Print JSON.</source>
         <translation>Mostrar JSON.</translation>
@@ -2197,6 +2256,14 @@ Puede guardar el PDF y adjuntarlo usted mismo a un mensaje, o abrir la carpeta q
     <message>
         <source>Payments taken in: %1.</source>
         <translation>Pagos registrados: %1.</translation>
+    </message>
+    <message>
+        <source>Read a bank statement (CAMT.053, CAMT.054, MT940 or CSV) and match its credits against the open invoices: sure (the text names the invoice and the amount is what it owes), proposed, ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid or partly paid. A booking is never taken in twice. --columns names the columns of a CSV export whose headings are not recognised (date, amount or credit and debit, currency, payer, iban, text, reference; by number or heading); they are remembered for files laid out like it.</source>
+        <translation>Leer un extracto bancario (CAMT.053, CAMT.054, MT940 o CSV) y casar sus abonos con las facturas pendientes: seguro (el texto nombra la factura y el importe es lo que debe), propuesto, ambiguo, ninguno o importado antes. --apply aplica los casos seguros: la factura queda pagada o pagada en parte. Un apunte nunca se aplica dos veces. --columns nombra las columnas de una exportación CSV cuyos encabezados no se reconocen (date, amount o credit y debit, currency, payer, iban, text, reference; por número o encabezado); se recuerdan para los archivos con la misma disposición.</translation>
+    </message>
+    <message>
+        <source>The columns of a CSV statement.</source>
+        <translation>Las columnas de un extracto CSV.</translation>
     </message>
 </context>
 <context>
@@ -2738,6 +2805,211 @@ Puede guardar el PDF y adjuntarlo usted mismo a un mensaje, o abrir la carpeta q
     </message>
 </context>
 <context>
+    <name>Recurrence</name>
+    <message>
+        <source>month</source>
+        <translation>mes</translation>
+    </message>
+    <message>
+        <source>months</source>
+        <translation>meses</translation>
+    </message>
+    <message>
+        <source>quarter</source>
+        <translation>trimestre</translation>
+    </message>
+    <message>
+        <source>quarters</source>
+        <translation>trimestres</translation>
+    </message>
+    <message>
+        <source>year</source>
+        <translation>año</translation>
+    </message>
+    <message>
+        <source>years</source>
+        <translation>años</translation>
+    </message>
+    <message>
+        <source>week</source>
+        <translation>semana</translation>
+    </message>
+    <message>
+        <source>weeks</source>
+        <translation>semanas</translation>
+    </message>
+    <message>
+        <source>“%1” is no interval: say month, quarter, year or a number of weeks (“2 weeks”).</source>
+        <translation>«%1» no es un intervalo: indique mes, trimestre, año o un número de semanas («2 semanas»).</translation>
+    </message>
+    <message>
+        <source>An invoice cannot repeat every %1 %2; the interval must be at least 1.</source>
+        <translation>Una factura no puede repetirse cada %1 %2; el intervalo debe ser al menos 1.</translation>
+    </message>
+    <message>
+        <source>A repeated invoice needs the day of its first invoice.</source>
+        <translation>Una factura periódica necesita el día de su primera factura.</translation>
+    </message>
+    <message>
+        <source>The last day (%1) lies before the first (%2).</source>
+        <translation>El último día (%1) es anterior al primero (%2).</translation>
+    </message>
+    <message>
+        <source>The number of invoices cannot be negative.</source>
+        <translation>El número de facturas no puede ser negativo.</translation>
+    </message>
+    <message>
+        <source>every week</source>
+        <translation>cada semana</translation>
+    </message>
+    <message>
+        <source>every %1 weeks</source>
+        <translation>cada %1 semanas</translation>
+    </message>
+    <message>
+        <source>every month</source>
+        <translation>cada mes</translation>
+    </message>
+    <message>
+        <source>every quarter</source>
+        <translation>cada trimestre</translation>
+    </message>
+    <message>
+        <source>every year</source>
+        <translation>cada año</translation>
+    </message>
+    <message>
+        <source>every %1 months</source>
+        <translation>cada %1 meses</translation>
+    </message>
+</context>
+<context>
+    <name>RecurringCommand</name>
+    <message>
+        <source>month, quarter, year or N weeks.</source>
+        <translation>month, quarter, year o N weeks.</translation>
+    </message>
+    <message>
+        <source>The day of the first invoice.</source>
+        <translation>El día de la primera factura.</translation>
+    </message>
+    <message>
+        <source>The last day an invoice may fall on.</source>
+        <translation>El último día en que puede caer una factura.</translation>
+    </message>
+    <message>
+        <source>How many invoices in all.</source>
+        <translation>Cuántas facturas en total.</translation>
+    </message>
+    <message>
+        <source>add: e-mail each invoice when written; run: send those now.</source>
+        <translation>add: enviar cada factura por correo al emitirla; run: enviarlas ahora.</translation>
+    </message>
+    <message>
+        <source>Say which invoices would be written; write none.</source>
+        <translation>Decir qué facturas se emitirían; no emitir ninguna.</translation>
+    </message>
+    <message>
+        <source>Invoices that repeat. add copies an invoice or a template on every date from --from: numbered by the invoice pattern, dated on its day, %PERIOD% in its texts filled with the period it bills. run writes every date that has come, those missed meanwhile too, each once; with --send it e-mails those whose schedule says so.</source>
+        <translation>Facturas que se repiten. add copia una factura o una plantilla en cada fecha desde --from: numerada según el patrón de facturas, fechada en su día, %PERIOD% en sus textos sustituido por el periodo que factura. run emite cada fecha llegada, también las perdidas entretanto, cada una una vez; con --send envía por correo las que su calendario indica.</translation>
+    </message>
+    <message>
+        <source>Unknown “%1”: add, list, pause, resume, remove or run.</source>
+        <translation>«%1» desconocido: add, list, pause, resume, remove o run.</translation>
+    </message>
+    <message>
+        <source>%1 takes the number of a repeated invoice, as the list shows it.</source>
+        <translation>%1 espera el número de una factura periódica, tal como lo muestra la lista.</translation>
+    </message>
+    <message>
+        <source>add needs --every and --from.</source>
+        <translation>add necesita --every y --from.</translation>
+    </message>
+    <message>
+        <source>Give --until or --count, not both.</source>
+        <translation>Indique --until o --count, no ambos.</translation>
+    </message>
+    <message>
+        <source>Dates are written as YYYY-MM-DD.</source>
+        <translation>Las fechas se escriben AAAA-MM-DD.</translation>
+    </message>
+    <message>
+        <source>--count takes a number of invoices above 0.</source>
+        <translation>--count espera un número de facturas mayor que 0.</translation>
+    </message>
+    <message>
+        <source>Repeated invoice %1: %2 %3, the first on %4.</source>
+        <translation>Factura periódica %1: %2 %3, la primera el %4.</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pausa</translation>
+    </message>
+    <message>
+        <source>next %1</source>
+        <translation>próxima %1</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>terminada</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 emitidas</translation>
+    </message>
+    <message>
+        <source>, e-mailed</source>
+        <translation>, por correo</translation>
+    </message>
+    <message>
+        <source>Would write repeated invoice %1 of %2.</source>
+        <translation>Emitiría la factura periódica %1 del %2.</translation>
+    </message>
+</context>
+<context>
+    <name>RecurringCommands</name>
+    <message>
+        <source>No database is open.</source>
+        <translation>No hay ninguna base de datos abierta.</translation>
+    </message>
+    <message>
+        <source>There is no repeated invoice %1.</source>
+        <translation>No existe la factura periódica %1.</translation>
+    </message>
+    <message>
+        <source>“%1” (no longer there)</source>
+        <translation>«%1» (ya no existe)</translation>
+    </message>
+    <message>
+        <source>Template “%1”</source>
+        <translation>Plantilla «%1»</translation>
+    </message>
+    <message>
+        <source>Invoice %1</source>
+        <translation>Factura %1</translation>
+    </message>
+    <message>
+        <source>Invoice %1 (%2)</source>
+        <translation>Factura %1 (%2)</translation>
+    </message>
+    <message>
+        <source>“%1” names %2 documents; give the document&apos;s ID instead.</source>
+        <translation>«%1» designa %2 documentos; indique en su lugar el ID del documento.</translation>
+    </message>
+    <message>
+        <source>“%1” is a quote; only an invoice or a template repeats.</source>
+        <translation>«%1» es un presupuesto; solo se repite una factura o una plantilla.</translation>
+    </message>
+    <message>
+        <source>There is no invoice or template “%1”.</source>
+        <translation>No existe ninguna factura ni plantilla «%1».</translation>
+    </message>
+    <message>
+        <source>Repeated invoice %1 is not written: its invoice or template “%2” is no longer there.</source>
+        <translation>La factura periódica %1 no se emite: su factura o plantilla «%2» ya no existe.</translation>
+    </message>
+</context>
+<context>
     <name>ReminderTimer</name>
     <message>
         <source>systemd could not be asked (%1 did not start).</source>
@@ -3009,6 +3281,13 @@ España</translation>
     </message>
 </context>
 <context>
+    <name>ScheduleTable</name>
+    <message>
+        <source>The repeated invoices could not be read or written: %1</source>
+        <translation>No se pudieron leer o escribir las facturas periódicas: %1</translation>
+    </message>
+</context>
+<context>
     <name>Session</name>
     <message>
         <source>The database could not be opened.</source>
@@ -3111,12 +3390,16 @@ España</translation>
         <translation>El archivo anida sus elementos más profundamente que cualquier extracto bancario.</translation>
     </message>
     <message>
-        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054 or MT940).</source>
-        <translation>No es un extracto bancario que Tabo lea (CAMT.053, CAMT.054 o MT940).</translation>
-    </message>
-    <message>
         <source>The file “%1” could not be read: %2</source>
         <translation>No se pudo leer el archivo “%1”: %2</translation>
+    </message>
+    <message>
+        <source>The columns of this CSV file are not recognised: %1. Say once which column holds the date, the amount, the payer, the IBAN and the text; Tabo remembers it for files laid out like this one.</source>
+        <translation>No se reconocen las columnas de este archivo CSV: %1. Indique una vez qué columna contiene la fecha, el importe, el pagador, el IBAN y el texto; Tabo lo recuerda para los archivos con la misma disposición.</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054, MT940 or CSV).</source>
+        <translation>No es un extracto que Tabo lea (CAMT.053, CAMT.054, MT940 o CSV).</translation>
     </message>
 </context>
 <context>
@@ -4230,6 +4513,10 @@ España</translation>
         <source>Received E-Invoice</source>
         <translation>Factura electrónica recibida</translation>
     </message>
+    <message>
+        <source>Import Bank Statement…</source>
+        <translation>Importar extracto bancario…</translation>
+    </message>
 </context>
 <context>
     <name>tabo::FilterButton</name>
@@ -4733,6 +5020,10 @@ España</translation>
         <source>About Tabo</source>
         <translation>Acerca de Tabo</translation>
     </message>
+    <message>
+        <source>Repeat Invoice…</source>
+        <translation>Repetir factura…</translation>
+    </message>
 </context>
 <context>
     <name>tabo::NotificationSheet</name>
@@ -4770,6 +5061,125 @@ España</translation>
     <message>
         <source>FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!</source>
         <translation>¡FALLO! ¡EL DISEÑO SELECCIONADO ESTÁ ROTO, CORRUPTO O DAÑADO! ¡TIENE QUE ARREGLARLO!</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::PaymentReviewWindow</name>
+    <message>
+        <source>Sure</source>
+        <translation>Seguro</translation>
+    </message>
+    <message>
+        <source>Proposed</source>
+        <translation>Propuesto</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>Taken in before</source>
+        <translation>Ya aplicado</translation>
+    </message>
+    <message>
+        <source>No match</source>
+        <translation>Sin coincidencia</translation>
+    </message>
+    <message>
+        <source>Bank Statement</source>
+        <translation>Extracto bancario</translation>
+    </message>
+    <message>
+        <source>Credits on the statement</source>
+        <translation>Abonos del extracto</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Booked</source>
+        <translation>Contabilizado</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Importe</translation>
+    </message>
+    <message>
+        <source>Payer</source>
+        <translation>Pagador</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Invoice</source>
+        <translation>Factura</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation>Coincidencia</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Por qué</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>%1 of %2 credits (%3) will be taken in; the rest is skipped.</source>
+        <translation>Se aplicarán %1 de %2 abonos (%3); el resto se omite.</translation>
+    </message>
+    <message>
+        <source>The bank statement cannot be read</source>
+        <translation>No se puede leer el extracto bancario</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Columns of the Statement</source>
+        <translation>Columnas del extracto</translation>
+    </message>
+    <message>
+        <source>Booking date:</source>
+        <translation>Fecha de contabilización:</translation>
+    </message>
+    <message>
+        <source>Amount:</source>
+        <translation>Importe:</translation>
+    </message>
+    <message>
+        <source>Payer:</source>
+        <translation>Pagador:</translation>
+    </message>
+    <message>
+        <source>IBAN:</source>
+        <translation>IBAN:</translation>
+    </message>
+    <message>
+        <source>Remittance text:</source>
+        <translation>Concepto:</translation>
+    </message>
+    <message>
+        <source>Currency:</source>
+        <translation>Divisa:</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(ninguna)</translation>
+    </message>
+    <message>
+        <source>Tabo does not know the headings of this file. Say once which column holds what; files laid out like it are read so from now on.</source>
+        <translation>Tabo no conoce los encabezados de este archivo. Indique una vez qué contiene cada columna; a partir de ahora los archivos con la misma disposición se leerán así.</translation>
     </message>
 </context>
 <context>
@@ -5397,6 +5807,121 @@ Añada un diseño o importe un archivo de diseño en la sección Diseño de las 
     <message>
         <source>To:</source>
         <translation>Hasta:</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::ScheduleWindow</name>
+    <message>
+        <source>Repeated Invoices</source>
+        <translation>Facturas periódicas</translation>
+    </message>
+    <message>
+        <source>Repeat the current invoice</source>
+        <translation>Repetir la factura actual</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>Intervalo</translation>
+    </message>
+    <message>
+        <source>months</source>
+        <translation>meses</translation>
+    </message>
+    <message>
+        <source>quarters</source>
+        <translation>trimestres</translation>
+    </message>
+    <message>
+        <source>years</source>
+        <translation>años</translation>
+    </message>
+    <message>
+        <source>weeks</source>
+        <translation>semanas</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Hasta</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Último día</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>sin límite</translation>
+    </message>
+    <message>
+        <source>E-mail each invoice when it is written (Tabo asks first)</source>
+        <translation>Enviar cada factura por correo al emitirla (Tabo pregunta antes)</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repetir</translation>
+    </message>
+    <message>
+        <source>Invoice:</source>
+        <translation>Factura:</translation>
+    </message>
+    <message>
+        <source>Every:</source>
+        <translation>Cada:</translation>
+    </message>
+    <message>
+        <source>First on:</source>
+        <translation>Primera el:</translation>
+    </message>
+    <message>
+        <source>Number of invoices:</source>
+        <translation>Número de facturas:</translation>
+    </message>
+    <message>
+        <source>Repeated invoices</source>
+        <translation>Facturas periódicas</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>Intervalo</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Próxima</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>Emitidas</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reanudar</translation>
+    </message>
+    <message>
+        <source>Select an invoice in the list to repeat it.</source>
+        <translation>Seleccione una factura en la lista para repetirla.</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pausa</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>terminada</translation>
     </message>
 </context>
 <context>

@@ -388,6 +388,34 @@ Garder vos modifications et écraser les autres, ou recharger la version enregis
         <source>It is an invoice dump, which no restore reads.</source>
         <translation>C’est un vidage de factures, qu’aucune restauration ne lit.</translation>
     </message>
+    <message>
+        <source>Repeated Invoices</source>
+        <translation>Factures récurrentes</translation>
+    </message>
+    <message>
+        <source>Send Repeated Invoices</source>
+        <translation>Envoyer les factures récurrentes</translation>
+    </message>
+    <message>
+        <source>These repeated invoices were written and are to be e-mailed:
+
+%1
+
+Open a message for each now?</source>
+        <translation>Ces factures récurrentes ont été établies et doivent être envoyées par e-mail :
+
+%1
+
+Ouvrir un message pour chacune maintenant ?</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Pas maintenant</translation>
+    </message>
 </context>
 <context>
     <name>AttributeText</name>
@@ -816,6 +844,29 @@ Garder vos modifications et écraser les autres, ou recharger la version enregis
     <message>
         <source>Convert a quote into an invoice (new number, title and texts); cannot be undone, so it needs --yes.</source>
         <translation>Convertit un devis en facture (nouveau numéro, titre et textes) ; irréversible, il faut donc --yes.</translation>
+    </message>
+</context>
+<context>
+    <name>CsvStatement</name>
+    <message>
+        <source>“%1” is no column of a statement; the columns are date, amount, credit, debit, currency, payer, iban, text and reference.</source>
+        <translation>« %1 » n’est pas une colonne d’un relevé ; les colonnes sont date, amount, credit, debit, currency, payer, iban, text et reference.</translation>
+    </message>
+    <message>
+        <source>The file has no column “%1”.</source>
+        <translation>Le fichier n’a pas de colonne « %1 ».</translation>
+    </message>
+    <message>
+        <source>A statement needs at least its date and amount columns (or credit).</source>
+        <translation>Un relevé a besoin au moins des colonnes de date et de montant (ou de crédit).</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054, MT940 or CSV): it has no heading of three or more columns.</source>
+        <translation>Ce n’est pas un relevé que Tabo lit (CAMT.053, CAMT.054, MT940 ou CSV) : il n’a pas d’en-tête de trois colonnes ou plus.</translation>
+    </message>
+    <message>
+        <source>Entry %1 has no amount that can be read: “%2”.</source>
+        <translation>L’écriture %1 n’a pas de montant lisible : « %2 ».</translation>
     </message>
 </context>
 <context>
@@ -2041,6 +2092,10 @@ Annuler : le prochain document (%1) portera le numéro %3.</translation>
         <source>--wait takes a number of seconds.</source>
         <translation>--wait accepte un nombre de secondes.</translation>
     </message>
+    <message>
+        <source>Repeated invoices written: %1.</source>
+        <translation>Factures récurrentes établies : %1.</translation>
+    </message>
 </context>
 <context>
     <name>NumberCounters</name>
@@ -2168,6 +2223,14 @@ Vous pouvez enregistrer le PDF et le joindre vous-même à un message, ou ouvrir
         <source>No database is open.</source>
         <translation>Aucune base de données n’est ouverte.</translation>
     </message>
+    <message>
+        <source>Import Bank Statement</source>
+        <translation>Importer un relevé bancaire</translation>
+    </message>
+    <message>
+        <source>Payments</source>
+        <translation>Paiements</translation>
+    </message>
 </context>
 <context>
     <name>PaymentLedger</name>
@@ -2178,10 +2241,6 @@ Vous pouvez enregistrer le PDF et le joindre vous-même à un message, ou ouvrir
 </context>
 <context>
     <name>PaymentsCommand</name>
-    <message>
-        <source>Read a bank statement (CAMT.053, CAMT.054 or MT940) and match its credits against the open invoices: sure (the text names the invoice and the amount is what it owes), proposed, ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid or partly paid. A booking is never taken in twice.</source>
-        <translation>Lit un relevé bancaire (CAMT.053, CAMT.054 ou MT940) et rapproche ses crédits des factures ouvertes : sûr (le texte nomme la facture et le montant est ce qu’elle doit), proposé, ambigu, aucun ou déjà pris en compte. --apply prend en compte les rapprochements sûrs : la facture est payée ou partiellement payée. Une écriture n’est jamais prise en compte deux fois.</translation>
-    </message>
     <message>
         <source>Print JSON.</source>
         <translation>Afficher en JSON.</translation>
@@ -2197,6 +2256,14 @@ Vous pouvez enregistrer le PDF et le joindre vous-même à un message, ou ouvrir
     <message>
         <source>Payments taken in: %1.</source>
         <translation>Paiements pris en compte : %1.</translation>
+    </message>
+    <message>
+        <source>Read a bank statement (CAMT.053, CAMT.054, MT940 or CSV) and match its credits against the open invoices: sure (the text names the invoice and the amount is what it owes), proposed, ambiguous, none, or imported before. --apply takes in the sure matches: the invoice is paid or partly paid. A booking is never taken in twice. --columns names the columns of a CSV export whose headings are not recognised (date, amount or credit and debit, currency, payer, iban, text, reference; by number or heading); they are remembered for files laid out like it.</source>
+        <translation>Lire un relevé bancaire (CAMT.053, CAMT.054, MT940 ou CSV) et rapprocher ses crédits des factures ouvertes : sûr (le texte nomme la facture et le montant est ce qu’elle doit), proposé, ambigu, aucun, ou déjà importé. --apply prend en compte les rapprochements sûrs : la facture est payée ou payée en partie. Une écriture n’est jamais prise en compte deux fois. --columns nomme les colonnes d’un export CSV dont les en-têtes ne sont pas reconnus (date, amount ou credit et debit, currency, payer, iban, text, reference ; par numéro ou en-tête) ; elles sont retenues pour les fichiers de même présentation.</translation>
+    </message>
+    <message>
+        <source>The columns of a CSV statement.</source>
+        <translation>Les colonnes d’un relevé CSV.</translation>
     </message>
 </context>
 <context>
@@ -2738,6 +2805,211 @@ Vous pouvez enregistrer le PDF et le joindre vous-même à un message, ou ouvrir
     </message>
 </context>
 <context>
+    <name>Recurrence</name>
+    <message>
+        <source>month</source>
+        <translation>mois</translation>
+    </message>
+    <message>
+        <source>months</source>
+        <translation>mois</translation>
+    </message>
+    <message>
+        <source>quarter</source>
+        <translation>trimestre</translation>
+    </message>
+    <message>
+        <source>quarters</source>
+        <translation>trimestres</translation>
+    </message>
+    <message>
+        <source>year</source>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>years</source>
+        <translation>ans</translation>
+    </message>
+    <message>
+        <source>week</source>
+        <translation>semaine</translation>
+    </message>
+    <message>
+        <source>weeks</source>
+        <translation>semaines</translation>
+    </message>
+    <message>
+        <source>“%1” is no interval: say month, quarter, year or a number of weeks (“2 weeks”).</source>
+        <translation>« %1 » n’est pas un intervalle : indiquez mois, trimestre, an ou un nombre de semaines (« 2 semaines »).</translation>
+    </message>
+    <message>
+        <source>An invoice cannot repeat every %1 %2; the interval must be at least 1.</source>
+        <translation>Une facture ne peut pas se répéter tous les %1 %2 ; l’intervalle doit valoir au moins 1.</translation>
+    </message>
+    <message>
+        <source>A repeated invoice needs the day of its first invoice.</source>
+        <translation>Une facture récurrente a besoin du jour de sa première facture.</translation>
+    </message>
+    <message>
+        <source>The last day (%1) lies before the first (%2).</source>
+        <translation>Le dernier jour (%1) précède le premier (%2).</translation>
+    </message>
+    <message>
+        <source>The number of invoices cannot be negative.</source>
+        <translation>Le nombre de factures ne peut pas être négatif.</translation>
+    </message>
+    <message>
+        <source>every week</source>
+        <translation>chaque semaine</translation>
+    </message>
+    <message>
+        <source>every %1 weeks</source>
+        <translation>toutes les %1 semaines</translation>
+    </message>
+    <message>
+        <source>every month</source>
+        <translation>chaque mois</translation>
+    </message>
+    <message>
+        <source>every quarter</source>
+        <translation>chaque trimestre</translation>
+    </message>
+    <message>
+        <source>every year</source>
+        <translation>chaque année</translation>
+    </message>
+    <message>
+        <source>every %1 months</source>
+        <translation>tous les %1 mois</translation>
+    </message>
+</context>
+<context>
+    <name>RecurringCommand</name>
+    <message>
+        <source>month, quarter, year or N weeks.</source>
+        <translation>month, quarter, year ou N weeks.</translation>
+    </message>
+    <message>
+        <source>The day of the first invoice.</source>
+        <translation>Le jour de la première facture.</translation>
+    </message>
+    <message>
+        <source>The last day an invoice may fall on.</source>
+        <translation>Le dernier jour où une facture peut tomber.</translation>
+    </message>
+    <message>
+        <source>How many invoices in all.</source>
+        <translation>Combien de factures au total.</translation>
+    </message>
+    <message>
+        <source>add: e-mail each invoice when written; run: send those now.</source>
+        <translation>add : envoyer chaque facture par e-mail une fois établie ; run : les envoyer maintenant.</translation>
+    </message>
+    <message>
+        <source>Say which invoices would be written; write none.</source>
+        <translation>Dire quelles factures seraient établies ; n’en établir aucune.</translation>
+    </message>
+    <message>
+        <source>Invoices that repeat. add copies an invoice or a template on every date from --from: numbered by the invoice pattern, dated on its day, %PERIOD% in its texts filled with the period it bills. run writes every date that has come, those missed meanwhile too, each once; with --send it e-mails those whose schedule says so.</source>
+        <translation>Des factures qui se répètent. add copie une facture ou un modèle à chaque date à partir de --from : numérotée selon le modèle de numéro des factures, datée de son jour, %PERIOD% dans ses textes remplacé par la période facturée. run établit chaque date arrivée, y compris celles manquées entre-temps, chacune une fois ; avec --send, il envoie par e-mail celles dont l’échéancier le prévoit.</translation>
+    </message>
+    <message>
+        <source>Unknown “%1”: add, list, pause, resume, remove or run.</source>
+        <translation>« %1 » inconnu : add, list, pause, resume, remove ou run.</translation>
+    </message>
+    <message>
+        <source>%1 takes the number of a repeated invoice, as the list shows it.</source>
+        <translation>%1 attend le numéro d’une facture récurrente, tel que la liste l’affiche.</translation>
+    </message>
+    <message>
+        <source>add needs --every and --from.</source>
+        <translation>add a besoin de --every et de --from.</translation>
+    </message>
+    <message>
+        <source>Give --until or --count, not both.</source>
+        <translation>Indiquez --until ou --count, pas les deux.</translation>
+    </message>
+    <message>
+        <source>Dates are written as YYYY-MM-DD.</source>
+        <translation>Les dates s’écrivent AAAA-MM-JJ.</translation>
+    </message>
+    <message>
+        <source>--count takes a number of invoices above 0.</source>
+        <translation>--count attend un nombre de factures supérieur à 0.</translation>
+    </message>
+    <message>
+        <source>Repeated invoice %1: %2 %3, the first on %4.</source>
+        <translation>Facture récurrente %1 : %2 %3, la première le %4.</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pause</translation>
+    </message>
+    <message>
+        <source>next %1</source>
+        <translation>prochaine %1</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>terminée</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 établies</translation>
+    </message>
+    <message>
+        <source>, e-mailed</source>
+        <translation>, par e-mail</translation>
+    </message>
+    <message>
+        <source>Would write repeated invoice %1 of %2.</source>
+        <translation>Établirait la facture récurrente %1 du %2.</translation>
+    </message>
+</context>
+<context>
+    <name>RecurringCommands</name>
+    <message>
+        <source>No database is open.</source>
+        <translation>Aucune base de données n’est ouverte.</translation>
+    </message>
+    <message>
+        <source>There is no repeated invoice %1.</source>
+        <translation>Il n’y a pas de facture récurrente %1.</translation>
+    </message>
+    <message>
+        <source>“%1” (no longer there)</source>
+        <translation>« %1 » (n’existe plus)</translation>
+    </message>
+    <message>
+        <source>Template “%1”</source>
+        <translation>Modèle « %1 »</translation>
+    </message>
+    <message>
+        <source>Invoice %1</source>
+        <translation>Facture %1</translation>
+    </message>
+    <message>
+        <source>Invoice %1 (%2)</source>
+        <translation>Facture %1 (%2)</translation>
+    </message>
+    <message>
+        <source>“%1” names %2 documents; give the document&apos;s ID instead.</source>
+        <translation>« %1 » désigne %2 documents ; indiquez plutôt l’identifiant du document.</translation>
+    </message>
+    <message>
+        <source>“%1” is a quote; only an invoice or a template repeats.</source>
+        <translation>« %1 » est un devis ; seule une facture ou un modèle se répète.</translation>
+    </message>
+    <message>
+        <source>There is no invoice or template “%1”.</source>
+        <translation>Il n’y a ni facture ni modèle « %1 ».</translation>
+    </message>
+    <message>
+        <source>Repeated invoice %1 is not written: its invoice or template “%2” is no longer there.</source>
+        <translation>La facture récurrente %1 n’est pas établie : sa facture ou son modèle « %2 » n’existe plus.</translation>
+    </message>
+</context>
+<context>
     <name>ReminderTimer</name>
     <message>
         <source>systemd could not be asked (%1 did not start).</source>
@@ -3009,6 +3281,13 @@ France</translation>
     </message>
 </context>
 <context>
+    <name>ScheduleTable</name>
+    <message>
+        <source>The repeated invoices could not be read or written: %1</source>
+        <translation>Les factures récurrentes n’ont pas pu être lues ou écrites : %1</translation>
+    </message>
+</context>
+<context>
     <name>Session</name>
     <message>
         <source>The database could not be opened.</source>
@@ -3111,12 +3390,16 @@ France</translation>
         <translation>Le fichier imbrique ses éléments plus profondément qu’aucun relevé bancaire.</translation>
     </message>
     <message>
-        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054 or MT940).</source>
-        <translation>Ce n’est pas un relevé bancaire que Tabo lit (CAMT.053, CAMT.054 ou MT940).</translation>
-    </message>
-    <message>
         <source>The file “%1” could not be read: %2</source>
         <translation>Le fichier “%1” n’a pas pu être lu : %2</translation>
+    </message>
+    <message>
+        <source>The columns of this CSV file are not recognised: %1. Say once which column holds the date, the amount, the payer, the IBAN and the text; Tabo remembers it for files laid out like this one.</source>
+        <translation>Les colonnes de ce fichier CSV ne sont pas reconnues : %1. Indiquez une fois quelle colonne contient la date, le montant, le payeur, l’IBAN et le texte ; Tabo le retient pour les fichiers de même présentation.</translation>
+    </message>
+    <message>
+        <source>This is not a bank statement Tabo reads (CAMT.053, CAMT.054, MT940 or CSV).</source>
+        <translation>Ce n’est pas un relevé que Tabo lit (CAMT.053, CAMT.054, MT940 ou CSV).</translation>
     </message>
 </context>
 <context>
@@ -4230,6 +4513,10 @@ France</translation>
         <source>Received E-Invoice</source>
         <translation>Facture électronique reçue</translation>
     </message>
+    <message>
+        <source>Import Bank Statement…</source>
+        <translation>Importer un relevé bancaire…</translation>
+    </message>
 </context>
 <context>
     <name>tabo::FilterButton</name>
@@ -4572,7 +4859,7 @@ France</translation>
     <name>tabo::LogoWell</name>
     <message>
         <source>Remove</source>
-        <translation>Retirer</translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -4733,6 +5020,10 @@ France</translation>
         <source>About Tabo</source>
         <translation>À propos de Tabo</translation>
     </message>
+    <message>
+        <source>Repeat Invoice…</source>
+        <translation>Répéter la facture…</translation>
+    </message>
 </context>
 <context>
     <name>tabo::NotificationSheet</name>
@@ -4770,6 +5061,125 @@ France</translation>
     <message>
         <source>FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!</source>
         <translation>ÉCHEC ! LE DESIGN CHOISI EST CASSÉ, CORROMPU OU ENDOMMAGÉ ! VOUS DEVEZ LE RÉPARER !</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::PaymentReviewWindow</name>
+    <message>
+        <source>Sure</source>
+        <translation>Sûr</translation>
+    </message>
+    <message>
+        <source>Proposed</source>
+        <translation>Proposé</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>À choisir</translation>
+    </message>
+    <message>
+        <source>Taken in before</source>
+        <translation>Déjà pris en compte</translation>
+    </message>
+    <message>
+        <source>No match</source>
+        <translation>Aucun rapprochement</translation>
+    </message>
+    <message>
+        <source>Bank Statement</source>
+        <translation>Relevé bancaire</translation>
+    </message>
+    <message>
+        <source>Credits on the statement</source>
+        <translation>Crédits du relevé</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Prendre</translation>
+    </message>
+    <message>
+        <source>Booked</source>
+        <translation>Comptabilisé</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Montant</translation>
+    </message>
+    <message>
+        <source>Payer</source>
+        <translation>Payeur</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Invoice</source>
+        <translation>Facture</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation>Rapprochement</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Pourquoi</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>%1 of %2 credits (%3) will be taken in; the rest is skipped.</source>
+        <translation>%1 crédits sur %2 (%3) seront pris en compte ; le reste est ignoré.</translation>
+    </message>
+    <message>
+        <source>The bank statement cannot be read</source>
+        <translation>Le relevé bancaire ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Columns of the Statement</source>
+        <translation>Colonnes du relevé</translation>
+    </message>
+    <message>
+        <source>Booking date:</source>
+        <translation>Date de comptabilisation :</translation>
+    </message>
+    <message>
+        <source>Amount:</source>
+        <translation>Montant :</translation>
+    </message>
+    <message>
+        <source>Payer:</source>
+        <translation>Payeur :</translation>
+    </message>
+    <message>
+        <source>IBAN:</source>
+        <translation>IBAN :</translation>
+    </message>
+    <message>
+        <source>Remittance text:</source>
+        <translation>Libellé du virement :</translation>
+    </message>
+    <message>
+        <source>Currency:</source>
+        <translation>Devise :</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(aucune)</translation>
+    </message>
+    <message>
+        <source>Tabo does not know the headings of this file. Say once which column holds what; files laid out like it are read so from now on.</source>
+        <translation>Tabo ne connaît pas les en-têtes de ce fichier. Indiquez une fois quelle colonne contient quoi ; les fichiers de même présentation seront désormais lus ainsi.</translation>
     </message>
 </context>
 <context>
@@ -5397,6 +5807,121 @@ Ajoutez un design ou importez un fichier de design dans la section Design des pr
     <message>
         <source>To:</source>
         <translation>Au :</translation>
+    </message>
+</context>
+<context>
+    <name>tabo::ScheduleWindow</name>
+    <message>
+        <source>Repeated Invoices</source>
+        <translation>Factures récurrentes</translation>
+    </message>
+    <message>
+        <source>Repeat the current invoice</source>
+        <translation>Répéter la facture actuelle</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>Intervalle</translation>
+    </message>
+    <message>
+        <source>months</source>
+        <translation>mois</translation>
+    </message>
+    <message>
+        <source>quarters</source>
+        <translation>trimestres</translation>
+    </message>
+    <message>
+        <source>years</source>
+        <translation>ans</translation>
+    </message>
+    <message>
+        <source>weeks</source>
+        <translation>semaines</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Jusqu’au</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Dernier jour</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>sans limite</translation>
+    </message>
+    <message>
+        <source>E-mail each invoice when it is written (Tabo asks first)</source>
+        <translation>Envoyer chaque facture par e-mail une fois établie (Tabo demande d’abord)</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Répéter</translation>
+    </message>
+    <message>
+        <source>Invoice:</source>
+        <translation>Facture :</translation>
+    </message>
+    <message>
+        <source>Every:</source>
+        <translation>Tous les :</translation>
+    </message>
+    <message>
+        <source>First on:</source>
+        <translation>Première le :</translation>
+    </message>
+    <message>
+        <source>Number of invoices:</source>
+        <translation>Nombre de factures :</translation>
+    </message>
+    <message>
+        <source>Repeated invoices</source>
+        <translation>Factures récurrentes</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copie</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>Intervalle</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Prochaine</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>Établies</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Suspendre</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Select an invoice in the list to repeat it.</source>
+        <translation>Sélectionnez une facture dans la liste pour la répéter.</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pause</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>terminée</translation>
     </message>
 </context>
 <context>
