@@ -168,6 +168,12 @@ void TestPayments::refusesWhatIsNoStatement()
     QVERIFY(refusal("date;amount\n2026-11-01;12,00\n").contains(QLatin1String("not a bank statement")));
     QVERIFY(!refusal(camt("053", "<Ntry><Amt Ccy=\"EUR\">1.00</Amt>")).isEmpty()); // truncated
     QVERIFY(refusal(QByteArray(21 * 1024 * 1024, ' ')).contains(QLatin1String("larger")));
+    // Ten thousand entries are a busy year, not an attack: read whole.
+    QByteArray many;
+    for (int i = 0; i < 10000; ++i)
+        many += camtEntry("1.00", "CRDT", "2026-11-02", QByteArray::number(i), QByteArray());
+    const Result<Statement> busy = readStatement(camt("053", many), kToday);
+    QVERIFY(busy.ok() && busy.value().credits.size() == 10000);
     QByteArray deep = "<Document xmlns=\"urn:iso:std:iso:20022:tech:xsd:camt.053.001.02\">";
     for (int i = 0; i < 40; ++i)
         deep += "<a>";
