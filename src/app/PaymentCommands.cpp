@@ -117,7 +117,7 @@ Result<int> PaymentCommands::apply(const QList<payments::Proposal> &accepted)
             invoice.setInt(Invoice::status, full ? 3 : 4);
             if (full) {
                 invoice.setBool(Invoice::isPaid, true);
-                invoice.setDate(Invoice::paid, Date::fromDateTime(p.credit.booked.startOfDay()));
+                invoice.setDate(Invoice::paid, noonOf(p.credit.booked));
                 if (const Error cancelled = NotificationSchedule::cancelPendingOf(db, invoice.text(Invoice::uniqueID)))
                     return cancelled;
             }

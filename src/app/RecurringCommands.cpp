@@ -35,13 +35,6 @@ Error noSchedule(qint64 id)
     return Error::input(Tr::tr("There is no repeated invoice %1.").arg(id));
 }
 
-// Noon of the day where the person is: a day that gains or loses an hour
-// to daylight saving still holds it, and so does the day 24 hours later.
-Date noonOf(QDate day)
-{
-    return Date::fromDateTime(QDateTime(day, QTime(12, 0)));
-}
-
 // The texts of a document and its lines in which %PERIOD% is filled.
 constexpr int kDocumentTexts[] = { Invoice::title, Invoice::subject, Invoice::notes, Invoice::conditions,
     Invoice::footer, Invoice::misc1 };

@@ -46,6 +46,13 @@ private:
     bool m_valid = false;
 };
 
+// Noon of `day` where the person is: a day that gains or loses an hour to
+// daylight saving still holds it, and so does the day 24 hours later.
+inline Date noonOf(QDate day)
+{
+    return Date::fromDateTime(QDateTime(day, QTime(12, 0)));
+}
+
 } // namespace tabo
 
 Q_DECLARE_METATYPE(tabo::Date)

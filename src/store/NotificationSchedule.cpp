@@ -1,6 +1,7 @@
 #include "store/NotificationSchedule.h"
 
 #include "store/Schema.h"
+#include "store/SqlStatement.h"
 #include "store/Store.h"
 
 #include <QCoreApplication>
@@ -17,33 +18,13 @@ namespace tabo {
 
 namespace {
 
-class Statement
+// Statements of the notification table, named "%1" in their text.
+struct Statement : SqlStatement
 {
-public:
-    Statement(sqlite3 *db, const QString &sql) : m_db(db)
+    Statement(sqlite3 *db, const QString &sql)
+        : SqlStatement(db, sql.arg(schema::kNotificationTable))
     {
-        if (db)
-            sqlite3_prepare_v2(db, sql.arg(schema::kNotificationTable).toUtf8().constData(), -1, &m_st, nullptr);
     }
-    ~Statement() { sqlite3_finalize(m_st); }
-    explicit operator bool() const { return m_st != nullptr; }
-    sqlite3_stmt *get() const { return m_st; }
-    void bind(int i, const QString &text)
-    {
-        const QByteArray utf8 = text.toUtf8();
-        sqlite3_bind_text(m_st, i, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
-    }
-    void bind(int i, double v) { sqlite3_bind_double(m_st, i, v); }
-    void bind(int i, qint64 v) { sqlite3_bind_int64(m_st, i, v); }
-    Error error(const QString &what) const
-    {
-        return Error{Error::Store, m_db ? sqlite3_errcode(m_db) : SQLITE_MISUSE, what,
-                     m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QString()};
-    }
-
-private:
-    sqlite3 *m_db;
-    sqlite3_stmt *m_st = nullptr;
 };
 
 const QString kColumns = QStringLiteral("\"id\", \"uniqueID\", \"title\", \"subtitle\", \"text\", \"date\", \"sound\", \"delivered\"");

@@ -1,10 +1,10 @@
 #include "store/PaymentLedger.h"
 
 #include "store/Schema.h"
+#include "store/SqlStatement.h"
 
 #include <QCoreApplication>
 
-#include <sqlite3.h>
 
 namespace {
 struct Tr
@@ -12,30 +12,13 @@ struct Tr
     Q_DECLARE_TR_FUNCTIONS(PaymentLedger)
 };
 
-// A prepared statement that finalizes itself.
-class Statement
+// Statements of the payments table, named "%1" in their text.
+struct Statement : tabo::SqlStatement
 {
-public:
     Statement(sqlite3 *db, const QString &sql)
+        : SqlStatement(db, sql.arg(tabo::schema::kPaymentTable))
     {
-        sqlite3_prepare_v2(db, sql.arg(tabo::schema::kPaymentTable).toUtf8().constData(), -1, &m_st, nullptr);
     }
-    ~Statement() { sqlite3_finalize(m_st); }
-    Statement(const Statement &) = delete;
-    Statement &operator=(const Statement &) = delete;
-    sqlite3_stmt *get() const { return m_st; }
-    void bind(int i, const QString &text)
-    {
-        const QByteArray utf8 = text.toUtf8();
-        sqlite3_bind_text(m_st, i, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
-    }
-    QString text(int column) const
-    {
-        return QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(m_st, column)));
-    }
-
-private:
-    sqlite3_stmt *m_st = nullptr;
 };
 
 tabo::Error failed(sqlite3 *db)
@@ -87,15 +70,15 @@ Error add(sqlite3 *db, const Entry &entry)
     Statement st(db,
         QStringLiteral("INSERT INTO \"%1\" (\"reference\", \"invoice\", \"cents\", \"booked\", \"payer\", "
                        "\"iban\") VALUES (?, ?, ?, ?, ?, ?)"));
-    if (!st.get())
+    if (!st)
         return failed(db);
     st.bind(1, entry.reference);
     st.bind(2, entry.invoice);
-    sqlite3_bind_int64(st.get(), 3, entry.cents);
+    st.bind(3, entry.cents);
     st.bind(4, entry.booked.toString(Qt::ISODate));
     st.bind(5, entry.payer);
     st.bind(6, entry.iban);
-    return sqlite3_step(st.get()) == SQLITE_DONE ? Error {} : failed(db);
+    return st.run() ? Error {} : failed(db);
 }
 
 Error remove(sqlite3 *db, const QString &reference)
@@ -104,7 +87,7 @@ Error remove(sqlite3 *db, const QString &reference)
     if (!st.get())
         return failed(db);
     st.bind(1, reference);
-    return sqlite3_step(st.get()) == SQLITE_DONE ? Error {} : failed(db);
+    return st.run() ? Error {} : failed(db);
 }
 
 } // namespace tabo::PaymentLedger

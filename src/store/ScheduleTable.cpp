@@ -1,11 +1,11 @@
 #include "store/ScheduleTable.h"
 
 #include "store/Schema.h"
+#include "store/SqlStatement.h"
 
 #include <QCoreApplication>
 #include <QHash>
 
-#include <sqlite3.h>
 
 namespace {
 struct Tr
@@ -13,39 +13,17 @@ struct Tr
     Q_DECLARE_TR_FUNCTIONS(ScheduleTable)
 };
 
-class Statement
+// Statements of the two tables, named "%1" (schedules) and "%2" (statement
+// layouts) in their text.
+struct Statement : tabo::SqlStatement
 {
-public:
     Statement(sqlite3 *db, const QString &sql)
+        : SqlStatement(db,
+            QString(sql)
+                .replace(QLatin1String("%1"), tabo::schema::kScheduleTable)
+                .replace(QLatin1String("%2"), tabo::schema::kStatementLayoutTable))
     {
-        const QString text = QString(sql)
-                                 .replace(QLatin1String("%1"), tabo::schema::kScheduleTable)
-                                 .replace(QLatin1String("%2"), tabo::schema::kStatementLayoutTable);
-        sqlite3_prepare_v2(db, text.toUtf8().constData(), -1, &m_st, nullptr);
     }
-    ~Statement() { sqlite3_finalize(m_st); }
-    Statement(const Statement &) = delete;
-    Statement &operator=(const Statement &) = delete;
-    sqlite3_stmt *get() const { return m_st; }
-    void bind(int i, const QString &text)
-    {
-        if (text.isNull()) {
-            sqlite3_bind_null(m_st, i);
-            return;
-        }
-        const QByteArray utf8 = text.toUtf8();
-        sqlite3_bind_text(m_st, i, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
-    }
-    void bind(int i, qint64 v) { sqlite3_bind_int64(m_st, i, v); }
-    QString text(int column) const
-    {
-        const auto *t = reinterpret_cast<const char *>(sqlite3_column_text(m_st, column));
-        return t ? QString::fromUtf8(t) : QString();
-    }
-    int integer(int column) const { return sqlite3_column_int(m_st, column); }
-
-private:
-    sqlite3_stmt *m_st = nullptr;
 };
 
 tabo::Error failed(sqlite3 *db)
@@ -57,7 +35,7 @@ tabo::Error failed(sqlite3 *db)
 // Runs a one-row change; false when no row was there.
 tabo::Result<bool> changeOne(sqlite3 *db, Statement &st)
 {
-    if (!st.get() || sqlite3_step(st.get()) != SQLITE_DONE)
+    if (!st.run())
         return failed(db);
     return sqlite3_changes(db) > 0;
 }
@@ -106,7 +84,10 @@ Error add(sqlite3 *db, Schedule &s)
     st.bind(3, r.unit == Recurrence::Unit::Week ? QStringLiteral("week") : QStringLiteral("month"));
     st.bind(4, qint64(r.every));
     st.bind(5, r.start.toString(Qt::ISODate));
-    st.bind(6, r.until.isValid() ? r.until.toString(Qt::ISODate) : QString());
+    if (r.until.isValid())
+        st.bind(6, r.until.toString(Qt::ISODate));
+    else
+        st.bindNull(6);
     st.bind(7, qint64(r.count));
     st.bind(8, qint64(s.made));
     st.bind(9, qint64(s.paused));
