@@ -24,6 +24,7 @@ private Q_SLOTS:
     void catchesUpEachDateOnceInOrder();
     void keepsTheDayAcrossDaylightSaving();
     void twoProcessesNeverBillTwice();
+    void windowAsksBeforeSending();
 };
 
 namespace {
@@ -228,6 +229,24 @@ void TestRecurring::twoProcessesNeverBillTwice()
     QCOMPARE(numbers.size(), due);
     QCOMPARE(days.size(), due);
     QCOMPARE(f.app.recurring().list().value().first().made, due);
+}
+
+void TestRecurring::windowAsksBeforeSending()
+{
+    Books f;
+    Record *source = f.monthlyInvoice();
+    QVERIFY(f.app.recurring().add(source->text(Invoice::uniqueID), every("month", kToday), true).ok());
+    f.ui.answers = { 1 }; // "Not Now"
+    f.app.runRecurring();
+    QCOMPARE(f.ui.lastAlertTitle(), QStringLiteral("Send Repeated Invoices"));
+    const QList<Record *> made = f.madeFrom(QStringLiteral("Hosting "));
+    QCOMPARE(made.size(), 1);
+    QVERIFY(f.ui.lastAlertText().contains(made.first()->text(Invoice::number)));
+    QVERIFY(f.ui.opened.isEmpty());
+    // Written once: the next start asks nothing.
+    const qsizetype asked = f.ui.alerts.size();
+    f.app.runRecurring();
+    QCOMPARE(f.ui.alerts.size(), asked);
 }
 
 QTEST_GUILESS_MAIN(TestRecurring)
