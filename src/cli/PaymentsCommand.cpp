@@ -95,7 +95,7 @@ int PaymentsCommand::execute(const QStringList &args)
     const QCommandLineOption json(QStringLiteral("json"), Tr::tr("Print JSON."));
     const QCommandLineOption apply(QStringLiteral("apply"), Tr::tr("Take in the sure matches."));
     const QCommandLineOption columns(
-        QStringLiteral("columns"), Tr::tr("The columns of a CSV statement."), QStringLiteral("SPEC"));
+        QStringLiteral("columns"), Tr::tr("The columns of a CSV statement."), QStringLiteral("COLUMNS"));
     parser.addOptions({ json, apply, columns });
     int code = kExitOk;
     if (!parse(parser, args, 2, 2, &code))
