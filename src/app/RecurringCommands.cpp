@@ -12,6 +12,8 @@
 #include <QCoreApplication>
 #include <QTime>
 
+#include <optional>
+
 namespace {
 struct Tr
 {
@@ -57,21 +59,25 @@ void fillPeriod(Record &record, const int *texts, size_t count, const QString &p
 
 } // namespace
 
-Record *RecurringCommands::findSource(const Schedule &schedule)
+RecurringCommands::Sources RecurringCommands::sources()
 {
+    Sources found;
     Store *store = m_store.store();
     if (!store)
-        return nullptr;
-    if (schedule.fromTemplate) {
-        for (Record *t : store->all(EntityId::Template))
-            if (!t->isDeleted() && t->text(Invoice::uniqueID) == schedule.source)
-                return t;
-        return nullptr;
-    }
+        return found;
+    // The first of equal keys wins, as a search in list order would find it.
+    for (Record *t : store->all(EntityId::Template))
+        if (!t->isDeleted() && !found.templates.contains(t->text(Invoice::uniqueID)))
+            found.templates.insert(t->text(Invoice::uniqueID), t);
     for (Record *d : m_list.documentList().all())
-        if (d->text(Invoice::uniqueID) == schedule.source)
-            return d;
-    return nullptr;
+        if (!found.invoices.contains(d->text(Invoice::uniqueID)))
+            found.invoices.insert(d->text(Invoice::uniqueID), d);
+    return found;
+}
+
+Record *RecurringCommands::findSource(const Schedule &schedule, const Sources &sources)
+{
+    return (schedule.fromTemplate ? sources.templates : sources.invoices).value(schedule.source);
 }
 
 QString RecurringCommands::sourceName(const Schedule &schedule)
@@ -214,10 +220,13 @@ Result<RecurringCommands::Run> RecurringCommands::run(QDate today, bool dryRun)
         const Result<QList<Schedule>> schedules = ScheduleTable::list(db);
         if (!schedules)
             return schedules.error();
+        std::optional<Sources> known; // read at the first schedule that is due
         for (const Schedule &schedule : schedules.value()) {
             if (schedule.paused || !schedule.next().isValid() || schedule.next() > today)
                 continue;
-            const Record *source = findSource(schedule);
+            if (!known)
+                known = sources();
+            const Record *source = findSource(schedule, *known);
             if (!source) {
                 result.problems << Tr::tr("Repeated invoice %1 is not written: its invoice or template “%2” is "
                                           "no longer there.")

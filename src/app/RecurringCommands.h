@@ -3,6 +3,7 @@
 #include "base/Result.h"
 #include "store/ScheduleTable.h"
 
+#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -61,7 +62,16 @@ public:
     QString periodLabel(const Schedule &schedule, QDate day) const;
 
 private:
-    Record *findSource(const Schedule &schedule);
+    // The invoices by uniqueID and the templates by name, read once for a
+    // run over many schedules.
+    struct Sources
+    {
+        QHash<QString, Record *> invoices;
+        QHash<QString, Record *> templates;
+    };
+    Sources sources();
+    static Record *findSource(const Schedule &schedule, const Sources &sources);
+    Record *findSource(const Schedule &schedule) { return findSource(schedule, sources()); }
     Record *makeInvoice(const Record &source, const Schedule &schedule, QDate day);
 
     StoreAccess &m_store;
